@@ -1,0 +1,128 @@
+#pragma once
+
+#include <stddef.h>
+#include <stdint.h>
+
+#include "tarv_3_3/export.h"
+
+namespace dovel2 {
+
+/// The kinds of value. The numbers are part of the binary interface.
+enum das_variant_type_t {
+    vtBool = 0,
+    vtInt32 = 6,
+    vtUInt32 = 7,
+    vtInt64 = 8,
+    vtUInt64 = 9,
+    vtDouble = 11,
+    vtString = 12,
+    vtNull = 17
+};
+
+namespace internal {
+
+/// Adds one to `*counter` in one atomic step and returns the new value.
+TARV_API int sync_inc(volatile int* counter);
+
+/// Takes one from `*counter` in one atomic step and returns the new value.
+TARV_API int sync_dec(volatile int* counter);
+
+struct shared_text_t;
+
+} // namespace internal
+
+/// Where variants get the memory of their texts.
+struct variant_memory_t {
+    /// Returns a block of at least `bytes` bytes, aligned for any object, or null when there is none.
+    void* (*allocate)(size_t bytes);
+    /// Takes back a block that `allocate` returned; never called with null.
+    void (*release)(void* block);
+};
+
+/// A value of one of the kinds above, 16 bytes long.
+///
+/// Copies of a text share it: copying, assigning and destroying never allocate and never throw.
+/// Only the construction from a text does, and throws `std::bad_alloc` when there is no memory.
+/// The reference count is atomic, so copies may live on different threads; one object may not be
+/// changed on one thread while it is used on another.
+class TARV_API variant_t {
+public:
+    /// The null kind.
+    variant_t();
+    variant_t(bool value);
+    variant_t(int32_t value);
+    variant_t(uint32_t value);
+    variant_t(int64_t value);
+    variant_t(uint64_t value);
+    variant_t(long long value);
+    variant_t(unsigned long long value);
+    variant_t(double value);
+    /// Copies `text` up to its terminating zero; null counts as the empty text.
+    variant_t(const char* text);
+    /// Other pointers would silently become a bool.
+    variant_t(const void*) = delete;
+
+    variant_t(const variant_t& other) noexcept;
+    /// Leaves `other` null.
+    variant_t(variant_t&& other) noexcept;
+    variant_t& operator=(const variant_t& other) noexcept;
+    variant_t& operator=(variant_t&& other) noexcept;
+    ~variant_t();
+
+    das_variant_type_t type() const noexcept { return m_type; }
+
+    /// Whether the value is of exactly the kind of `T`: `bool`, `int32_t`, `uint32_t`, `int64_t`,
+    /// `uint64_t`, `double` or `const char*`. There are no conversions between kinds.
+    template <class T>
+    bool can_get() const noexcept;
+
+    /// The value, which must be of the kind of `T`. A text stays valid as long as some copy of
+    /// this variant does. For a value of another kind the assertion handler is called; should it
+    /// return, the result is zero, false or a null text.
+    template <class T>
+    T get() const;
+
+    /// Equal kind and equal value. Texts compare byte by byte, doubles as numbers, and two nulls
+    /// are equal.
+    bool operator==(const variant_t& other) const;
+    bool operator!=(const variant_t& other) const { return !(*this == other); }
+
+    /// Orders two texts by their bytes: below, equal to or above zero, as `strcmp` does.
+    static int string_compare(const char* left, const char* right);
+
+    /// The memory hooks of all variants in the process, `malloc` and `free` at first. Change them
+    /// only while no text variant exists.
+    static variant_memory_t m_mem;
+
+private:
+    das_variant_type_t m_type;
+    union {
+        bool boolean;
+        int32_t int32;
+        uint32_t uint32;
+        int64_t int64;
+        uint64_t uint64;
+        double number;
+        internal::shared_text_t* text;
+    } m_value;
+};
+
+// clang-format off
+template <> TARV_API bool variant_t::can_get<bool>() const noexcept;
+template <> TARV_API bool variant_t::can_get<int32_t>() const noexcept;
+template <> TARV_API bool variant_t::can_get<uint32_t>() const noexcept;
+template <> TARV_API bool variant_t::can_get<int64_t>() const noexcept;
+template <> TARV_API bool variant_t::can_get<uint64_t>() const noexcept;
+template <> TARV_API bool variant_t::can_get<double>() const noexcept;
+template <> TARV_API bool variant_t::can_get<const char*>() const noexcept;
+
+template <> TARV_API bool variant_t::get<bool>() const;
+template <> TARV_API int32_t variant_t::get<int32_t>() const;
+template <> TARV_API uint32_t variant_t::get<uint32_t>() const;
+template <> TARV_API int64_t variant_t::get<int64_t>() const;
+template <> TARV_API uint64_t variant_t::get<uint64_t>() const;
+template <> TARV_API double variant_t::get<double>() const;
+template <> TARV_API const char* variant_t::get<const char*>() const;
+// clang-format on
+
+} // namespace dovel2

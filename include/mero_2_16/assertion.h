@@ -1,0 +1,20 @@
+#pragma once
+
+#include "tarv_3_3/export.h"
+
+namespace MERO_2_16 {
+
+/// Receives a broken assertion: the failed expression as text, and where it stands in the library.
+/// The texts are string literals and never go away.
+using assertion_handler_t = void (*)(const char* expression, const char* file, int line);
+
+/// Installs `handler` for the whole process and returns the one that it replaces.
+/// Null installs the default handler, which prints the expression to standard error and aborts.
+/// A handler may return; the operation that failed then says in its own contract what it yields.
+/// Not synchronised: install it before other threads use the library.
+TARV_API assertion_handler_t set_assertion_handler(assertion_handler_t handler);
+
+/// Calls the installed handler.
+TARV_API void report_assertion(const char* expression, const char* file, int line);
+
+} // namespace MERO_2_16

@@ -1,0 +1,139 @@
+#pragma once
+
+#include "tarv_3_3/EventHandler.h"
+#include "tarv_3_3/IOption.h"
+#include "tarv_3_3/IParseResult.h"
+#include "tarv_3_3/export.h"
+#include "tarv_3_3/status.h"
+#include "tarv_3_3/variant.h"
+
+namespace tarv_3_3 {
+
+/// The flags of `createParser`; combine them with `|`. Other bits have no effect.
+enum ParserFlag : int {
+    /// An argument that nothing takes is an error, unless a handler returns false for it from
+    /// `onUknownArgument`. Without the flag it is dropped.
+    flagRejectUnknown = 0x02,
+    /// Plain arguments, those behind "--", are also offered to the positional option.
+    flagPlainArePositional = 0x04,
+    /// An argument that begins with '-' is never positional; a mistyped option is then unknown
+    /// instead of being a file name. Does not hold behind "--".
+    flagDashIsNotPositional = 0x08,
+    /// Everything behind the first positional argument is positional, options and "--" included.
+    flagPositionalTakesRest = 0x10,
+    /// New declarations do not split their values into lists; see `IOption::tokenize`.
+    flagNoLists = 0x20
+};
+
+/// Knows what a command line may hold, and reads it. Made by `createParser`, owned by the host,
+/// released with `destroy`. A parser and its results are used by one thread at a time.
+///
+/// Every `const char*` that a parser returns stays valid until the parser is destroyed.
+///
+/// It is an `EventHandler` itself: its events go to the registered handlers. Hosts do not call them.
+class TARV_API IParser : public EventHandler {
+public:
+    /// Deletes the parser. Its results live on.
+    virtual void destroy() = 0;
+
+    /// Makes an empty result, which the host releases with `IParseResult::destroy`. Returns 0.
+    /// Throws `std::bad_alloc` when there is no memory.
+    virtual int createResult(IParseResult** result) = 0;
+
+    /// Declares an option.
+    ///
+    /// `names` are one to three, separated by commas, without dashes; the first is the option's
+    /// name in messages, help and events. A third one has at most two bytes. The declaration is
+    /// refused if there are more, or if one of the names is taken; a switch (kind `vtBool`) also
+    /// takes "no-" in front of each of its names. Null is refused as well.
+    ///
+    /// `type` is the kind of its values: `vtBool` makes a switch, `vtNull` an option that takes no
+    /// value, every other kind one that requires a value.
+    ///
+    /// `topic` is the help topic, "name" or "name:title"; the first title given to a name stays.
+    /// The topic "tarv_hidden" is left out of help, unless it is asked for. A null topic or
+    /// description counts as the empty text.
+    ///
+    /// Returns the new declaration to be refined, valid until the next one; never fails but for
+    /// memory (`std::bad_alloc`). A refused one has `m_status` `declarationRefused`.
+    virtual IOption& option(const char* names, const char* description, das_variant_type_t type,
+                            const char* topic = "") = 0;
+
+    /// Declares an action: a verb, given with dashes like any option, of which a command line holds
+    /// at most one. Where actions are declared, a command line that gives options must name one.
+    virtual IOption& action(const char* names, const char* description, das_variant_type_t type,
+                            const char* topic = "") = 0;
+
+    /// Declares an option that goes only with the actions that `tags` names, separated by commas.
+    /// An option declared with `option` goes with all of them.
+    virtual IOption& modifier(const char* names, const char* tags, const char* description,
+                              das_variant_type_t type, const char* topic = "") = 0;
+
+    /// Whether `name` is, exactly, one of the names of an action (`isAction`) or of an option or
+    /// modifier (not `isAction`), and declared under the topic named `topic`; a null topic stands
+    /// for any. False for a null name.
+    virtual bool isOptionDeclared(const char* name, bool isAction, const char* topic) = 0;
+
+    /// Records the declared defaults in `result`, then parses `argv[1]` to `argv[argc - 1]` into
+    /// it. `argc` below 2 is a command line without arguments. Returns a `ParseStatus`; null among
+    /// the arguments is `parseException`.
+    ///
+    /// What was stored before a failure stays in the result. A result may receive several parses:
+    /// entries add up, and every parse checks all of them. A null result parses for the status,
+    /// the message and the events alone.
+    virtual int parseArgsVector(int argc, const char* const* argv, IParseResult* result) = 0;
+
+    /// Parses `text`, one argument a line, into `result`, without recording defaults. Lines that
+    /// are blank or begin with ';' or '#' are comments; leading white space and a carriage return
+    /// at the end do not count; nothing else is special, blanks and quotes included. A null text is
+    /// empty. Returns a `ParseStatus`.
+    virtual int parseStream(const char* text, IParseResult* result) = 0;
+
+    /// The message of the last failure, "" before any. A successful parse leaves it as it is.
+    virtual const char* getErrorDesc() = 0;
+
+    /// Help: the names of the actions, four blanks in front of each, or, where none is declared,
+    /// all options under their topics. With `hidden`, what is under the topic "tarv_hidden", and
+    /// only that. Lines have at most 79 columns, as far as names and words allow.
+    virtual const char* getDescription(bool hidden = false) = 0;
+
+    /// Help for the option or action that has exactly the name `topic`; for a name that is not
+    /// declared, a text that says so and goes on as `getDescription(hidden)`, which is also what
+    /// null yields.
+    virtual const char* getDescription(const char* topic, bool hidden = false) = 0;
+
+    /// Help for the options that share a tag with `action`; "" when there are none, and the text
+    /// that says so when `action` is not declared. Null yields `getDescription(hidden)`.
+    virtual const char* getActionModifiersDescription(const char* action, bool hidden = false) = 0;
+
+    /// Help for the options without tags, which go with every action; "" when there are none.
+    virtual const char* getGlobalModifiersDescription(bool hidden = false) = 0;
+
+    /// Registers a handler, which stays the host's. False when it is registered already.
+    /// Handlers are called in the order of their addresses; null is registered and never called.
+    virtual bool addHandler(EventHandler* handler) = 0;
+
+    /// Removes a handler; false when it is not registered. Remove it before it is destroyed.
+    virtual bool removeHandler(EventHandler* handler) = 0;
+
+    /// Declares the string option "option-file" and reads every file that a command line names
+    /// with it, in order, behind the command line itself: one argument a line, as `parseStream`
+    /// has it, up to the first zero byte. A file may name further files. A file that names itself,
+    /// also by way of others, is read again and again until memory is exhausted: hosts that let
+    /// strangers write option files must not use this. Always returns true.
+    virtual bool addOptionFileOption(const char* description, const char* topic = "") = 0;
+
+    virtual ~IParser();
+
+protected:
+    IParser() = default;
+    IParser(const IParser&) = delete;
+    IParser& operator=(const IParser&) = delete;
+};
+
+/// Makes a parser with a combination of `ParserFlag` bits and stores it in `*parser`, which must
+/// not be null. Returns `parseOk`, or `parseException` with `*parser` untouched when memory is
+/// exhausted.
+TARV_API int createParser(IParser** parser, int flags = 0);
+
+} // namespace tarv_3_3

@@ -1,0 +1,42 @@
+#pragma once
+
+namespace tarv_3_3 {
+
+/// What `createParser` and the parse operations of `IParser` return. On every code but the first,
+/// and `parseException`, `IParser::getErrorDesc` has a message for the user.
+enum ParseStatus : int {
+    parseOk = 0,
+    /// An event handler refused a value.
+    parseVetoed = 1,
+    /// The command line breaks a rule: an unknown, ambiguous or incomplete option, a value that
+    /// does not convert or is not allowed, actions that do not fit.
+    parseFailed = 2,
+    /// A standard exception (exhausted memory, a null entry in `argv`) around the parse.
+    parseException = 3,
+    /// A standard exception inside the parse.
+    parseUnidentified = 4,
+    /// An option file could not be read.
+    parseFileUnreadable = 6
+};
+
+/// `Value::status`, and what the queries of `IParseResult` return.
+enum ValueStatus : int {
+    valueFound = 0,
+    /// Nothing found, or nothing left.
+    valueMissing = 1,
+    /// A standard exception (exhausted memory) during the query.
+    valueException = 3
+};
+
+/// `IOption::m_status`.
+enum DeclarationStatus : int {
+    declarationStored = 0,
+    declarationRefused = 1,
+    /// A declaration is being made; no host ever sees it.
+    declarationInProgress = 3
+};
+
+/// The position that stands for "none", and the upper bound that means "to the end".
+enum : int { noPosition = 0x7fffffff };
+
+} // namespace tarv_3_3
