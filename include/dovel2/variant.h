@@ -66,6 +66,7 @@ public:
     /// Leaves `other` null.
     variant_t(variant_t&& other) noexcept;
     variant_t& operator=(const variant_t& other) noexcept;
+    /// Leaves the former value of this one in `other`.
     variant_t& operator=(variant_t&& other) noexcept;
     ~variant_t();
 
@@ -84,8 +85,8 @@ public:
 
     /// Equal kind and equal value. Texts compare byte by byte, doubles as numbers, and two nulls
     /// are equal.
-    bool operator==(const variant_t& other) const;
-    bool operator!=(const variant_t& other) const { return !(*this == other); }
+    bool operator==(const variant_t& var) const;
+    bool operator!=(const variant_t& var) const { return !(*this == var); }
 
     /// Orders two texts by their bytes: below, equal to or above zero, as `strcmp` does.
     static int string_compare(const char* left, const char* right);
