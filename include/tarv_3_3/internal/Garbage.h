@@ -1,0 +1,28 @@
+#pragma once
+
+#include <functional>
+#include <set>
+#include <string>
+
+#include "tarv_3_3/export.h"
+
+namespace tarv_3_3 {
+
+/// Keeps copies of texts alive for whoever received them as C strings. Each parser and each result
+/// owns one; it only grows, and goes with its owner.
+class TARV_API Garbage {
+public:
+    Garbage();
+    Garbage(const Garbage&) = delete;
+    Garbage& operator=(const Garbage&) = delete;
+    ~Garbage();
+
+    /// Returns a kept copy of `text`; equal texts share one. Null yields a static "".
+    /// The pointer stays valid until this object is destroyed.
+    virtual const char* init(const char* text);
+
+private:
+    std::set<std::string, std::less<>> m_strings;
+};
+
+} // namespace tarv_3_3

@@ -1,0 +1,30 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "tarv_3_3/variant.h"
+
+namespace tarv_3_3 {
+
+/// One value that was given to an option.
+struct OptionValue {
+    /// As it stood in the argument, an abbreviated allowed value completed.
+    std::string text;
+    variant_t value;
+    int position;
+};
+
+/// What a result knows about one option name.
+struct OptionData {
+    /// The position index of each occurrence, in the order stored.
+    std::vector<int> positions;
+    /// The values of all occurrences, in the order stored.
+    std::vector<OptionValue> values;
+    /// The default as text; empty when there is none.
+    std::string defaultText;
+    variant_t defaultValue;
+    int defaultPosition = 0;
+};
+
+} // namespace tarv_3_3

@@ -1,0 +1,55 @@
+#pragma once
+
+#include <memory>
+#include <ostream>
+#include <streambuf>
+
+#include "tarv_3_3/export.h"
+
+namespace tarv_3_3::internal {
+
+/// Whether the trace of recognition is on, for the whole process. Off at first; every parse, stream
+/// and option file sets it anew, on only if its first argument is the switch.
+TARV_API extern bool tarvLogEnabled;
+
+/// A stream buffer without storage: the first write fails, and a stream that has failed discards
+/// everything written later.
+template <class Char, class Traits>
+class basic_nullbuf : public std::basic_streambuf<Char, Traits> {
+public:
+    ~basic_nullbuf() override;
+};
+
+extern template class TARV_API basic_nullbuf<char, std::char_traits<char>>;
+
+/// Holds the discarding stream of the process, once it was asked for.
+class TARV_API TarvLog {
+public:
+    TarvLog();
+    TarvLog(const TarvLog&) = delete;
+    TarvLog& operator=(const TarvLog&) = delete;
+    ~TarvLog();
+
+    /// The discarding stream, made at the first call.
+    std::ostream& discarding();
+
+private:
+    std::unique_ptr<std::ostream> m_stream;
+    std::unique_ptr<std::streambuf> m_buffer;
+};
+
+/// Where the trace goes: the standard output stream while `tarvLogEnabled`, else a stream that
+/// discards everything, always the same one. Write whole lines and end them with `std::endl`.
+TARV_API std::ostream& tarvLog();
+
+/// Writes the parts as one line. A stream that has failed takes nothing any more: then the parts
+/// are not even looked at.
+template <class... Parts>
+void writeLogLine(const Parts&... parts) {
+    std::ostream& log = tarvLog();
+    if (log) {
+        (log << ... << parts) << std::endl;
+    }
+}
+
+} // namespace tarv_3_3::internal

@@ -1,0 +1,93 @@
+#pragma once
+
+#include <set>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "tarv_3_3/IOption.h"
+#include "tarv_3_3/export.h"
+#include "tarv_3_3/variant.h"
+
+namespace tarv_3_3 {
+
+class Garbage;
+
+enum OptionKind : int {
+    Action = 0,
+    /// Plain options and modifiers alike.
+    Option = 1,
+    /// The registry's placeholder for refused declarations.
+    Invalid = 2
+};
+
+/// A help topic: its name, which identifies it, and its title.
+using Topic = std::pair<std::string, std::string>;
+
+/// The record of one declared option, action or modifier. The registry owns all of them by value,
+/// and copies or moves them as its table grows; everybody else reads the fields.
+class TARV_API OptionDescription : public IOption {
+public:
+    OptionDescription();
+    OptionDescription(const OptionDescription&);
+    OptionDescription(OptionDescription&&) noexcept;
+    OptionDescription& operator=(const OptionDescription&);
+    OptionDescription& operator=(OptionDescription&&) noexcept;
+
+    IOption& synonym(const char* name) override;
+    IOption& allowValue(const variant_t& value) override;
+    IOption& defaultValue(const variant_t& value) override;
+    IOption& tokenize(char separator) override;
+    IOption& positional() override;
+    IOption& tag(const char* tags) override;
+
+    ~OptionDescription() override;
+
+    /// The first name; empty when there is none.
+    const std::string& primaryName() const;
+
+    /// Whether `name` is one of the names, or "no-" and one of the names of a switch.
+    bool answersTo(const std::string& name) const;
+
+    /// Converts `text` to the option's kind and checks it against the allowed values. An
+    /// unambiguous prefix of an allowed text is completed in `text` and `value`. On failure returns
+    /// false with the whole message in `message`, which success leaves alone. `value` is assigned
+    /// either way: null when the text did not convert.
+    bool validate(std::string& text, variant_t& value, std::string& message) const;
+
+    /// The value of `text` in the option's kind, null when it does not convert; see conversions.h.
+    variant_t fromString(const char* text, Garbage* garbage) const;
+
+    /// `value`, which must be of the option's kind, as text kept by `garbage`. Null for the null
+    /// kind.
+    const char* toString(Garbage* garbage, variant_t value) const;
+
+    /// The kind as help and messages name it.
+    std::string getTypeName() const;
+
+    /// Orders by primary name, bytewise; equal names are equivalent.
+    bool operator<(const OptionDescription& other) const;
+
+    std::vector<std::string> m_names;
+    /// An action's own names, a modifier's actions, and whatever else was tagged.
+    std::set<std::string> m_tags;
+    Topic m_topic;
+    std::string m_description;
+    bool m_positional = false;
+    bool m_hasDefault = false;
+    OptionKind m_kind = Invalid;
+    /// Separates the elements of a list; 0 when values are never split.
+    char m_tokenizer = ',';
+    das_variant_type_t m_type = vtNull;
+    variant_t m_default;
+    /// In the order declared; empty when every value is allowed.
+    std::vector<variant_t> m_allowedValues;
+    /// Not owned: the parser's.
+    Garbage* m_garbage = nullptr;
+
+private:
+    bool acceptAbbreviation(std::string& text, variant_t& value, std::string& message) const;
+    std::string allowedValueList() const;
+};
+
+} // namespace tarv_3_3

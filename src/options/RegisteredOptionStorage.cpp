@@ -1,0 +1,99 @@
+#include "options/RegisteredOptionStorage.h"
+
+#include <algorithm>
+
+#include "options/findOption.h"
+#include "options/messages.h"
+#include "options/split.h"
+#include "tarv_3_3/internal/log.h"
+
+namespace tarv_3_3 {
+
+namespace {
+
+const char* orEmpty(const char* text) {
+    return text != nullptr ? text : "";
+}
+
+Topic parseTopic(const std::string& text) {
+    const std::size_t colon = text.find(':');
+    if (colon == std::string::npos) {
+        return {text, std::string()};
+    }
+    return {text.substr(0, colon), text.substr(colon + 1)};
+}
+
+} // namespace
+
+RegisteredOptionStorage::RegisteredOptionStorage() = default;
+
+RegisteredOptionStorage::~RegisteredOptionStorage() = default;
+
+IOption& RegisteredOptionStorage::option(const char* names, const char* tags, const char* description,
+                                         bool isAction, das_variant_type_t type, const char* topic) {
+    Topic registeredTopic = registerTopic(orEmpty(topic));
+    m_invalidOption.m_status = declarationInProgress;
+    if (names == nullptr) {
+        return refuse();
+    }
+    std::vector<std::string> nameList;
+    split(names, nameList);
+    if (validateName(nameList) != 0) {
+        return refuse();
+    }
+    unsigned long index = 0;
+    if (findOption(nameList, index, m_options) == 0) {
+        internal::writeLogLine(internal::messages::nameAlreadyRegistered, names);
+        return refuse();
+    }
+
+    OptionDescription record;
+    record.m_names = std::move(nameList);
+    record.m_topic = std::move(registeredTopic);
+    record.m_description = orEmpty(description);
+    record.m_kind = isAction ? Action : Option;
+    record.m_type = type;
+    record.m_garbage = m_garbage;
+    record.tag(tags);
+    if (isAction) {
+        record.tag(names);
+    }
+    record.tokenize(m_defaultTokenizer);
+    m_options.push_back(std::move(record));
+    m_options.back().m_status = declarationStored;
+    return m_options.back();
+}
+
+IOption& RegisteredOptionStorage::action(const char* names, const char* description, das_variant_type_t type,
+                                         const char* topic) {
+    return option(names, nullptr, description, true, type, topic);
+}
+
+IOption& RegisteredOptionStorage::modifier(const char* names, const char* tags, const char* description,
+                                           das_variant_type_t type, const char* topic) {
+    return option(names, tags, description, false, type, topic);
+}
+
+Topic RegisteredOptionStorage::registerTopic(const char* topic) {
+    Topic wanted = parseTopic(topic);
+    const auto known = std::find_if(m_topics.begin(), m_topics.end(),
+                                    [&](const Topic& other) { return other.first == wanted.first; });
+    if (known != m_topics.end()) {
+        return *known;
+    }
+    m_topics.push_back(wanted);
+    return wanted;
+}
+
+IOption& RegisteredOptionStorage::refuse() {
+    m_invalidOption.m_status = declarationRefused;
+    return m_invalidOption;
+}
+
+int validateName(const std::vector<std::string>& names) {
+    const bool tooMany = names.size() > 3;
+    const bool longThirdName = names.size() == 3 && names[2].size() > 2;
+    return tooMany || longThirdName ? 1 : 0;
+}
+
+} // namespace tarv_3_3

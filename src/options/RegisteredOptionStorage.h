@@ -1,0 +1,57 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "options/OptionDescription.h"
+#include "tarv_3_3/export.h"
+#include "tarv_3_3/variant.h"
+
+namespace tarv_3_3 {
+
+class Garbage;
+
+/// Everything that was declared on one parser, in declaration order, and the help topics in order
+/// of first use. Declarations are only ever added, so a record's place in `m_options` identifies it
+/// for the life of the parser; a reference to a record is good until the next declaration.
+class TARV_API RegisteredOptionStorage {
+public:
+    RegisteredOptionStorage();
+    RegisteredOptionStorage(const RegisteredOptionStorage&) = delete;
+    RegisteredOptionStorage& operator=(const RegisteredOptionStorage&) = delete;
+    ~RegisteredOptionStorage();
+
+    /// Adds a declaration and returns it, or returns the placeholder when the names are refused:
+    /// null, more than three, a third one longer than two bytes, or one that is taken already, which
+    /// is also written to the trace. The topic is registered either way. Null tags are none; a null
+    /// description or topic is empty.
+    virtual IOption& option(const char* names, const char* tags, const char* description, bool isAction,
+                            das_variant_type_t type, const char* topic);
+
+    /// `option` for an action, which gets its own names as tags.
+    virtual IOption& action(const char* names, const char* description, das_variant_type_t type,
+                            const char* topic);
+
+    /// `option` for an option that goes with the actions that `tags` names.
+    virtual IOption& modifier(const char* names, const char* tags, const char* description,
+                              das_variant_type_t type, const char* topic);
+
+    /// The list separator of new declarations.
+    char m_defaultTokenizer = ',';
+    std::vector<OptionDescription> m_options;
+    std::vector<Topic> m_topics;
+    /// Not owned: the parser's. Set before the first declaration.
+    Garbage* m_garbage = nullptr;
+    /// What a refused declaration yields.
+    OptionDescription m_invalidOption;
+
+private:
+    Topic registerTopic(const char* topic);
+    IOption& refuse();
+};
+
+/// Whether a declaration may have these names: 0 yes, 1 no. At most three, a third one at most two
+/// bytes long; nothing else is checked.
+TARV_API int validateName(const std::vector<std::string>& names);
+
+} // namespace tarv_3_3

@@ -1,0 +1,26 @@
+#include "options/split.h"
+
+#include <vector>
+
+namespace tarv_3_3 {
+
+template <class Words>
+result_t split(std::string text, Words& pieces) {
+    std::size_t start = 0;
+    std::size_t comma = text.find(',');
+    while (comma != std::string::npos) {
+        pieces.push_back(text.substr(start, comma - start));
+        start = comma + 1;
+        comma = text.find(',', start + 1);
+    }
+    if (start == text.size() && !text.empty()) {
+        pieces.push_back(std::string(1, '\0'));
+    } else if (start < text.size()) {
+        pieces.push_back(text.substr(start));
+    }
+    return 0;
+}
+
+template result_t split<std::vector<std::string>>(std::string text, std::vector<std::string>& pieces);
+
+} // namespace tarv_3_3

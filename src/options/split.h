@@ -1,0 +1,18 @@
+#pragma once
+
+#include <string>
+
+namespace tarv_3_3 {
+
+/// Outcome of an operation; 0 is success.
+using result_t = int;
+
+/// Splits a comma-separated list and appends its words to `pieces`. Always returns 0.
+///
+/// The character behind a comma is never a separator: "a,,b" is "a" and ",b". Hence a text that
+/// ends in a comma has a last word of one character, the terminating zero. An empty text has no
+/// words, and one that begins with a comma an empty first word.
+template <class Words>
+result_t split(std::string text, Words& pieces);
+
+} // namespace tarv_3_3
