@@ -1,0 +1,67 @@
+#pragma once
+
+#include <cstdint>
+
+#include "recognition/DecomposedName.h"
+#include "recognition/IArgumentParser.h"
+
+namespace tarv_3_3 {
+
+/// Recognizes named options, each word of a name abbreviated to any prefix.
+///
+/// Every name and synonym of every option is a candidate of its own, and so is its "no-" form for a
+/// switch. Only a candidate of as many words as the typed name can win. A word typed in full scores
+/// 2, a proper prefix 1; the highest total wins, and equal totals are an ambiguity, also between two
+/// names of one option.
+class TARV_API AbbreviationParser : public IArgumentParser {
+public:
+    /// A candidate that matched.
+    struct NameMatch {
+        /// Whether it has exactly as many words as the typed name.
+        bool m_sameWordCount;
+        /// Above 0.
+        std::int32_t m_score;
+        DecomposedName m_candidate;
+    };
+
+    AbbreviationParser(EventHandler* handler, Garbage* garbage, unsigned int flags);
+    ~AbbreviationParser() override;
+
+    /// Takes an argument that begins with a dash and names a declared option, or several equally
+    /// well, which `parse` then reports.
+    int recognize(std::vector<std::string>& args, std::vector<OptionDescription>& options,
+                  std::string& err) override;
+
+    /// Binds the argument that the last `recognize` took, with its value from the same argument or
+    /// from the next one.
+    int parse(std::vector<std::string>& args, IResultCollector* collector,
+              std::vector<OptionDescription>& options, unsigned long& index, std::string& err) override;
+
+    int getPriority() override;
+
+    /// Appends every candidate name, in the order of the table.
+    void makeOptionNamesList(std::vector<OptionDescription>& options, std::vector<DecomposedName>& names);
+
+    /// Appends a match for every candidate whose words begin with the words of `typed`, as far as
+    /// these go.
+    void makeNameMatch(std::vector<NameMatch>& matches, const DecomposedName& typed,
+                       const std::vector<DecomposedName>& candidates);
+
+    /// Keeps the best matches for `parse`. Returns 0 with the one best candidate in `best`, 1 when
+    /// there is none, 2 when there are several, with a message in `err`.
+    int findBest(const std::vector<NameMatch>& matches, DecomposedName& best, std::string& err);
+
+private:
+    int fail(std::string& err, std::string message) const;
+    int findValue(const OptionDescription& option, std::vector<std::string>& args, std::string& value,
+                  std::size_t& consumed, std::string& err);
+    int takeNextArgument(const OptionDescription& option, std::vector<std::string>& args, std::string& value,
+                         std::size_t& consumed, std::string& err);
+
+    /// The place of the option that the last `recognize` found; -1 for none.
+    std::int64_t m_optionIndex = -1;
+    /// The best matches of the last `recognize`, in the order of the candidates.
+    std::vector<NameMatch> m_matches;
+};
+
+} // namespace tarv_3_3

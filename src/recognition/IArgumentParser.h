@@ -1,0 +1,80 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "tarv_3_3/export.h"
+#include "tarv_3_3/internal/log.h"
+
+namespace tarv_3_3 {
+
+class EventHandler;
+class Garbage;
+class IResultCollector;
+class OptionDescription;
+struct OptionData;
+
+/// A recognizer of arguments. The parse driver shows the argument at the front to every recognizer;
+/// of those that take it, the one with the highest priority parses it.
+///
+/// Also hands out position indices, from the one counter of the process.
+class TARV_API IArgumentParser {
+public:
+    /// `handler` and `garbage` belong to the parser and outlive the recognizer; `flags` are the
+    /// parser's.
+    IArgumentParser(EventHandler* handler, Garbage* garbage, unsigned int flags);
+    IArgumentParser(const IArgumentParser&) = delete;
+    IArgumentParser& operator=(const IArgumentParser&) = delete;
+    virtual ~IArgumentParser();
+
+    /// Looks at `args[0]` and returns 0 when this recognizer takes it, 1 when not. A call of `parse`
+    /// for the same argument may follow.
+    virtual int recognize(std::vector<std::string>& args, std::vector<OptionDescription>& options,
+                          std::string& err) = 0;
+
+    /// Binds the argument at the front, stores what it found through `collector` (null: nowhere),
+    /// removes the arguments that it consumed, and sets `index` to the place of the option.
+    /// Returns 0, or `parseVetoed` or `parseFailed` with the message in `err` and the argument that
+    /// failed still at the front.
+    virtual int parse(std::vector<std::string>& args, IResultCollector* collector,
+                      std::vector<OptionDescription>& options, unsigned long& index, std::string& err) = 0;
+
+    /// The end of a message: in which argument the error was found.
+    virtual std::string formatTokenMessage(std::string& token);
+
+    virtual int getPriority() = 0;
+
+    /// The next position index: 1 at first, then counting up for the life of the process.
+    static int getNewPositionIndex();
+
+    static int m_idx;
+
+protected:
+    /// Binds `value` to `option` and stores the occurrence: splits it at the option's separator,
+    /// converts and validates each piece, and shows it to the handlers. An empty value is an
+    /// occurrence without a value. `args` is only read, for messages. Returns as `parse` does; on
+    /// failure nothing is stored.
+    int parseValueAndAddOption(std::string& value, std::string& err, const OptionDescription& option,
+                               std::vector<std::string>& args, IResultCollector* collector);
+
+    /// Traces one line: the recognizer's name, then the parts.
+    template <class... Parts>
+    void log(const Parts&... parts) const {
+        internal::writeLogLine(m_name, parts...);
+    }
+
+    EventHandler* m_handler;
+    std::string m_name = "UndefinedParser";
+    Garbage* m_garbage;
+    unsigned int m_flags;
+
+private:
+    int bindSingleValue(std::string& value, std::string& err, const OptionDescription& option,
+                        const std::string& argument, OptionData& data);
+    int bindList(const std::string& value, std::string& err, const OptionDescription& option,
+                 const std::string& argument, OptionData& data);
+    int bindPiece(std::string& piece, const std::string& value, std::string& err,
+                  const OptionDescription& option, const std::string& argument, OptionData& data);
+};
+
+} // namespace tarv_3_3

@@ -1,0 +1,62 @@
+#include "recognition/PositionalOptionsParser.h"
+
+#include <algorithm>
+
+#include "options/OptionDescription.h"
+#include "tarv_3_3/EventHandler.h"
+#include "tarv_3_3/IParser.h"
+
+namespace tarv_3_3 {
+
+namespace {
+
+auto findPositional(const std::vector<OptionDescription>& options) {
+    return std::find_if(options.begin(), options.end(),
+                        [](const OptionDescription& option) { return option.m_positional; });
+}
+
+} // namespace
+
+PositionalOptionsParser::PositionalOptionsParser(EventHandler* handler, Garbage* garbage, unsigned int flags)
+    : IArgumentParser(handler, garbage, flags) {
+    m_name = "PositionalOptionsParser";
+}
+
+PositionalOptionsParser::~PositionalOptionsParser() = default;
+
+int PositionalOptionsParser::recognize(std::vector<std::string>& args,
+                                       std::vector<OptionDescription>& options, std::string& /*err*/) {
+    log(": recognizing argument '", args.at(0), "'");
+    if ((m_flags & flagDashIsNotPositional) != 0 && args[0].compare(0, 1, "-") == 0) {
+        return 1;
+    }
+    return findPositional(options) != options.end() ? 0 : 1;
+}
+
+int PositionalOptionsParser::parse(std::vector<std::string>& args, IResultCollector* collector,
+                                   std::vector<OptionDescription>& options, unsigned long& index,
+                                   std::string& err) {
+    log(": parsing argument '", args.at(0), "'");
+    index = static_cast<unsigned long>(findPositional(options) - options.begin());
+    // A handler may declare options while it is told, which moves the table: work on a copy.
+    const OptionDescription option = options.at(index);
+    // The trace and the event name the first declaration, whichever option takes the argument.
+    log(": option is '", options.front().primaryName(), "'");
+    do {
+        std::string value = args[0];
+        m_handler->onOptionParse(options.front().primaryName().c_str());
+        const int status = parseValueAndAddOption(value, err, option, args, collector);
+        if (status != parseOk) {
+            return status;
+        }
+        log(": removing argument: '", args[0], "'");
+        args.erase(args.begin());
+    } while (!args.empty() && (m_flags & flagPositionalTakesRest) != 0);
+    return parseOk;
+}
+
+int PositionalOptionsParser::getPriority() {
+    return -100;
+}
+
+} // namespace tarv_3_3
