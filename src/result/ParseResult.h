@@ -1,0 +1,83 @@
+#pragma once
+
+#include <cstddef>
+#include <map>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "tarv_3_3/IParseResult.h"
+#include "tarv_3_3/export.h"
+#include "tarv_3_3/internal/Garbage.h"
+#include "tarv_3_3/internal/IResultCollector.h"
+#include "tarv_3_3/internal/OptionData.h"
+
+namespace tarv_3_3 {
+
+class OptionDescription;
+
+/// The one concrete result. Parses put options, defaults and plain arguments into it; nothing is
+/// ever removed. Hosts query it through `IParseResult`.
+///
+/// The cursors of an iteration are places in lists that a further parse may lengthen, so a host may
+/// go on iterating after one.
+class TARV_API ParseResult : public IParseResult, public IResultCollector {
+public:
+    using Entries = std::map<std::string, OptionData>;
+
+    ParseResult();
+    ~ParseResult() override;
+
+    int store(const OptionDescription& option, const OptionData& data) override;
+
+    /// Records the default of every option that has one, under each of its names; each of them
+    /// takes a position index. An option of the null kind has none. Returns 0 and leaves `errorText`
+    /// alone.
+    int applyDefault(std::vector<OptionDescription>& options, std::string& errorText);
+
+    /// Adds an argument that stood behind "--".
+    void storePlainArgument(const std::string& argument, int position);
+
+    /// What is stored, by option name.
+    const Entries& entries() const { return m_options; }
+
+    void destroy() override;
+    bool present(const char* name, int lo, int hi) override;
+    Value get(const char* name, int lo, int hi) override;
+    Value next(const char* name) override;
+    int nextPosition() override;
+    int getFirstArgument(const char** text) override;
+    int getNextArgument(const char** text) override;
+
+    /// The queries behind the virtual ones. They return a `ValueStatus`; on `valueFound`, `*text`
+    /// is a text kept by this result, or as it was when the option takes no value, and so is
+    /// `value`. A null `text` asks for the presence alone.
+    int get(const std::string& name, char** text, variant_t& value, int lo, int hi, int& position);
+    int next(const std::string& name, char** text, variant_t& value, int& position);
+    int getFirstArgument(std::string& text);
+    int getNextArgument(std::string& text);
+
+private:
+    int startIteration(const std::string& name, char** text, variant_t& value, int lo, int hi, int& position);
+    int continueIteration(char** text, variant_t& value, int& position);
+    void yieldDefault(const OptionData& data, char** text, variant_t& value, int& position);
+    int nextValue(const OptionData& data, char** text, variant_t& value, int& position);
+    int nextOccurrence(const OptionData& data, int& position);
+    static bool isDefaulted(const OptionData& data);
+    char* keep(const std::string& text);
+
+    Entries m_options;
+    /// Places in the lists of the current entry.
+    std::size_t m_valuesCursor = 0;
+    std::size_t m_positionsCursor = 0;
+    int m_lowerBound = 0;
+    int m_upperBound = noPosition;
+    /// The end when the last query found nothing.
+    Entries::iterator m_current;
+    Garbage m_garbage;
+    /// What stood behind "--", with its position indices.
+    std::vector<std::pair<std::string, int>> m_freeArguments;
+    std::size_t m_freeArgumentCursor;
+};
+
+} // namespace tarv_3_3

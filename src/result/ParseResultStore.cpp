@@ -1,0 +1,48 @@
+#include "options/OptionDescription.h"
+#include "recognition/IArgumentParser.h"
+#include "result/ParseResult.h"
+
+namespace tarv_3_3 {
+
+namespace {
+
+void append(OptionData& entry, const OptionData& data) {
+    entry.positions.insert(entry.positions.end(), data.positions.begin(), data.positions.end());
+    entry.values.insert(entry.values.end(), data.values.begin(), data.values.end());
+}
+
+} // namespace
+
+int ParseResult::store(const OptionDescription& option, const OptionData& data) {
+    // Asked once, before the first name gets its entry.
+    const bool isFirst = m_options.find(option.m_names.at(0)) == m_options.end();
+    for (const std::string& name : option.m_names) {
+        if (isFirst) {
+            m_options[name] = data;
+        } else {
+            append(m_options[name], data);
+        }
+    }
+    return 0;
+}
+
+int ParseResult::applyDefault(std::vector<OptionDescription>& options, std::string& /*errorText*/) {
+    for (const OptionDescription& option : options) {
+        if (option.m_type == vtNull || !option.m_hasDefault) {
+            continue;
+        }
+        for (const std::string& name : option.m_names) {
+            OptionData& entry = m_options[name];
+            entry.defaultText = option.toString(&m_garbage, option.m_default);
+            entry.defaultPosition = IArgumentParser::getNewPositionIndex();
+            entry.defaultValue = option.m_default;
+        }
+    }
+    return 0;
+}
+
+void ParseResult::storePlainArgument(const std::string& argument, int position) {
+    m_freeArguments.emplace_back(argument, position);
+}
+
+} // namespace tarv_3_3
