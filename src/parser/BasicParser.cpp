@@ -1,0 +1,125 @@
+#include "parser/BasicParser.h"
+
+#include <algorithm>
+
+#include "result/ParseResult.h"
+
+namespace tarv_3_3 {
+
+IParser::~IParser() = default;
+
+BasicParser::BasicParser(int flags) : m_flags(flags) {
+    m_registry.m_garbage = &m_garbage;
+    if ((flags & flagNoLists) != 0) {
+        m_registry.m_defaultTokenizer = 0;
+    }
+}
+
+BasicParser::~BasicParser() = default;
+
+void BasicParser::destroy() {
+    delete this;
+}
+
+int BasicParser::createResult(IParseResult** result) {
+    *result = new ParseResult;
+    return parseOk;
+}
+
+IOption& BasicParser::option(const char* names, const char* description, das_variant_type_t type,
+                             const char* topic) {
+    return m_registry.option(names, nullptr, description, false, type, topic);
+}
+
+IOption& BasicParser::action(const char* names, const char* description, das_variant_type_t type,
+                             const char* topic) {
+    return m_registry.action(names, description, type, topic);
+}
+
+IOption& BasicParser::modifier(const char* names, const char* tags, const char* description,
+                               das_variant_type_t type, const char* topic) {
+    return m_registry.modifier(names, tags, description, type, topic);
+}
+
+bool BasicParser::isOptionDeclared(const char* name, bool isAction, const char* topic) {
+    return name != nullptr && isOptionDeclared(name, isAction, topic, m_registry.m_options);
+}
+
+bool BasicParser::isOptionDeclared(const char* name, bool isAction, const char* topic,
+                                   const std::vector<OptionDescription>& options) const {
+    return std::any_of(options.begin(), options.end(), [&](const OptionDescription& option) {
+        const std::vector<std::string>& names = option.m_names;
+        return (option.m_kind == Action) == isAction && (topic == nullptr || option.m_topic.first == topic) &&
+               std::find(names.begin(), names.end(), name) != names.end();
+    });
+}
+
+const char* BasicParser::getErrorDesc() {
+    return m_garbage.init(m_lastError.c_str());
+}
+
+void BasicParser::setLastError(const std::string& text) {
+    m_lastError = text;
+}
+
+bool BasicParser::addHandler(EventHandler* handler) {
+    return m_handlers.insert(handler).second;
+}
+
+bool BasicParser::removeHandler(EventHandler* handler) {
+    return m_handlers.erase(handler) != 0;
+}
+
+// Calls every handler, in order, until `call` returns false. A handler may add or remove handlers
+// while it is called: what comes next is looked up in the set as it then is.
+template <class Call>
+void BasicParser::forEachHandler(Call call) {
+    for (auto next = m_handlers.begin(); next != m_handlers.end();) {
+        EventHandler* const handler = *next;
+        if (handler != nullptr && !call(*handler)) {
+            return;
+        }
+        next = m_handlers.upper_bound(handler);
+    }
+}
+
+bool BasicParser::onOptionParse(const char* name) {
+    if (m_handlers.empty()) {
+        return true;
+    }
+    const char* const kept = m_garbage.init(name);
+    forEachHandler([&](EventHandler& handler) {
+        handler.onOptionParse(kept);
+        return true;
+    });
+    return true;
+}
+
+// A refused value stops the round; an unknown argument (below) is shown to every handler.
+bool BasicParser::onValueParse(const char* name, const Value& value) {
+    if (m_handlers.empty()) {
+        return true;
+    }
+    const char* const kept = m_garbage.init(name);
+    bool accepted = true;
+    forEachHandler([&](EventHandler& handler) {
+        accepted = handler.onValueParse(kept, value);
+        return accepted;
+    });
+    return accepted;
+}
+
+bool BasicParser::onUknownArgument(const char* argument) {
+    if (m_handlers.empty()) {
+        return true;
+    }
+    const char* const kept = m_garbage.init(argument);
+    bool unknownToAll = true;
+    forEachHandler([&](EventHandler& handler) {
+        unknownToAll = handler.onUknownArgument(kept) && unknownToAll;
+        return true;
+    });
+    return unknownToAll;
+}
+
+} // namespace tarv_3_3

@@ -1,0 +1,228 @@
+#include <algorithm>
+#include <exception>
+
+#include "options/findOption.h"
+#include "parser/BasicParser.h"
+#include "parser/messages.h"
+#include "recognition/AbbreviationParser.h"
+#include "recognition/PositionalOptionsParser.h"
+#include "result/ParseResult.h"
+#include "tarv_3_3/internal/log.h"
+
+namespace tarv_3_3 {
+
+namespace messages = internal::messages;
+
+namespace {
+
+constexpr char logSwitch[] = "tarvoption=tarvlogenable=1";
+
+// Every command line, stream and option file decides for itself, by its first argument.
+void switchLog(std::vector<std::string>& arguments) {
+    internal::tarvLogEnabled = !arguments.empty() && arguments.front() == logSwitch;
+    if (internal::tarvLogEnabled) {
+        arguments.erase(arguments.begin());
+    }
+}
+
+// The recognizer of the highest priority that takes the front argument; null when none does.
+template <class Recognizers>
+IArgumentParser* chooseRecognizer(const Recognizers& recognizers, std::vector<std::string>& arguments,
+                                  std::vector<OptionDescription>& options) {
+    IArgumentParser* chosen = nullptr;
+    int highest = -99999999;
+    for (IArgumentParser* recognizer : recognizers) {
+        std::string message;
+        if (recognizer->recognize(arguments, options, message) == 0 && recognizer->getPriority() > highest) {
+            chosen = recognizer;
+            highest = recognizer->getPriority();
+        }
+    }
+    return chosen;
+}
+
+} // namespace
+
+int BasicParser::parseArgsVector(int argc, const char* const* argv, IParseResult* result) {
+    try {
+        return parseArguments(argc, argv, result);
+    } catch (const std::exception&) {
+        return parseException;
+    }
+}
+
+int BasicParser::parseArguments(int argc, const char* const* argv, IParseResult* result) {
+    if (result != nullptr) {
+        std::string message;
+        const int status = static_cast<ParseResult*>(result)->applyDefault(m_registry.m_options, message);
+        if (status != parseOk) {
+            setLastError(message);
+            return status;
+        }
+    }
+    if (argc < 2) {
+        return parseOk;
+    }
+    if (argv == nullptr || std::find(argv + 1, argv + argc, nullptr) != argv + argc) {
+        return parseException;
+    }
+    std::vector<std::string> arguments(argv + 1, argv + argc);
+    return parseVector(arguments, result);
+}
+
+int BasicParser::parseVector(std::vector<std::string>& arguments, IParseResult* result) {
+    try {
+        const std::string endMarker = "--";
+        int status = parseUpToMarker(endMarker, arguments, result);
+        if (status == parseOk) {
+            status = readOptionFiles(endMarker, result);
+        }
+        return status == parseOk ? parse_phase_two(endMarker, arguments, result, m_lastError) : status;
+    } catch (const std::exception&) {
+        setLastError(messages::unidentifiedProblem);
+        return parseUnidentified;
+    }
+}
+
+int BasicParser::parseUpToMarker(const std::string& endMarker, std::vector<std::string>& arguments,
+                                 IParseResult* result) {
+    const int status = parse_phase_one(endMarker, arguments, result, m_lastError);
+    return status == parseOk ? collectNonparsingArguments(endMarker, arguments,
+                                                          static_cast<ParseResult*>(result), m_lastError)
+                             : status;
+}
+
+int BasicParser::parse_phase_one(const std::string& endMarker, std::vector<std::string>& arguments,
+                                 IParseResult* result, std::string& error) {
+    switchLog(arguments);
+    const auto flags = static_cast<unsigned int>(m_flags);
+    PositionalOptionsParser positional(this, &m_garbage, flags);
+    AbbreviationParser abbreviation(this, &m_garbage, flags);
+    IArgumentParser* const recognizers[] = {&positional, &abbreviation};
+    IResultCollector* const collector = static_cast<ParseResult*>(result);
+    std::vector<OptionDescription>& options = m_registry.m_options;
+    while (!arguments.empty() && arguments.front() != endMarker) {
+        IArgumentParser* const recognizer = chooseRecognizer(recognizers, arguments, options);
+        unsigned long index = 0;
+        const int status = recognizer != nullptr
+                               ? recognizer->parse(arguments, collector, options, index, error)
+                               : dropUnknown(arguments, error);
+        if (status != parseOk) {
+            return status;
+        }
+    }
+    return parseOk;
+}
+
+int BasicParser::dropUnknown(std::vector<std::string>& arguments, std::string& error) {
+    const std::string& argument = arguments.front();
+    const bool unknownToAll = onUknownArgument(argument.c_str());
+    if (unknownToAll && (m_flags & flagRejectUnknown) != 0) {
+        error = messages::unknownArgument(argument);
+        return parseFailed;
+    }
+    internal::writeLogLine("ignoring ", argument);
+    arguments.erase(arguments.begin());
+    return parseOk;
+}
+
+int BasicParser::collectNonparsingArguments(std::string endMarker, std::vector<std::string>& arguments,
+                                            ParseResult* result, std::string& error) {
+    const auto marker = std::find(arguments.begin(), arguments.end(), endMarker);
+    if (marker == arguments.end()) {
+        return parseOk;
+    }
+    for (auto argument = marker + 1; argument != arguments.end(); ++argument) {
+        const int position = IArgumentParser::getNewPositionIndex();
+        if (result != nullptr) {
+            result->storePlainArgument(*argument, position);
+        }
+        internal::writeLogLine("collectNonparsingArguments: stored argument: '", *argument, "'");
+        if ((m_flags & flagPlainArePositional) != 0) {
+            const int status = parseAsPositional(*argument, result, error);
+            if (status != parseOk) {
+                return status;
+            }
+        }
+    }
+    arguments.erase(marker, arguments.end());
+    return parseOk;
+}
+
+// Behind the marker an argument may begin with a dash and still be positional.
+int BasicParser::parseAsPositional(const std::string& argument, ParseResult* result, std::string& error) {
+    PositionalOptionsParser recognizer(this, &m_garbage,
+                                       static_cast<unsigned int>(m_flags & ~flagDashIsNotPositional));
+    std::vector<std::string> arguments(1, argument);
+    int status = recognizer.recognize(arguments, m_registry.m_options, error);
+    internal::writeLogLine("collectNonparsingArguments: recognize result: ", status, ", message: ", error);
+    if (status != 0) {
+        return parseOk;
+    }
+    unsigned long index = 0;
+    status = recognizer.parse(arguments, result, m_registry.m_options, index, error);
+    internal::writeLogLine("collectNonparsingArguments: parse result: ", status, ", message: ", error);
+    return status;
+}
+
+int BasicParser::parse_phase_two(const std::string& /*endMarker*/, std::vector<std::string>& /*arguments*/,
+                                 IParseResult* result, std::string& error) {
+    if (result == nullptr) {
+        return parseOk;
+    }
+    const auto& stored = static_cast<const ParseResult&>(*result);
+    const std::vector<OptionDescription>& options = m_registry.m_options;
+    const OptionDescription* action = nullptr;
+    bool optionStored = false;
+    for (const auto& entry : stored.entries()) {
+        unsigned long index = 0;
+        const int status = findOption(entry.first, index, options);
+        if (status != 0) {
+            return status;
+        }
+        const OptionDescription& option = options[index];
+        if (option.m_kind != Action) {
+            optionStored = true;
+        } else if (action == nullptr) {
+            action = &option;
+        } else if (action != &option) {
+            error = messages::twoActions(option.primaryName(), action->primaryName());
+            setLastError(error);
+            return parseFailed;
+        }
+    }
+    if (action != nullptr) {
+        return checkModifiers(*action, stored, error);
+    }
+    if (optionStored && !getGlobalActions().empty()) {
+        error = messages::noActionDefined;
+        return parseFailed;
+    }
+    return parseOk;
+}
+
+int BasicParser::checkModifiers(const OptionDescription& action, const ParseResult& result,
+                                std::string& error) {
+    const std::vector<OptionDescription>& options = m_registry.m_options;
+    for (const auto& [name, data] : result.entries()) {
+        unsigned long index = 0;
+        const int status = findOption(name, index, options);
+        if (status != 0) {
+            return status;
+        }
+        const OptionDescription& option = options[index];
+        const bool isTagged = option.m_kind != Action && !option.m_tags.empty();
+        const bool isGiven = !data.positions.empty();
+        if (isTagged && isGiven && !isIntersected(action.m_tags, option.m_tags)) {
+            error = messages::optionNotAccepted(action.primaryName(), option.primaryName());
+            return parseFailed;
+        }
+    }
+    return parseOk;
+}
+
+bool BasicParser::isIntersected(const std::set<std::string>& a, const std::set<std::string>& b) const {
+    return std::any_of(a.begin(), a.end(), [&](const std::string& element) { return b.count(element) != 0; });
+}
+
+} // namespace tarv_3_3
