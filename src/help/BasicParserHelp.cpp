@@ -1,0 +1,164 @@
+#include <algorithm>
+#include <iterator>
+
+#include "help/messages.h"
+#include "help/paragraphString.h"
+#include "help/synopsis.h"
+#include "options/findOption.h"
+#include "parser/BasicParser.h"
+
+namespace tarv_3_3 {
+
+namespace messages = internal::messages;
+
+namespace {
+
+constexpr char hiddenTopic[] = "tarv_hidden";
+constexpr unsigned long descriptionColumn = 30;
+constexpr unsigned long descriptionWidth = 50;
+constexpr unsigned long titleColumn = 1;
+constexpr unsigned long titleWidth = 80;
+
+// Hidden help shows the hidden topic and nothing else.
+bool isShown(const std::string& topicName, bool hidden) {
+    return (topicName == hiddenTopic) == hidden;
+}
+
+std::vector<const OptionDescription*> sortedByName(const std::vector<OptionDescription>& options) {
+    std::vector<const OptionDescription*> sorted;
+    sorted.reserve(options.size());
+    for (const OptionDescription& option : options) {
+        sorted.push_back(&option);
+    }
+    std::sort(sorted.begin(), sorted.end(),
+              [](const OptionDescription* left, const OptionDescription* right) { return *left < *right; });
+    return sorted;
+}
+
+void appendHeading(std::string& text, const Topic& topic) {
+    const auto& [name, title] = topic;
+    if (!name.empty()) {
+        text.append(name).append("\n");
+    }
+    if (!title.empty()) {
+        text.append(paragraphString(title, "", titleColumn, titleWidth)).append("\n");
+    }
+}
+
+void appendEntry(std::string& text, const OptionDescription& option) {
+    std::string synopsis = makeSynopsis(option);
+    if (synopsis.size() >= descriptionColumn) {
+        text.append(synopsis).append("\n");
+        synopsis.clear();
+    }
+    text.append(
+        paragraphString(option.m_description, std::move(synopsis), descriptionColumn, descriptionWidth));
+}
+
+std::string renderHelp(const std::vector<Topic>& topics, const std::vector<OptionDescription>& options,
+                       bool hidden) {
+    const std::vector<const OptionDescription*> sorted = sortedByName(options);
+    std::string text;
+    for (const Topic& topic : topics) {
+        if (!isShown(topic.first, hidden)) {
+            continue;
+        }
+        appendHeading(text, topic);
+        for (const OptionDescription* option : sorted) {
+            if (!option->m_positional && option->m_topic.first == topic.first) {
+                appendEntry(text, *option);
+            }
+        }
+        text.append("\n");
+    }
+    return text;
+}
+
+} // namespace
+
+const char* BasicParser::getDescription(std::vector<Topic> topics,
+                                        const std::vector<OptionDescription>& options, bool hidden) {
+    try {
+        return m_garbage.init(renderHelp(topics, options, hidden).c_str());
+    } catch (...) {
+        setLastError(messages::unknownErrorHandled);
+        return getErrorDesc();
+    }
+}
+
+const char* BasicParser::getDescription(bool hidden) {
+    std::vector<std::string> names;
+    for (const OptionDescription& option : m_registry.m_options) {
+        if (option.m_kind == Action && isShown(option.m_topic.first, hidden)) {
+            names.push_back(option.primaryName());
+        }
+    }
+    if (names.empty()) {
+        return getDescription(m_registry.m_topics, m_registry.m_options, hidden);
+    }
+    std::sort(names.begin(), names.end());
+    std::string text;
+    for (const std::string& name : names) {
+        text.append("    ").append(name).append("\n");
+    }
+    return m_garbage.init(text.c_str());
+}
+
+const char* BasicParser::getDescription(const char* topic, bool hidden) {
+    if (topic == nullptr) {
+        return getDescription(hidden);
+    }
+    unsigned long index = 0;
+    if (findOption(topic, index, m_registry.m_options) != 0) {
+        return describeUnknown(topic, hidden);
+    }
+    return getDescription(m_registry.m_topics, {m_registry.m_options[index]}, hidden);
+}
+
+const char* BasicParser::getActionModifiersDescription(const char* action, bool hidden) {
+    if (action == nullptr) {
+        return getDescription(hidden);
+    }
+    unsigned long index = 0;
+    if (findOption(action, index, m_registry.m_options) != 0) {
+        return describeUnknown(action, hidden);
+    }
+    std::vector<OptionDescription> modifiers;
+    findActionModifiers(index, modifiers);
+    return modifiers.empty() ? "" : getDescription(m_registry.m_topics, modifiers, hidden);
+}
+
+const char* BasicParser::getGlobalModifiersDescription(bool hidden) {
+    const std::vector<OptionDescription> modifiers = getGlobalModifiers();
+    return modifiers.empty() ? "" : getDescription(m_registry.m_topics, modifiers, hidden);
+}
+
+const char* BasicParser::describeUnknown(const char* name, bool hidden) {
+    return m_garbage.init((messages::helpNotAvailable(name) + getDescription(hidden)).c_str());
+}
+
+void BasicParser::findActionModifiers(unsigned long actionIndex, std::vector<OptionDescription>& out) {
+    const OptionDescription& action = m_registry.m_options.at(actionIndex);
+    for (const OptionDescription& option : m_registry.m_options) {
+        if (&option != &action && option.m_kind != Action && isIntersected(option.m_tags, action.m_tags)) {
+            out.push_back(option);
+        }
+    }
+}
+
+std::vector<OptionDescription> BasicParser::getGlobalActions() const {
+    std::vector<OptionDescription> actions;
+    std::copy_if(m_registry.m_options.begin(), m_registry.m_options.end(), std::back_inserter(actions),
+                 [](const OptionDescription& option) { return option.m_kind == Action; });
+    return actions;
+}
+
+std::vector<OptionDescription> BasicParser::getGlobalModifiers() const {
+    std::vector<OptionDescription> modifiers;
+    std::copy_if(
+        m_registry.m_options.begin(), m_registry.m_options.end(), std::back_inserter(modifiers),
+        [](const OptionDescription& option) { return option.m_kind != Action && option.m_tags.empty(); });
+    return modifiers;
+}
+
+} // namespace tarv_3_3
