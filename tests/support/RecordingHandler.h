@@ -1,0 +1,42 @@
+#pragma once
+
+#include <set>
+#include <string>
+
+#include "support/RelativePositions.h"
+#include "tarv_3_3/EventHandler.h"
+
+/// Notes every event, and refuses what it is told to refuse.
+class RecordingHandler : public tarv_3_3::EventHandler {
+public:
+    explicit RecordingHandler(const RelativePositions& relative) : m_relative(relative) {}
+
+    bool onOptionParse(const char* name) override {
+        note(std::string("option ") + name);
+        return optionAnswer;
+    }
+
+    bool onValueParse(const char* name, const tarv_3_3::Value& value) override {
+        note(std::string("value ") + name + "=\"" + value.text + "\"@" +
+             std::to_string(m_relative(value.position)));
+        return refusedValues.count(value.text) == 0;
+    }
+
+    bool onUknownArgument(const char* argument) override {
+        note(std::string("unknown ") + argument);
+        return unknownAnswer;
+    }
+
+    /// The events in order, as `option level; value level="5"@2; unknown x`.
+    std::string events;
+    std::set<std::string> refusedValues;
+    bool optionAnswer = true;
+    bool unknownAnswer = true;
+
+private:
+    void note(const std::string& event) {
+        events += (events.empty() ? "" : "; ") + event;
+    }
+
+    const RelativePositions& m_relative;
+};
