@@ -1,0 +1,2 @@
+#pragma once
+#  include "options/above.h" // points up

@@ -1,0 +1,39 @@
+#!/usr/bin/env bash
+# Installs what is missing of the named groups of Debian packages:
+#   build  what a build of the library and the examples needs
+#   test   what the tests need besides
+#   ci     what only .ci/run needs besides
+set -euo pipefail
+
+declare -A groups=(
+    [build]="g++ cmake ninja-build"
+    [test]="clang libclang-rt-14-dev googletest libgtest-dev pkg-config"
+    [ci]="dpkg-dev file lintian"
+)
+
+wanted=()
+for group in "$@"; do
+    # The lists are split at their blanks on purpose.
+    # shellcheck disable=SC2206
+    wanted+=(${groups[$group]})
+done
+
+missing=()
+for package in "${wanted[@]}"; do
+    status=$(dpkg-query --show --showformat='${db:Status-Status}' "$package" 2>/dev/null || true)
+    if [[ $status != installed ]]; then
+        missing+=("$package")
+    fi
+done
+if [[ ${#missing[@]} -eq 0 ]]; then
+    exit 0
+fi
+
+as_root=()
+if [[ $(id -u) -ne 0 ]]; then
+    as_root=(sudo)
+fi
+echo "Installing: ${missing[*]}"
+"${as_root[@]}" apt-get update -qq
+"${as_root[@]}" env DEBIAN_FRONTEND=noninteractive \
+    apt-get install -y -qq --no-install-recommends "${missing[@]}"
