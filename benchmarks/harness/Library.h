@@ -1,0 +1,58 @@
+#pragma once
+
+#include "harness/Answer.h"
+#include "harness/Workload.h"
+
+#include <memory>
+#include <stdexcept>
+#include <string>
+#include <vector>
+
+namespace bench {
+
+/// A command-line library in use, as a host uses it. Every operation fails with an exception.
+class Library {
+public:
+    virtual ~Library() = default;
+
+    /// Declares all of `options`, which outlive this object.
+    virtual void declare(const std::vector<Option>& options) = 0;
+
+    /// Parses a command line. The arguments are the library's to reorder; they outlive `read`.
+    virtual void parse(int argc, char** argv) = 0;
+
+    /// Reads every declared option into a cleared `answer`.
+    virtual void read(const std::vector<Option>& options, Answer& answer) = 0;
+
+    /// Readies the declared parser for another command line: drops what the last parse found.
+    virtual void forget() = 0;
+
+    /// The help for everything that is declared.
+    virtual std::string help() = 0;
+};
+
+/// A library, and what the measurement has to know about it.
+struct Candidate {
+    const char* name;
+    Dialect dialect;
+    /// `Option::declared` for one option.
+    std::string (*declared)(const Option& option);
+    std::unique_ptr<Library> (*make)();
+    /// Its declarations belong to the process: they are made once and never taken back. Such a
+    /// library is measured without a warm-up, and not in times.
+    bool onePerProcess = false;
+    /// An option given twice keeps both values. If not, there is no answer for `longCommandLine`.
+    bool collects = true;
+    bool hasHelp = true;
+};
+
+/// The plain name: `Candidate::declared` of libraries that take the alias apart from the name.
+inline std::string nameAlone(const Option& option) {
+    return option.name;
+}
+
+[[noreturn]] inline void fail(const std::string& message) {
+    throw std::runtime_error(message);
+}
+
+} // namespace bench
