@@ -19,6 +19,7 @@ public:
     bool onValueParse(const char* name, const tarv_3_3::Value& value) override {
         note(std::string("value ") + name + "=\"" + value.text + "\"@" +
              std::to_string(m_relative(value.position)));
+        lastValue = value.value;
         return refusedValues.count(value.text) == 0;
     }
 
@@ -29,6 +30,7 @@ public:
 
     /// The events in order, as `option level; value level="5"@2; unknown x`.
     std::string events;
+    tarv_3_3::variant_t lastValue;
     std::set<std::string> refusedValues;
     bool optionAnswer = true;
     bool unknownAnswer = true;

@@ -1,0 +1,186 @@
+#include <gtest/gtest.h>
+
+#include "options/OptionDescription.h"
+#include "recognition/AbbreviationParser.h"
+
+namespace tarv_3_3 {
+namespace {
+
+using NameMatch = AbbreviationParser::NameMatch;
+
+/// Neither candidates nor matches need a handler.
+class AbbreviationParserMatch : public testing::Test {
+protected:
+    AbbreviationParser recognizer{nullptr, nullptr, 0};
+};
+
+OptionDescription named(std::vector<std::string> names, das_variant_type_t type) {
+    OptionDescription option;
+    option.m_names = std::move(names);
+    option.m_type = type;
+    return option;
+}
+
+std::vector<std::string> namesOf(const std::vector<DecomposedName>& candidates) {
+    std::vector<std::string> names;
+    for (const DecomposedName& candidate : candidates) {
+        names.push_back(candidate.getName());
+    }
+    return names;
+}
+
+TEST_F(AbbreviationParserMatch, ListsEveryNameAndBehindItTheNegatedFormOfASwitch) {
+    std::vector<OptionDescription> options = {
+        named({"level", "l"}, vtInt32),
+        named({"verbose", "v", "talk"}, vtBool),
+        named({}, vtBool),
+        named({"no-color"}, vtBool),
+        named({"flag"}, vtNull),
+        named({"output-file"}, vtString),
+    };
+    std::vector<DecomposedName> candidates;
+    recognizer.makeOptionNamesList(options, candidates);
+    const std::vector<std::string> expected = {"level",    "l",           "verbose", "no-verbose",
+                                               "v",        "no-v",        "talk",    "no-talk",
+                                               "no-color", "no-no-color", "flag",    "output-file"};
+    EXPECT_EQ(namesOf(candidates), expected);
+    EXPECT_EQ(candidates[3].m_words, (std::vector<std::string>{"no", "verbose"}));
+    EXPECT_EQ(candidates[11].m_words, (std::vector<std::string>{"output", "file"}));
+}
+
+TEST_F(AbbreviationParserMatch, AppendsTheNamesBehindThoseAlreadyListed) {
+    std::vector<OptionDescription> options = {named({"level"}, vtInt32)};
+    std::vector<DecomposedName> candidates = {DecomposedName("first")};
+    recognizer.makeOptionNamesList(options, candidates);
+    EXPECT_EQ(namesOf(candidates), (std::vector<std::string>{"first", "level"}));
+}
+
+TEST_F(AbbreviationParserMatch, ScoresEachWordOfACandidate) {
+    const struct {
+        const char* typed;
+        const char* candidate;
+        int score; // 0: no match
+        bool sameWordCount;
+    } rows[] = {
+        {"verbose", "verbose", 2, true},
+        {"verb", "verbose", 1, true},
+        {"v", "v", 2, true},
+        {"verbosely", "verbose", 0, true},
+        {"x", "verbose", 0, true},
+        {"V", "verbose", 0, true},
+        {"erb", "verbose", 0, true},
+        {"o-f", "output-file", 2, true},
+        {"output-f", "output-file", 3, true},
+        {"o-file", "output-file", 3, true},
+        {"output-file", "output-file", 4, true},
+        {"output-x", "output-file", 0, true},
+        {"x-file", "output-file", 0, true},
+        {"output", "output-file", 2, false},
+        {"o", "output-file", 1, false},
+        {"o-f", "output-file-name", 2, false},
+        {"o-f-x", "output-file", 0, false},
+        {"output-file", "output", 0, false},
+        {"output-", "output", 0, false},
+        {"", "verbose", 1, true},
+        {"", "", 2, true},
+        {"", "output-file", 1, false},
+        {"", "-x", 2, false},
+        {"-x", "-x", 4, true},
+        {"-x", "no-xray", 2, true},
+        {"a--b", "a--b", 6, true},
+        {"a--b", "a-c-b", 5, true},
+        {"a-c-b", "a--b", 0, true},
+        {"o-", "output-file", 2, true},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(std::string(row.typed) + " against " + row.candidate);
+        std::vector<NameMatch> matches;
+        recognizer.makeNameMatch(matches, DecomposedName(row.typed), {DecomposedName(row.candidate)});
+        ASSERT_EQ(matches.size(), row.score == 0 ? 0U : 1U);
+        if (row.score != 0) {
+            EXPECT_EQ(matches[0].m_score, row.score);
+            EXPECT_EQ(matches[0].m_sameWordCount, row.sameWordCount);
+            EXPECT_EQ(matches[0].m_candidate.getName(), row.candidate);
+        }
+    }
+}
+
+TEST_F(AbbreviationParserMatch, AppendsMatchesInTheOrderOfTheCandidates) {
+    std::vector<NameMatch> matches = {{true, 9, DecomposedName("before")}};
+    recognizer.makeNameMatch(matches, DecomposedName("ver"),
+                             {DecomposedName("version"), DecomposedName("level"), DecomposedName("verbose-x"),
+                              DecomposedName("ver")});
+    ASSERT_EQ(matches.size(), 4U);
+    EXPECT_EQ(matches[0].m_candidate.getName(), "before");
+    EXPECT_EQ(matches[1].m_candidate.getName(), "version");
+    EXPECT_EQ(matches[2].m_candidate.getName(), "verbose-x");
+    EXPECT_EQ(matches[3].m_candidate.getName(), "ver");
+}
+
+TEST_F(AbbreviationParserMatch, FindsTheOneBestCandidate) {
+    const struct {
+        std::vector<NameMatch> matches;
+        const char* best;
+    } rows[] = {
+        {{{true, 1, DecomposedName("verbose")}}, "verbose"},
+        {{{true, 1, DecomposedName("verbose")}, {true, 2, DecomposedName("v")}}, "v"},
+        {{{true, 2, DecomposedName("v")}, {true, 1, DecomposedName("verbose")}}, "v"},
+        {{{true, 1, DecomposedName("a")}, {true, 1, DecomposedName("b")}, {true, 3, DecomposedName("c-d")}},
+         "c-d"},
+        {{{false, 9, DecomposedName("a-b-c")}, {true, 1, DecomposedName("d")}}, "d"},
+        {{{true, 1, DecomposedName("d")}, {false, 1, DecomposedName("a-b")}}, "d"},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.best);
+        DecomposedName best("");
+        std::string err = "untouched";
+        EXPECT_EQ(recognizer.findBest(row.matches, best, err), 0);
+        EXPECT_EQ(best.getName(), row.best);
+        EXPECT_EQ(err, "untouched");
+    }
+}
+
+TEST_F(AbbreviationParserMatch, FindsNothingWithoutACandidateOfTheSameWordCount) {
+    DecomposedName best("");
+    std::string err = "untouched";
+    EXPECT_EQ(recognizer.findBest({}, best, err), 1);
+    EXPECT_EQ(recognizer.findBest({{false, 2, DecomposedName("verbose-mode")}}, best, err), 1);
+    EXPECT_EQ(err, "untouched");
+}
+
+TEST_F(AbbreviationParserMatch, FindsAnAmbiguityAndListsItInOrder) {
+    const struct {
+        std::vector<NameMatch> matches;
+        const char* message;
+    } rows[] = {
+        {{{true, 1, DecomposedName("version")}, {true, 1, DecomposedName("verbose")}},
+         "Ambiguous option, possible options are: 'version', 'verbose'"},
+        {{{true, 1, DecomposedName("low")},
+          {true, 3, DecomposedName("out-f")},
+          {false, 3, DecomposedName("out-f-x")},
+          {true, 2, DecomposedName("mid")},
+          {true, 3, DecomposedName("o-file")},
+          {true, 3, DecomposedName("out-f")}},
+         "Ambiguous option, possible options are: 'out-f', 'o-file', 'out-f'"},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.message);
+        DecomposedName best("");
+        std::string err = "before";
+        EXPECT_EQ(recognizer.findBest(row.matches, best, err), 2);
+        EXPECT_EQ(err, row.message);
+    }
+}
+
+TEST_F(AbbreviationParserMatch, ForgetsTheMatchesOfTheSearchBefore) {
+    DecomposedName best("");
+    std::string err;
+    EXPECT_EQ(
+        recognizer.findBest({{true, 1, DecomposedName("a")}, {true, 1, DecomposedName("b")}}, best, err), 2);
+    EXPECT_EQ(recognizer.findBest({{true, 1, DecomposedName("c")}}, best, err), 0);
+    EXPECT_EQ(best.getName(), "c");
+    EXPECT_EQ(recognizer.findBest({}, best, err), 1);
+}
+
+} // namespace
+} // namespace tarv_3_3
