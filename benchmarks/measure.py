@@ -1,3 +1,4 @@
+#!/usr/bin/env python3
 """Runs the benchmark programs of a build and prints the figures as Markdown."""
 
 import argparse
@@ -25,16 +26,16 @@ class Program:
         self.path = os.path.join(build, "benchmarks", "bench-" + name)
         self.counter = os.path.join(build, "benchmarks", "libbench_allocations.so")
 
-    def text(self, mode, workload, size, **more):
+    def run(self, mode, workload, size, **more):
         command = [self.path, mode, workload, str(size)]
-        return subprocess.run(command, env=environment(**more), check=True, capture_output=True, text=True).stdout
+        return subprocess.run(command, env=environment(**more), check=True, capture_output=True, text=True)
 
     def answer(self, workload, size):
-        return self.text("answer", workload, size)
+        return self.run("answer", workload, size).stdout
 
     def allocations(self, mode, workload, size):
         """Allocations of every phase."""
-        lines = self.text(mode, workload, size, LD_PRELOAD=self.counter).splitlines()
+        lines = self.run(mode, workload, size, LD_PRELOAD=self.counter).stderr.splitlines()
         return {phase: int(count) for phase, count in (line.split() for line in lines)}
 
     def instructions(self, mode, workload, size):

@@ -1,33 +1,24 @@
-#!/bin/sh
-# Builds a release, checks that all libraries compute the same answers, measures, and prints one
-# table. With --tarv-only the library alone, in a fraction of the time, to compare two states of it.
-#
-#     benchmarks/run.sh [--tarv-only]
-#
-# BUILD_DIRECTORY, by default build-benchmarks beside this folder, holds what is built.
-set -eu
+#!/usr/bin/env bash
+# Installs what is missing, builds a release, checks that all libraries compute the same answers,
+# measures, and prints the figures as Markdown.
+#   benchmarks/run.sh [--tarv-only]
+# --tarv-only leaves the other libraries out, to compare two states of this one in half a minute.
+set -euo pipefail
+cd "$(dirname "$0")/.."
 
-here=$(cd "$(dirname "$0")" && pwd)
-source=$here/..
-[ -f "$source/CMakeLists.txt" ] || source=$here
-build=${BUILD_DIRECTORY:-$here/../build-benchmarks}
-packages="g++ cmake ninja-build python3 valgrind"
-targets="bench-tarv bench-handwritten bench_allocations"
-if [ "${1:-}" != --tarv-only ]; then
-    packages="$packages libcli11-dev libcxxopts-dev libboost-program-options-dev libtclap-dev
-        libgflags-dev libabsl-dev llvm-14-dev libpopt-dev libargtable2-dev libbenchmark-dev
-        zlib1g-dev libtinfo-dev"
-    targets=benchmarks
+build=build/benchmarks
+groups=(build benchmark peers)
+peers=ON
+if [[ ${1:-} == --tarv-only ]]; then
+    groups=(build benchmark)
+    peers=OFF
 fi
 
-for package in $packages; do
-    dpkg-query -W -f '${Status}' "$package" 2>/dev/null | grep -q 'ok installed' && continue
-    if [ "$(id -u)" = 0 ]; then apt-get install -y "$package"; else sudo apt-get install -y "$package"; fi
-done >&2
+{
+    tools/apt-install.sh "${groups[@]}"
+    cmake --preset release -B "$build" -DTARV_BUILD_TESTS=OFF -DTARV_BUILD_EXAMPLES=OFF \
+        -DTARV_BUILD_BENCHMARKS=ON -DTARV_BENCHMARK_PEERS="$peers"
+    cmake --build "$build" --parallel "$(nproc)"
+} >&2
 
-cmake -S "$source" -B "$build" -G Ninja -DCMAKE_BUILD_TYPE=Release -DTARV_BUILD_BENCHMARKS=ON \
-    -DTARV_BUILD_TESTS=OFF -DTARV_BUILD_EXAMPLES=OFF >&2
-# shellcheck disable=SC2086 # the targets are separate words
-cmake --build "$build" --target $targets >&2
-
-exec python3 "$here/measure.py" --build "$build" "$@"
+exec benchmarks/measure.py --build "$build" "$@"

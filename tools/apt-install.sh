@@ -1,14 +1,19 @@
 #!/usr/bin/env bash
 # Installs what is missing of the named groups of Debian packages:
-#   build  what a build of the library and the examples needs
-#   test   what the tests need besides
-#   ci     what only .ci/run needs besides
+#   build      what a build of the library and the examples needs
+#   test       what the tests need besides
+#   ci         what only .ci/run needs besides
+#   benchmark  what the benchmarks need besides a build
+#   peers      the libraries that the benchmarks compare with
 set -euo pipefail
 
 declare -A groups=(
     [build]="g++ cmake ninja-build"
     [test]="clang libclang-rt-14-dev googletest libgtest-dev pkg-config"
     [ci]="dpkg-dev file lintian"
+    [benchmark]="libbenchmark-dev python3 valgrind"
+    [peers]="libabsl-dev libargtable2-dev libboost-program-options-dev libcli11-dev libcxxopts-dev
+        libgflags-dev libpopt-dev libtclap-dev llvm-14-dev"
 )
 
 wanted=()

@@ -48,20 +48,21 @@ std::size_t storageOf(Kind kind) {
 
 class Declarations {
 public:
-    explicit Declarations(std::vector<Option>& options) : m_options(options) {}
+    Declarations(std::vector<Option>& options, std::size_t atMost) : m_options(options), m_atMost(atMost) {}
 
     void add(std::string name, char alias, Kind kind, std::string description) {
         std::size_t& slot = m_used[storageOf(kind)];
-        m_options.push_back({std::move(name), alias, kind, std::move(description), slot++, {}});
+        m_options.push_back({std::move(name), alias, kind, std::move(description), slot++, m_atMost, {}});
     }
 
 private:
     std::vector<Option>& m_options;
+    std::size_t m_atMost;
     std::array<std::size_t, 6> m_used{};
 };
 
-void declareEverydayOptions(std::vector<Option>& options) {
-    Declarations declarations(options);
+void declareEverydayOptions(std::vector<Option>& options, std::size_t atMost) {
+    Declarations declarations(options, atMost);
     for (const Declaration& each : everydayOptions)
         declarations.add(each.name, each.alias, each.kind, each.description);
 }
@@ -90,7 +91,7 @@ std::string generatedName(std::size_t index) {
 
 Workload everydayWorkload() {
     Workload workload;
-    declareEverydayOptions(workload.options);
+    declareEverydayOptions(workload.options, 100);
     const auto positional = [&](const char* value) { workload.given.push_back({nullptr, value, false}); };
     const auto joined = [&](const char* name, const char* value) {
         workload.given.push_back({named(workload.options, name), value, true});
@@ -120,7 +121,7 @@ Workload everydayWorkload() {
 
 Workload longCommandLine(std::size_t arguments) {
     Workload workload;
-    declareEverydayOptions(workload.options);
+    declareEverydayOptions(workload.options, arguments);
     const Option* list = named(workload.options, "include-path");
     std::size_t room = arguments;
     for (std::size_t i = 0; room > 0; ++i) {
@@ -140,7 +141,7 @@ Workload longCommandLine(std::size_t arguments) {
 
 Workload manyOptions(std::size_t options) {
     Workload workload;
-    Declarations declarations(workload.options);
+    Declarations declarations(workload.options, 100);
     for (std::size_t i = 0; i < options; ++i)
         declarations.add(generatedName(i), 0, Kind::List, "A setting of the program, number " + std::to_string(i) + ".");
     declarations.add("input", 0, Kind::Positional, "The files to work on.");

@@ -18,6 +18,8 @@ struct Option {
     std::string description;
     /// Where its value goes in `Answer`: the index among the options that share its storage.
     std::size_t slot;
+    /// More than the workload gives it, for libraries that want a bound.
+    std::size_t atMost;
     /// The names as the library at hand wants them, for example "verbose,v": what a host writes as
     /// a literal, hence made before anything is measured.
     std::string declared = {};

@@ -1,0 +1,86 @@
+/// CLI11 binds options to the host's variables; reading is copying them. The variables have to be
+/// reset before the parser is used again.
+
+#include "adapters/candidates.h"
+
+#include <CLI/CLI.hpp>
+
+#include <deque>
+
+namespace bench {
+
+namespace {
+
+class Cli11 final : public Library {
+public:
+    void declare(const std::vector<Option>& options) override {
+        m_variables.resize(options.size());
+        for (std::size_t i = 0; i < options.size(); ++i) {
+            const std::string& names = options[i].declared;
+            const std::string& description = options[i].description;
+            Variable& variable = m_variables[i];
+            switch (options[i].kind) {
+            case Kind::Switch: m_app.add_flag(names.c_str(), variable.on, description.c_str()); break;
+            case Kind::Integer: m_app.add_option(names.c_str(), variable.integer, description.c_str()); break;
+            case Kind::Number: m_app.add_option(names.c_str(), variable.number, description.c_str()); break;
+            case Kind::Text: m_app.add_option(names.c_str(), variable.text, description.c_str()); break;
+            case Kind::List:
+                m_app.add_option(names.c_str(), variable.list, description.c_str())
+                    ->delimiter(',')
+                    ->allow_extra_args(false);
+                break;
+            case Kind::Positional:
+                m_app.add_option(names.c_str(), variable.list, description.c_str());
+                break;
+            }
+        }
+    }
+
+    void parse(int argc, char** argv) override { m_app.parse(argc, argv); }
+
+    void read(const std::vector<Option>& options, Answer& answer) override {
+        for (std::size_t i = 0; i < options.size(); ++i) {
+            const Variable& variable = m_variables[i];
+            const std::size_t slot = options[i].slot;
+            switch (options[i].kind) {
+            case Kind::Switch: answer.switches[slot] = variable.on; break;
+            case Kind::Integer: answer.integers[slot] = variable.integer; break;
+            case Kind::Number: answer.numbers[slot] = variable.number; break;
+            case Kind::Text: answer.texts[slot] = variable.text; break;
+            case Kind::List:
+            case Kind::Positional: answer.lists[slot].assign(variable.list.begin(), variable.list.end()); break;
+            }
+        }
+    }
+
+    void forget() override {
+        for (Variable& variable : m_variables)
+            variable = Variable();
+    }
+
+    std::string help() override { return m_app.help(); }
+
+private:
+    struct Variable {
+        bool on = false;
+        int integer = 0;
+        double number = 0;
+        std::string text;
+        std::vector<std::string> list;
+    };
+
+    CLI::App m_app{"A program with a command line."};
+    std::deque<Variable> m_variables;
+};
+
+std::string dashedNames(const Option& option) {
+    if (option.kind == Kind::Positional)
+        return option.name;
+    return option.alias ? std::string("-") + option.alias + ",--" + option.name : "--" + option.name;
+}
+
+} // namespace
+
+const Candidate cli11Candidate = {"CLI11", {}, dashedNames, [] { return std::unique_ptr<Library>(new Cli11); }};
+
+} // namespace bench

@@ -1,0 +1,88 @@
+/// getopt_long of the C library: names only. Conversion, lists and the storage are the host's.
+/// Its table is built while "declaring"; a host would write it as a constant.
+
+#include "adapters/candidates.h"
+
+#include <getopt.h>
+
+#include <cstdlib>
+
+namespace bench {
+
+namespace {
+
+class Getopt final : public Library {
+public:
+    void declare(const std::vector<Option>& options) override {
+        m_values.resize(options.size());
+        m_positional = options.size() - 1;
+        for (std::size_t i = 0; i < options.size(); ++i) {
+            const Option& option = options[i];
+            if (option.kind == Kind::Positional)
+                continue;
+            const int argument = option.kind == Kind::Switch ? no_argument : required_argument;
+            const int code = option.alias ? option.alias : firstCode + static_cast<int>(i);
+            m_table.push_back({option.name.c_str(), argument, nullptr, code});
+            if (option.alias)
+                m_letters.append(1, option.alias).append(argument == required_argument ? ":" : "");
+            if (option.alias)
+                m_indexOfLetter[static_cast<unsigned char>(option.alias)] = i;
+        }
+        m_table.push_back({nullptr, 0, nullptr, 0});
+    }
+
+    void parse(int argc, char** argv) override {
+        optind = 0;
+        for (int code; (code = getopt_long(argc, argv, m_letters.c_str(), m_table.data(), nullptr)) != -1;) {
+            if (code == '?')
+                fail("refused");
+            const std::size_t index =
+                code >= firstCode ? static_cast<std::size_t>(code - firstCode) : m_indexOfLetter[code];
+            m_values[index].push_back(optarg ? optarg : "1");
+        }
+        m_values[m_positional].assign(argv + optind, argv + argc);
+    }
+
+    void read(const std::vector<Option>& options, Answer& answer) override {
+        for (std::size_t i = 0; i < options.size(); ++i) {
+            const std::vector<const char*>& values = m_values[i];
+            const std::size_t slot = options[i].slot;
+            if (values.empty())
+                continue;
+            switch (options[i].kind) {
+            case Kind::Switch: answer.switches[slot] = true; break;
+            case Kind::Integer: answer.integers[slot] = std::atoi(values.back()); break;
+            case Kind::Number: answer.numbers[slot] = std::strtod(values.back(), nullptr); break;
+            case Kind::Text: answer.texts[slot] = values.back(); break;
+            case Kind::List:
+                for (const char* value : values)
+                    splitAtCommas(value, answer.lists[slot]);
+                break;
+            case Kind::Positional: answer.lists[slot].assign(values.begin(), values.end()); break;
+            }
+        }
+    }
+
+    void forget() override {
+        for (std::vector<const char*>& values : m_values)
+            values.clear();
+    }
+
+    std::string help() override { return {}; }
+
+private:
+    static constexpr int firstCode = 256;
+
+    std::vector<option> m_table;
+    std::string m_letters;
+    std::size_t m_indexOfLetter[firstCode] = {};
+    std::vector<std::vector<const char*>> m_values;
+    std::size_t m_positional = 0;
+};
+
+} // namespace
+
+const Candidate getoptCandidate = {
+    "getopt_long", {}, nameAlone, [] { return std::unique_ptr<Library>(new Getopt); }, false, true, false};
+
+} // namespace bench
