@@ -1,0 +1,42 @@
+# Installs the run-time part (component "runtime") and the development part ("development").
+include(CMakePackageConfigHelpers)
+
+set(tarv_config_dir ${CMAKE_INSTALL_LIBDIR}/cmake/tarv)
+
+install(TARGETS tarv
+    EXPORT tarvTargets
+    LIBRARY
+        DESTINATION ${CMAKE_INSTALL_LIBDIR}
+        COMPONENT runtime
+        NAMELINK_COMPONENT development
+    FILE_SET HEADERS
+        DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}
+        COMPONENT development)
+install(EXPORT tarvTargets NAMESPACE tarv:: DESTINATION ${tarv_config_dir} COMPONENT development)
+if(TARV_STATIC)
+    install(TARGETS tarv_static
+        EXPORT tarvStaticTargets
+        ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT development)
+    install(EXPORT tarvStaticTargets
+        NAMESPACE tarv:: DESTINATION ${tarv_config_dir} COMPONENT development)
+endif()
+
+configure_package_config_file(cmake/tarvConfig.cmake.in ${PROJECT_BINARY_DIR}/tarvConfig.cmake
+    INSTALL_DESTINATION ${tarv_config_dir}
+    NO_SET_AND_CHECK_MACRO)
+write_basic_package_version_file(${PROJECT_BINARY_DIR}/tarvConfigVersion.cmake
+    COMPATIBILITY SameMinorVersion)
+install(FILES ${PROJECT_BINARY_DIR}/tarvConfig.cmake ${PROJECT_BINARY_DIR}/tarvConfigVersion.cmake
+    DESTINATION ${tarv_config_dir}
+    COMPONENT development)
+
+# The prefix is found from where the file lies, so that an installed tree can be moved.
+set(tarv_pc_dir ${CMAKE_INSTALL_FULL_LIBDIR}/pkgconfig)
+foreach(directory IN ITEMS PREFIX FULL_LIBDIR FULL_INCLUDEDIR)
+    cmake_path(RELATIVE_PATH CMAKE_INSTALL_${directory}
+        BASE_DIRECTORY ${tarv_pc_dir} OUTPUT_VARIABLE TARV_PC_${directory})
+endforeach()
+configure_file(cmake/tarv.pc.in ${PROJECT_BINARY_DIR}/tarv.pc @ONLY)
+install(FILES ${PROJECT_BINARY_DIR}/tarv.pc
+    DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig
+    COMPONENT development)
