@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
 
+#include <stdexcept>
+
 #include "recognition/AbbreviationParser.h"
 #include "recognition/DeclaringHandler.h"
 #include "recognition/Recognition.h"
@@ -18,7 +20,7 @@ struct Row {
 // A fresh recognizer for each row, with one option.
 void expectOutcomes(const char* names, das_variant_type_t type, const std::vector<Row>& rows) {
     for (const Row& row : rows) {
-        SCOPED_TRACE(row.outcome);
+        SCOPED_TRACE(testing::PrintToString(row.args));
         Recognition<AbbreviationParser> one;
         one.declare(names, type);
         EXPECT_EQ(one.run(row.args), row.outcome);
@@ -280,6 +282,36 @@ TEST(AbbreviationParserParse, TellsTheOptionBeforeItTakesAnIndexAndEachValueBehi
     ASSERT_EQ(recognizer.parse(args, &one.collector, one.registry.m_options, one.index, one.err), 0);
     EXPECT_EQ(witness.taken, (std::vector<int>{0, 2, 3}));
     EXPECT_EQ(one.collector.stored, "level@1=\"3\"@2,\"4\"@3");
+}
+
+/// Throws at the values that it is told of.
+class ThrowingHandler : public EventHandler {
+public:
+    bool onValueParse(const char*, const Value& value) override {
+        if (std::string(value.text) == "bad") {
+            throw std::runtime_error("bad value");
+        }
+        return true;
+    }
+};
+
+TEST(AbbreviationParserParse, LetsTheExceptionOfAHandlerPassAndGoesOnBehindIt) {
+    Recognition<AbbreviationParser> one;
+    one.declare("name", vtString);
+    ThrowingHandler handler;
+    AbbreviationParser recognizer(&handler, &one.garbage, 0);
+    Arguments args = {"--name", "good,bad", "x"};
+    ASSERT_EQ(recognizer.recognize(args, one.registry.m_options, one.err), 0);
+    EXPECT_THROW(recognizer.parse(args, &one.collector, one.registry.m_options, one.index, one.err),
+                 std::runtime_error);
+    EXPECT_EQ(args, (Arguments{"--name", "good,bad", "x"}));
+    EXPECT_EQ(one.collector.stored, "");
+
+    args = {"--name=fine", "x"};
+    ASSERT_EQ(recognizer.recognize(args, one.registry.m_options, one.err), 0);
+    EXPECT_EQ(recognizer.parse(args, &one.collector, one.registry.m_options, one.index, one.err), 0);
+    EXPECT_EQ(args, Arguments{"x"});
+    EXPECT_EQ(one.collector.stored, "name@4=\"fine\"@5");
 }
 
 TEST(AbbreviationParserParse, SurvivesAHandlerThatDeclaresOptions) {

@@ -11,7 +11,7 @@ namespace tarv_3_3 {
 namespace {
 
 TEST(PositionIndex, IsOneAtTheFirstCallInAProcess) {
-    testing::FLAGS_gtest_death_test_style = "threadsafe"; // a process of its own
+    GTEST_FLAG_SET(death_test_style, "threadsafe"); // in a process of its own
     EXPECT_EXIT(std::exit(IArgumentParser::getNewPositionIndex() == 1 ? 0 : 9), testing::ExitedWithCode(0),
                 "");
 }

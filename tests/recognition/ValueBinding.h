@@ -6,13 +6,10 @@
 #include "recognition/IArgumentParser.h"
 #include "recognition/Recognition.h"
 
-/// A recognizer of nothing, through which values are bound directly.
+/// A recognizer of nothing, through which values are bound directly. It has no name of its own.
 class ValueBinder : public tarv_3_3::IArgumentParser {
 public:
-    ValueBinder(tarv_3_3::EventHandler* handler, tarv_3_3::Garbage* garbage, unsigned int flags)
-        : IArgumentParser(handler, garbage, flags) {
-        m_name = "ValueBinder";
-    }
+    using IArgumentParser::IArgumentParser;
 
     int recognize(std::vector<std::string>&, std::vector<tarv_3_3::OptionDescription>&,
                   std::string&) override {
