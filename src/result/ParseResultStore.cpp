@@ -33,7 +33,8 @@ int ParseResult::applyDefault(std::vector<OptionDescription>& options, std::stri
         }
         for (const std::string& name : option.m_names) {
             OptionData& entry = m_options[name];
-            entry.defaultText = option.toString(&m_garbage, option.m_default);
+            // A kind that does not exist has no text.
+            entry.defaultText = m_garbage.init(option.toString(&m_garbage, option.m_default));
             entry.defaultPosition = IArgumentParser::getNewPositionIndex();
             entry.defaultValue = option.m_default;
         }
