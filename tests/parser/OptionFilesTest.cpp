@@ -1,0 +1,310 @@
+#include <gtest/gtest.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <cstdlib>
+#include <thread>
+
+#include "parser/Parsing.h"
+#include "support/CapturedLog.h"
+#include "support/TemporaryDirectory.h"
+
+namespace tarv_3_3 {
+namespace {
+
+/// A parser that reads option files and refuses unknown arguments; option `name`, not a list.
+class OptionFiles : public ::testing::Test {
+protected:
+    OptionFiles() {
+        parsing.parser.addOptionFileOption("", "");
+        parsing.parser.option("name", "", vtString, "").tokenize(0);
+    }
+
+    int parseFile(const std::string& path) { return parsing.parse({("--option-file=" + path).c_str()}); }
+
+    /// The values of `name`, each in square brackets.
+    std::string names() {
+        std::string line;
+        for (Value value = parsing.result.get("name", 0, 2147483647); value.status == 0;
+             value = parsing.result.next("name")) {
+            line += "[" + std::string(value.text) + "]";
+        }
+        return line;
+    }
+
+    TemporaryDirectory directory;
+    Parsing parsing{0x02};
+};
+
+class CountingParser : public BasicParser {
+public:
+    CountingParser() : BasicParser(0) {}
+
+    IOption& option(const char* names, const char* description, das_variant_type_t type,
+                    const char* topic) override {
+        declared += std::string(names) + "/" + description + "/" + std::to_string(type) + "/" + topic + ";";
+        return BasicParser::option(names, description, type, topic);
+    }
+
+    std::string declared;
+};
+
+TEST(AddOptionFileOption, DeclaresAStringOption) {
+    CountingParser parser;
+    EXPECT_TRUE(parser.addOptionFileOption("Reads options.", "files:Files"));
+    EXPECT_EQ(parser.declared, "option-file/Reads options./12/files:Files;");
+    EXPECT_TRUE(parser.isOptionDeclared("option-file", false, "files"));
+}
+
+TEST(AddOptionFileOption, IsTrueEvenWhenTheNameIsTaken) {
+    BasicParser parser(0);
+    EXPECT_TRUE(parser.addOptionFileOption("", ""));
+    const CapturedLog log;
+    EXPECT_TRUE(parser.addOptionFileOption("", ""));
+    EXPECT_EQ(log.text(),
+              "Tried to register an option with a name, which is alread registered: option-file\n");
+}
+
+TEST_F(OptionFiles, AreReadAfterARefusedSecondDeclaration) {
+    EXPECT_TRUE(parsing.parser.addOptionFileOption("", ""));
+    EXPECT_EQ(parseFile(directory.write("a", "--name=1")), 0);
+    EXPECT_EQ(names(), "[1]");
+}
+
+TEST_F(OptionFiles, AreReadThroughAnOptionThatTheHostDeclaredItself) {
+    Parsing own;
+    own.parser.option("option-file,f", "", vtString, "");
+    own.parser.option("name", "", vtString, "");
+    const std::string file = "-f=" + directory.write("a", "--name=1");
+    EXPECT_EQ(own.parse({file.c_str()}), 0);
+    EXPECT_FALSE(own.result.present("name", 0, 2147483647));
+    EXPECT_TRUE(own.parser.addOptionFileOption("", ""));
+    EXPECT_EQ(own.parse({"--name=0"}), 0);
+    EXPECT_STREQ(getLastValue(&own.result, "name").text, "1");
+}
+
+TEST_F(OptionFiles, AreReadBehindTheCommandLine) {
+    const std::string file = "--option-file=" + directory.write("a", "--name=2\n--\nplain of file\n");
+    EXPECT_EQ(parsing.parse({file.c_str(), "--name=1", "--", "plain of line"}), 0);
+    EXPECT_EQ(names(), "[1][2]");
+    EXPECT_EQ(parsing.plainArguments(), "[plain of line][plain of file]");
+}
+
+TEST_F(OptionFiles, AreNotReadWithoutTheOption) {
+    EXPECT_EQ(parsing.parse({"--name=1"}), 0);
+    EXPECT_EQ(names(), "[1]");
+    EXPECT_EQ(parsing.error(), "");
+}
+
+TEST_F(OptionFiles, AreReadForStreamsAsWell) {
+    EXPECT_EQ(parsing.parseStream(("--option-file=" + directory.write("a", "--name=1")).c_str()), 0);
+    EXPECT_EQ(names(), "[1]");
+}
+
+TEST_F(OptionFiles, AreReadInTheOrderStored) {
+    const std::string list = "--option-file=" + directory.write("z", "--name=z") + "," +
+                             directory.write("a", "--name=a") + "," + directory.write("m", "--name=m");
+    const std::string further = "--option-file=" + directory.write("b", "--name=b");
+    EXPECT_EQ(parsing.parse({list.c_str(), further.c_str()}), 0);
+    EXPECT_EQ(names(), "[z][a][m][b]");
+}
+
+TEST_F(OptionFiles, AreReadTwiceWhenNamedTwiceAndAgainByTheNextParse) {
+    const std::string path = directory.write("a", "--name=a");
+    const std::string file = "--option-file=" + path + "," + path;
+    EXPECT_EQ(parsing.parse({file.c_str()}), 0);
+    EXPECT_EQ(names(), "[a][a]");
+    EXPECT_EQ(parsing.parse({"--name=b"}), 0);
+    EXPECT_EQ(names(), "[a][a][b][a][a]");
+}
+
+TEST_F(OptionFiles, MayNameFurtherFilesTenDeep) {
+    std::string next = directory.write("10", "--name=10");
+    for (int depth = 9; depth >= 1; --depth) {
+        next = directory.write(std::to_string(depth),
+                               "--name=" + std::to_string(depth) + "\n--option-file=" + next + "\n");
+    }
+    EXPECT_EQ(parseFile(next), 0);
+    EXPECT_EQ(names(), "[1][2][3][4][5][6][7][8][9][10]");
+}
+
+// A file named in a file waits until those named before it were read.
+TEST_F(OptionFiles, NamedInAFileAreReadBehindThoseNamedBefore) {
+    const std::string inner = directory.write("inner", "--name=inner");
+    const std::string list =
+        "--option-file=" + directory.write("first", "--option-file=" + inner + "\n--name=first") + "," +
+        directory.write("second", "--name=second");
+    EXPECT_EQ(parsing.parse({list.c_str()}), 0);
+    EXPECT_EQ(names(), "[first][second][inner]");
+}
+
+TEST_F(OptionFiles, MayBeTheDefault) {
+    Parsing reader;
+    reader.parser.option("option-file", "", vtString, "")
+        .defaultValue(directory.write("default", "--name=default").c_str());
+    reader.parser.addOptionFileOption("", "");
+    reader.parser.option("name", "", vtString, "");
+    EXPECT_EQ(reader.parse({"--name=line"}), 0);
+    EXPECT_STREQ(getLastValue(&reader.result, "name").text, "default");
+    EXPECT_EQ(reader.parseStream("--name=stream"), 0);
+    EXPECT_STREQ(getLastValue(&reader.result, "name").text, "default");
+}
+
+TEST_F(OptionFiles, AreReadByteForByteUpToAZeroByte) {
+    const struct {
+        const char* title;
+        std::string contents;
+        const char* names;
+    } rows[] = {
+        {"empty", "", ""},
+        {"blank", " \n\t\r\n\n", ""},
+        {"no final newline", "--name=1\n--name=2", "[1][2]"},
+        {"carriage returns", "--name=1\r\n--name=2\r\n", "[1][2]"},
+        {"comments", "# a\n  ; b\n--name=1 # c\n", "[1 # c]"},
+        {"blanks stay", "  --name=a b  \n", "[a b  ]"},
+        {"bytes above 127", "--name=\xFF\xFE\x80\xC3\xA4\n", "[\xFF\xFE\x80\xC3\xA4]"},
+        {"control bytes", "--name=\x01\x1B\x7F\n", "[\x01\x1B\x7F]"},
+        {"zero byte", std::string("--name=1\n--name=2\0 3\n--name=4\n", 29), "[1][2]"},
+        {"zero byte at first", std::string("\0--name=1\n", 10), ""},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.title);
+        Parsing reader(0x02);
+        reader.parser.addOptionFileOption("", "");
+        reader.parser.option("name", "", vtString, "").tokenize(0);
+        const std::string file = "--option-file=" + directory.write("file", row.contents);
+        EXPECT_EQ(reader.parse({file.c_str()}), 0);
+        std::string names;
+        for (Value value = reader.result.get("name", 0, 2147483647); value.status == 0;
+             value = reader.result.next("name")) {
+            names += "[" + std::string(value.text) + "]";
+        }
+        EXPECT_EQ(names, row.names);
+    }
+}
+
+TEST_F(OptionFiles, HoldingMinusOneAloneHoldAQuestionMark) {
+    EXPECT_EQ(parseFile(directory.write("a", "-1")), 2);
+    EXPECT_EQ(parsing.error(), "Unknown option: ?");
+}
+
+TEST_F(OptionFiles, MayHaveALineOfAMebibyte) {
+    const std::string value(1 << 20, 'x');
+    EXPECT_EQ(parseFile(directory.write("a", "--name=" + value + "\n--name=end\n")), 0);
+    EXPECT_TRUE(names() == "[" + value + "][end]");
+}
+
+TEST_F(OptionFiles, MayHaveAHundredThousandLines) {
+    std::string contents;
+    for (int i = 0; i < 100000; ++i) {
+        contents += "--name=x\n";
+    }
+    EXPECT_EQ(parseFile(directory.write("a", contents + "--name=end\n")), 0);
+    EXPECT_EQ(parsing.result.entries().at("name").positions.size(), 100001U);
+    EXPECT_STREQ(getLastValue(&parsing.result, "name").text, "end");
+}
+
+TEST_F(OptionFiles, MayBeAPipe) {
+    const std::string path = directory.pathOf("pipe");
+    ASSERT_EQ(mkfifo(path.c_str(), 0600), 0);
+    const std::string value(200000, 'x');
+    std::thread writer([&] { directory.write("pipe", "--name=" + value + "\n--name=end"); });
+    EXPECT_EQ(parseFile(path), 0);
+    writer.join();
+    EXPECT_TRUE(names() == "[" + value + "][end]");
+}
+
+TEST_F(OptionFiles, ThatCannotBeReadEndTheParse) {
+    const struct {
+        const char* title;
+        std::string path;
+    } rows[] = {
+        {"missing", directory.pathOf("missing.txt")},
+        {"in a missing directory", directory.pathOf("missing/file")},
+        {"a directory", directory.pathOf("")},
+        {"below a file", directory.write("file", "") + "/file"},
+        {"too long", std::string(5000, 'x')},
+        {"without a path", "missing.txt"},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.title);
+        Parsing reader(0x02);
+        reader.parser.addOptionFileOption("", "");
+        const std::string file = "--option-file=" + row.path;
+        EXPECT_EQ(reader.parse({file.c_str()}), 6);
+        EXPECT_EQ(reader.error(), "Error reading option file '" + row.path + "'");
+    }
+}
+
+TEST_F(OptionFiles, WithoutPermissionEndTheParse) {
+    if (geteuid() == 0) {
+        GTEST_SKIP() << "the superuser may read every file";
+    }
+    const std::string path = directory.write("secret", "--name=1");
+    ASSERT_EQ(chmod(path.c_str(), 0), 0);
+    EXPECT_EQ(parseFile(path), 6);
+    EXPECT_EQ(parsing.error(), "Error reading option file '" + path + "'");
+}
+
+TEST_F(OptionFiles, KeepWhatWasStoredBeforeOneFails) {
+    const std::string list = "--option-file=" + directory.write("a", "--name=a\n--\nplain") + "," +
+                             directory.pathOf("missing") + "," + directory.write("b", "--name=b");
+    EXPECT_EQ(parsing.parse({"--name=line", list.c_str()}), 6);
+    EXPECT_EQ(parsing.error(), "Error reading option file '" + directory.pathOf("missing") + "'");
+    EXPECT_EQ(names(), "[line][a]");
+    EXPECT_EQ(parsing.plainArguments(), "[plain]");
+}
+
+TEST_F(OptionFiles, EndTheParseAtTheirFirstBadLine) {
+    const std::string list = "--option-file=" + directory.write("a", "--name=a\nx\n--name=b") + "," +
+                             directory.write("b", "--name=c");
+    EXPECT_EQ(parsing.parse({list.c_str()}), 2);
+    EXPECT_EQ(parsing.error(), "Unknown option: x");
+    EXPECT_EQ(names(), "[a]");
+}
+
+TEST_F(OptionFiles, EndTheParseAtTheirFirstBadPlainArgument) {
+    Parsing reader(0x04);
+    reader.parser.addOptionFileOption("", "");
+    reader.parser.option("count", "", vtInt32, "").positional();
+    const std::string file = "--option-file=" + directory.write("a", "--\n1\nx\n2");
+    EXPECT_EQ(reader.parse({file.c_str()}), 2);
+    EXPECT_EQ(reader.error(), "Value validation problem in argument 'x': "
+                              "Option 'count' can not parse 'x' value, requires a type 'integer' here.");
+    EXPECT_EQ(reader.plainArguments(), "[1][x]");
+}
+
+TEST_F(OptionFiles, AreNotReadWhenTheCommandLineFails) {
+    const std::string file = "--option-file=" + directory.pathOf("missing");
+    EXPECT_EQ(parsing.parse({file.c_str(), "x"}), 2);
+    EXPECT_EQ(parsing.error(), "Unknown option: x");
+}
+
+TEST_F(OptionFiles, AreCheckedByTheRulesTogetherWithTheCommandLine) {
+    parsing.parser.action("build", "", vtNull, "");
+    parsing.parser.modifier("deep", "clean", "", vtNull, "");
+    const std::string path = directory.write("a", "--build\n--name=a");
+    EXPECT_EQ(parseFile(path), 0);
+    const std::string other = "--option-file=" + directory.write("b", "--deep");
+    EXPECT_EQ(parsing.parse({other.c_str()}), 2);
+    EXPECT_EQ(parsing.error(), "Action '-build' doesn't accept option '-deep'");
+}
+
+TEST_F(OptionFiles, DecideForThemselvesWhetherToTrace) {
+    Parsing reader;
+    reader.parser.addOptionFileOption("", "");
+    const std::string list =
+        "--option-file=" + directory.write("silent", "a\n") + "," +
+        directory.write("traced", "# comment\n  tarvoption=tarvlogenable=1\r\nb\n--\nplain\n") + "," +
+        directory.write("late", "c\ntarvoption=tarvlogenable=1\n");
+    const CapturedLog log;
+    EXPECT_EQ(reader.parse({list.c_str()}), 0);
+    EXPECT_EQ(log.text(), "PositionalOptionsParser: recognizing argument 'b'\n"
+                          "AbbreviationParser: recognizing argument 'b'\n"
+                          "ignoring b\n"
+                          "collectNonparsingArguments: stored argument: 'plain'\n");
+    EXPECT_FALSE(internal::tarvLogEnabled);
+}
+
+} // namespace
+} // namespace tarv_3_3

@@ -1,0 +1,49 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "parser/BasicParser.h"
+#include "result/ParseResult.h"
+#include "support/RelativePositions.h"
+#include "support/describe.h"
+
+/// A parser, the result that it parses into, and what is in that result as one line.
+class Parsing {
+public:
+    explicit Parsing(int flags = 0) : parser(flags) {}
+
+    /// Parses the arguments of a command line; the program's name goes in front.
+    int parse(std::vector<const char*> arguments) {
+        arguments.insert(arguments.begin(), "program");
+        return parser.parseArgsVector(static_cast<int>(arguments.size()), arguments.data(), &result);
+    }
+
+    int parseStream(const char* text) { return parser.parseStream(text, &result); }
+
+    /// The entries of the result, in its order; see `describe`.
+    std::string stored() const {
+        std::string line;
+        for (const auto& [name, data] : result.entries()) {
+            line += (line.empty() ? "" : " ") + describe(name, data, positions);
+        }
+        return line;
+    }
+
+    /// The plain arguments, each in square brackets.
+    std::string plainArguments() {
+        std::string line;
+        const char* text = nullptr;
+        for (int status = result.getFirstArgument(&text); status == 0;
+             status = result.getNextArgument(&text)) {
+            line += "[" + std::string(text) + "]";
+        }
+        return line;
+    }
+
+    std::string error() { return parser.getErrorDesc(); }
+
+    const RelativePositions positions;
+    tarv_3_3::BasicParser parser;
+    tarv_3_3::ParseResult result;
+};
