@@ -7,7 +7,8 @@
 #   "`path`:" for the whole file, "From `path`:" for a piece of it.
 # - A ```console block is a session: lines that begin with "$ " are commands ("> " goes on with one),
 #   all others are what the commands print, standard error included. Each session runs in an empty
-#   folder, with the programs of BIN_DIR at hand.
+#   folder, with the programs of BIN_DIR at hand. A ```console-if-NAME session runs only where there
+#   is a program NAME; the last line of the report counts the sessions left out.
 # - With FOLDER, every program in it must be shown whole, and run in some session.
 set -u
 
@@ -17,6 +18,7 @@ bin_dir=$(cd "$3" && pwd) || exit 1
 folder=${4:-}
 
 failures=0
+left_out=0
 shown=()
 commands=()
 
@@ -85,6 +87,14 @@ while IFS= read -r line || [[ -n $line ]]; do
         case $kind in
         cpp) check_source "$start" "$introduction" "$block" ;;
         console) check_session "$start" "$block" ;;
+        console-if-*)
+            if [[ -x $bin_dir/${kind#console-if-} ]]; then
+                check_session "$start" "$block"
+            else
+                left_out=$((left_out + 1))
+                commands+=("${kind#console-if-}")
+            fi
+            ;;
         esac
         kind=
     elif [[ -n $kind ]]; then
@@ -103,5 +113,6 @@ if [[ -n $folder ]]; then
     done
 fi
 
-echo "$page: ${#shown[@]} programs shown, ${#commands[@]} commands run, $failures failures"
+echo "$page: ${#shown[@]} programs shown, ${#commands[@]} commands," \
+    "$left_out sessions left out, $failures failures"
 [[ $failures == 0 && ${#commands[@]} != 0 ]]
