@@ -94,7 +94,7 @@ public:
 
     /// Help: the names of the actions, four blanks in front of each, or, where none is declared,
     /// all options under their topics. With `hidden`, what is under the topic "tarv_hidden", and
-    /// only that. Lines have at most 79 columns, as far as names and words allow.
+    /// only that. Descriptions end before column 80, titles before column 81, as far as names allow.
     virtual const char* getDescription(bool hidden = false) = 0;
 
     /// Help for the option or action that has exactly the name `topic`; for a name that is not
