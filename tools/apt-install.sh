@@ -10,7 +10,7 @@ set -euo pipefail
 declare -A groups=(
     [build]="g++ cmake ninja-build"
     [test]="clang libclang-rt-14-dev googletest libgtest-dev pkg-config"
-    [ci]="clang-format dpkg-dev file lintian shellcheck"
+    [ci]="clang-format clang-tidy dpkg-dev file lintian shellcheck"
     [benchmark]="libbenchmark-dev python3 valgrind"
     [peers]="libabsl-dev libargtable2-dev libboost-program-options-dev libcli11-dev libcxxopts-dev
         libgflags-dev libpopt-dev libtclap-dev llvm-14-dev"
