@@ -81,7 +81,7 @@ const char* BasicParser::getDescription(std::vector<Topic> topics,
     try {
         return m_garbage.init(renderHelp(topics, options, hidden).c_str());
     } catch (...) {
-        setLastError(messages::unknownErrorHandled);
+        m_lastError = messages::unknownErrorHandled;
         return getErrorDesc();
     }
 }

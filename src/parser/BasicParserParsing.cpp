@@ -79,7 +79,8 @@ int BasicParser::parseVector(std::vector<std::string>& arguments, IParseResult* 
         }
         return status == parseOk ? parse_phase_two(endMarker, arguments, result, m_lastError) : status;
     } catch (const std::exception&) {
-        setLastError(messages::unidentifiedProblem);
+        // Where the last message left room for this one, no memory is needed.
+        m_lastError = messages::unidentifiedProblem;
         return parseUnidentified;
     }
 }

@@ -1,5 +1,6 @@
 #include <exception>
 #include <locale>
+#include <new>
 #include <string_view>
 
 #include "parser/BasicParser.h"
@@ -73,8 +74,8 @@ int BasicParser::readOptionFiles(const std::string& endMarker, IParseResult* res
     if (!m_optionFileDeclared || result == nullptr || !result->present(optionFileName, 0, noPosition)) {
         return parseOk;
     }
-    for (Value file = result->get(optionFileName, 0, noPosition); file.as<const char*>() != nullptr;
-         file = result->next(optionFileName)) {
+    Value file = result->get(optionFileName, 0, noPosition);
+    for (; file.as<const char*>() != nullptr; file = result->next(optionFileName)) {
         const std::string path = file.as<const char*>();
         std::string contents;
         if (!MERO_2_16::system::load_file(path, contents)) {
@@ -87,6 +88,10 @@ int BasicParser::readOptionFiles(const std::string& endMarker, IParseResult* res
         if (status != parseOk) {
             return status;
         }
+    }
+    // A query that failed must not pass for the end of the files.
+    if (file.status == valueException) {
+        throw std::bad_alloc();
     }
     return parseOk;
 }

@@ -1,7 +1,9 @@
 #include "platform/load_file.h"
 
+#include <cerrno>
 #include <cstdio>
 #include <memory>
+#include <new>
 
 namespace MERO_2_16::system {
 
@@ -16,6 +18,9 @@ struct FileCloser {
 bool load_file(const strings::ustring8& path, strings::ustring8& contents) {
     const std::unique_ptr<std::FILE, FileCloser> file(std::fopen(path.c_str(), "rbe"));
     if (file == nullptr) {
+        if (errno == ENOMEM) {
+            throw std::bad_alloc();
+        }
         return false;
     }
     contents.clear();

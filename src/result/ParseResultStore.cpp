@@ -6,9 +6,14 @@ namespace tarv_3_3 {
 
 namespace {
 
+// One by one: when memory runs out, an insertion of several at once may lose what was there before.
 void append(OptionData& entry, const OptionData& data) {
-    entry.positions.insert(entry.positions.end(), data.positions.begin(), data.positions.end());
-    entry.values.insert(entry.values.end(), data.values.begin(), data.values.end());
+    for (const int position : data.positions) {
+        entry.positions.push_back(position);
+    }
+    for (const OptionValue& value : data.values) {
+        entry.values.push_back(value);
+    }
 }
 
 } // namespace
