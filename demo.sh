@@ -8,7 +8,7 @@ cd "$(dirname "$0")"
 tools/apt-install.sh build
 {
     cmake --preset release -DTARV_BUILD_TESTS=OFF -B build/demo
-    cmake --build build/demo --parallel "$(nproc)"
+    cmake --build build/demo --target seek --parallel "$(nproc)"
 } >&2
 
 seek=build/demo/examples/seek

@@ -3,14 +3,17 @@
 #   build      what a build of the library and the examples needs
 #   test       what the tests need besides
 #   ci         what only .ci/run needs besides
+#   coverage   what tools/coverage.sh needs besides the tests
 #   benchmark  what the benchmarks need besides a build
 #   peers      the libraries that the benchmarks compare with
 set -euo pipefail
 
 declare -A groups=(
     [build]="g++ cmake ninja-build"
-    [test]="clang libclang-rt-14-dev googletest libgtest-dev pkg-config"
+    [test]="clang googletest libboost-program-options-dev libclang-rt-14-dev libcli11-dev libgtest-dev
+        pkg-config"
     [ci]="clang-format clang-tidy dpkg-dev file lintian shellcheck"
+    [coverage]="gcovr"
     [benchmark]="libbenchmark-dev python3 valgrind"
     [peers]="libabsl-dev libargtable2-dev libboost-program-options-dev libcli11-dev libcxxopts-dev
         libgflags-dev libpopt-dev libtclap-dev llvm-14-dev"
