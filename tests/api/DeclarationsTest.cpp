@@ -12,8 +12,8 @@ TEST(Declarations, SayWhetherTheyWereStored) {
         const char* names;
         int status;
     } rows[] = {
-        {"level,l", 0}, {"l", 1},       {"other,level", 1}, {"a,b,c", 0},    {"d,e,long", 1},
-        {"f,g,h,i", 1}, {nullptr, 1},   {"level2", 0},      {"color", 0},    {"no-color", 1},
+        {"level,l", 0}, {"l", 1},     {"other,level", 1}, {"a,b,c", 0}, {"d,e,long", 1},
+        {"f,g,h,i", 1}, {nullptr, 1}, {"level2", 0},      {"color", 0}, {"no-color", 1},
     };
     for (const auto& row : rows) {
         SCOPED_TRACE(row.names != nullptr ? row.names : "null");

@@ -218,8 +218,7 @@ TEST(Slots, OfTheLibrarysOwnObjectsParseACommandLine) {
     ASSERT_EQ(tarv::createParser(&parser, tarv::flagRejectUnknown), 0);
     tarv::IParseResult* result = nullptr;
     EXPECT_EQ((callSlot<int, tarv::IParser>(parser, 4, &result)), 0);
-    auto* const option =
-        callSlot<tarv::IOption*, tarv::IParser>(parser, 5, "level", "", tarv::vtInt32, "");
+    auto* const option = callSlot<tarv::IOption*, tarv::IParser>(parser, 5, "level", "", tarv::vtInt32, "");
     callSlot<tarv::IOption*>(option, 0, "l");
     const char* const argv[] = {"program", "-l=5"};
     EXPECT_EQ((callSlot<int, tarv::IParser>(parser, 9, 2, static_cast<const char* const*>(argv), result)), 0);

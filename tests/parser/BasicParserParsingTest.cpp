@@ -152,8 +152,7 @@ TEST(PhaseOne, PrefersTheNamedOptionWhereBothRecognizersTakeAnArgument) {
     parsing.parser.option("file", "", vtString, "").positional();
     parsing.parser.option("level", "", vtString, "");
     EXPECT_EQ(parsing.parse({"--level=1", "--other", "--lev=2", "a"}), 0);
-    EXPECT_EQ(parsing.stored(),
-              "file@3@7=\"--other\"@4,\"a\"@8 level@1@5=\"1\"@2,\"2\"@6");
+    EXPECT_EQ(parsing.stored(), "file@3@7=\"--other\"@4,\"a\"@8 level@1@5=\"1\"@2,\"2\"@6");
 }
 
 TEST(PhaseOne, HandsTheFlagsToThePositionalRecognizer) {

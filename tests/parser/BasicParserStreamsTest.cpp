@@ -78,8 +78,8 @@ TEST(ParseStreamToArgs, ReadsTheTextMinusOneAsAQuestionMark) {
         const char* text;
         Arguments arguments;
     } rows[] = {
-        {"-1", {"?"}},      {"-1\n", {"-1"}}, {" -1", {"-1"}},     {"-1\r", {"-1"}},
-        {"-10", {"-10"}},   {"-", {"-"}},     {"a\n-1", {"a", "-1"}}, {"?", {"?"}},
+        {"-1", {"?"}},    {"-1\n", {"-1"}}, {" -1", {"-1"}},        {"-1\r", {"-1"}},
+        {"-10", {"-10"}}, {"-", {"-"}},     {"a\n-1", {"a", "-1"}}, {"?", {"?"}},
     };
     for (const auto& row : rows) {
         SCOPED_TRACE(row.text);

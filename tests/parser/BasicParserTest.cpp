@@ -77,8 +77,7 @@ TEST(BasicParser, TracesADuplicateNameWithTheNamesAsGiven) {
     parser.option("level,l", "", vtString, "");
     const CapturedLog log;
     parser.option("other,l", "", vtString, "");
-    EXPECT_EQ(log.text(),
-              "Tried to register an option with a name, which is alread registered: other,l\n");
+    EXPECT_EQ(log.text(), "Tried to register an option with a name, which is alread registered: other,l\n");
 }
 
 TEST(BasicParser, KnowsADeclaredNameByRoleAndTopic) {
@@ -93,19 +92,32 @@ TEST(BasicParser, KnowsADeclaredNameByRoleAndTopic) {
         const char* topic;
         bool declared;
     } rows[] = {
-        {"level", false, nullptr, true},   {"l", false, nullptr, true},
-        {"depth", false, nullptr, true},   {"level", true, nullptr, false},
-        {"jobs", false, nullptr, true},    {"jobs", true, nullptr, false},
-        {"build", true, nullptr, true},    {"b", true, nullptr, true},
-        {"build", false, nullptr, false},  {"lev", false, nullptr, false},
-        {"Level", false, nullptr, false},  {"--level", false, nullptr, false},
-        {"no-color", false, nullptr, false}, {"", false, nullptr, false},
-        {nullptr, false, nullptr, false},  {nullptr, true, "main", false},
-        {"level", false, "out", true},     {"depth", false, "out", true},
-        {"level", false, "out:Output", false}, {"level", false, "Output", false},
-        {"level", false, "main", false},   {"level", false, "", false},
-        {"color", false, "", true},        {"color", false, "out", false},
-        {"build", true, "main", true},     {"build", true, "out", false},
+        {"level", false, nullptr, true},
+        {"l", false, nullptr, true},
+        {"depth", false, nullptr, true},
+        {"level", true, nullptr, false},
+        {"jobs", false, nullptr, true},
+        {"jobs", true, nullptr, false},
+        {"build", true, nullptr, true},
+        {"b", true, nullptr, true},
+        {"build", false, nullptr, false},
+        {"lev", false, nullptr, false},
+        {"Level", false, nullptr, false},
+        {"--level", false, nullptr, false},
+        {"no-color", false, nullptr, false},
+        {"", false, nullptr, false},
+        {nullptr, false, nullptr, false},
+        {nullptr, true, "main", false},
+        {"level", false, "out", true},
+        {"depth", false, "out", true},
+        {"level", false, "out:Output", false},
+        {"level", false, "Output", false},
+        {"level", false, "main", false},
+        {"level", false, "", false},
+        {"color", false, "", true},
+        {"color", false, "out", false},
+        {"build", true, "main", true},
+        {"build", true, "out", false},
     };
     for (const auto& row : rows) {
         SCOPED_TRACE(std::string(row.name != nullptr ? row.name : "null") + " under " +

@@ -71,29 +71,28 @@ TEST(Trace, TellsHowPlainArgumentsArePositional) {
     parsing.parser.setLastError("earlier");
     const CapturedLog log;
     EXPECT_EQ(parsing.parse({logSwitch, "--", "1", "x"}), 2);
-    EXPECT_EQ(log.text(),
-              "collectNonparsingArguments: stored argument: '1'\n"
-              "PositionalOptionsParser: recognizing argument '1'\n"
-              "collectNonparsingArguments: recognize result: 0, message: earlier\n"
-              "PositionalOptionsParser: parsing argument '1'\n"
-              "PositionalOptionsParser: option is 'file'\n"
-              "PositionalOptionsParser: adding values to result container:\n"
-              "PositionalOptionsParser: not using tokenizer\n"
-              "PositionalOptionsParser: stored option to result container.\n"
-              "PositionalOptionsParser: removing argument: '1'\n"
-              "collectNonparsingArguments: parse result: 0, message: earlier\n"
-              "collectNonparsingArguments: stored argument: 'x'\n"
-              "PositionalOptionsParser: recognizing argument 'x'\n"
-              "collectNonparsingArguments: recognize result: 0, message: earlier\n"
-              "PositionalOptionsParser: parsing argument 'x'\n"
-              "PositionalOptionsParser: option is 'file'\n"
-              "PositionalOptionsParser: adding values to result container:\n"
-              "PositionalOptionsParser: not using tokenizer\n"
-              "PositionalOptionsParser: Value validation problem in argument 'x': "
-              "Option 'file' can not parse 'x' value, requires a type 'integer' here.\n"
-              "collectNonparsingArguments: parse result: 2, message: Value validation "
-              "problem in argument 'x': "
-              "Option 'file' can not parse 'x' value, requires a type 'integer' here.\n");
+    EXPECT_EQ(log.text(), "collectNonparsingArguments: stored argument: '1'\n"
+                          "PositionalOptionsParser: recognizing argument '1'\n"
+                          "collectNonparsingArguments: recognize result: 0, message: earlier\n"
+                          "PositionalOptionsParser: parsing argument '1'\n"
+                          "PositionalOptionsParser: option is 'file'\n"
+                          "PositionalOptionsParser: adding values to result container:\n"
+                          "PositionalOptionsParser: not using tokenizer\n"
+                          "PositionalOptionsParser: stored option to result container.\n"
+                          "PositionalOptionsParser: removing argument: '1'\n"
+                          "collectNonparsingArguments: parse result: 0, message: earlier\n"
+                          "collectNonparsingArguments: stored argument: 'x'\n"
+                          "PositionalOptionsParser: recognizing argument 'x'\n"
+                          "collectNonparsingArguments: recognize result: 0, message: earlier\n"
+                          "PositionalOptionsParser: parsing argument 'x'\n"
+                          "PositionalOptionsParser: option is 'file'\n"
+                          "PositionalOptionsParser: adding values to result container:\n"
+                          "PositionalOptionsParser: not using tokenizer\n"
+                          "PositionalOptionsParser: Value validation problem in argument 'x': "
+                          "Option 'file' can not parse 'x' value, requires a type 'integer' here.\n"
+                          "collectNonparsingArguments: parse result: 2, message: Value validation "
+                          "problem in argument 'x': "
+                          "Option 'file' can not parse 'x' value, requires a type 'integer' here.\n");
 }
 
 TEST(Trace, TellsThatPlainArgumentsAreNotPositional) {

@@ -21,9 +21,8 @@ TEST(CreateParser, GivesNewOptionsACommaAsListSeparatorUnlessListsAreOff) {
     const struct {
         int flags;
         char separator;
-    } rows[] = {{0, ','},        {0x20, '\0'},       {0x20 | 0x02, '\0'}, {~0x20, ','},
-                {0x02, ','},     {0x04, ','},        {0x08, ','},         {0x10, ','},
-                {0x01 | 0x40, ','}, {0x7fffffff, '\0'}, {-1, '\0'}};
+    } rows[] = {{0, ','},    {0x20, '\0'}, {0x20 | 0x02, '\0'}, {~0x20, ','},       {0x02, ','}, {0x04, ','},
+                {0x08, ','}, {0x10, ','},  {0x01 | 0x40, ','},  {0x7fffffff, '\0'}, {-1, '\0'}};
     for (const auto& row : rows) {
         SCOPED_TRACE(row.flags);
         EXPECT_EQ(separatorOfNewOptions(row.flags), row.separator);

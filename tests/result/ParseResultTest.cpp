@@ -31,9 +31,7 @@ protected:
         result.store(optionNamed({"empty"}), empty);
     }
 
-    std::string get(const char* name, int lo = 0, int hi = end) {
-        return describe(result.get(name, lo, hi));
-    }
+    std::string get(const char* name, int lo = 0, int hi = end) { return describe(result.get(name, lo, hi)); }
 
     std::string next() { return describe(result.next("level")); }
 
@@ -55,7 +53,7 @@ TEST_F(ParseResultQueries, FindAnOptionByAnyOfItsNamesExactly) {
         const char* value;
         bool present;
     } rows[] = {
-        {"level", "\"a\"@11", true}, {"l", "\"a\"@11", true}, {"lev", "missing", false},
+        {"level", "\"a\"@11", true}, {"l", "\"a\"@11", true},  {"lev", "missing", false},
         {"Level", "missing", false}, {"-l", "missing", false}, {"no-quiet", "missing", false},
         {"", "missing", false},
     };

@@ -46,9 +46,8 @@ inline std::string describe(const tarv_3_3::Value& value) {
         const std::string text = value.text != nullptr ? "\"" + std::string(value.text) + "\"" : "";
         return text + "@" + std::to_string(value.position);
     }
-    const bool empty = value.text == nullptr && value.position == 2147483647 &&
-                       value.value.type() == tarv_3_3::vtNull;
-    const std::string status =
-        value.status == 1 ? "missing" : "status " + std::to_string(value.status);
+    const bool empty =
+        value.text == nullptr && value.position == 2147483647 && value.value.type() == tarv_3_3::vtNull;
+    const std::string status = value.status == 1 ? "missing" : "status " + std::to_string(value.status);
     return empty ? status : status + ", but not empty";
 }

@@ -27,10 +27,10 @@ TEST(GetLastValue, IsTheLastValueThatGetAndNextReachInTheRange) {
         int hi;
         const char* last;
     } rows[] = {
-        {"level", 0, end, "\"c\"@21"}, {"l", 0, end, "\"c\"@21"},    {"level", 0, 21, "\"c\"@21"},
-        {"level", 0, 20, "\"b\"@12"},  {"level", 0, 12, "\"b\"@12"}, {"level", 0, 11, "\"a\"@11"},
-        {"level", 13, end, "\"c\"@21"}, {"level", 0, 10, "missing"}, {"level", 21, end, "missing"},
-        {"once", 0, end, "\"d\"@31"},  {"absent", 0, end, "missing"},
+        {"level", 0, end, "\"c\"@21"},  {"l", 0, end, "\"c\"@21"},     {"level", 0, 21, "\"c\"@21"},
+        {"level", 0, 20, "\"b\"@12"},   {"level", 0, 12, "\"b\"@12"},  {"level", 0, 11, "\"a\"@11"},
+        {"level", 13, end, "\"c\"@21"}, {"level", 0, 10, "missing"},   {"level", 21, end, "missing"},
+        {"once", 0, end, "\"d\"@31"},   {"absent", 0, end, "missing"},
     };
     for (const auto& row : rows) {
         SCOPED_TRACE(std::string(row.name) + " " + std::to_string(row.lo) + " " + std::to_string(row.hi));
