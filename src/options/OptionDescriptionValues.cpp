@@ -14,7 +14,6 @@ using internal::messages::ambiguousValue;
 using internal::messages::cannotParseValue;
 using internal::messages::valueNotAllowed;
 
-
 template <class T>
 variant_t convertedWholeText(const char* text) {
     T value;
@@ -35,13 +34,6 @@ const char* keepNumber(Garbage* garbage, double value) {
     *std::to_chars(digits, digits + sizeof digits - 1, value, std::chars_format::general, precision).ptr =
         '\0';
     return garbage->init(digits);
-}
-
-template <class T>
-std::string typeName() {
-    OperatorGetTypeName operation;
-    operation.execute<T>();
-    return operation.result;
 }
 
 bool isPrefix(const std::string& text, std::string_view whole) {
