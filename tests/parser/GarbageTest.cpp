@@ -3,44 +3,85 @@
 #include <gtest/gtest.h>
 
 #include <string>
+#include <type_traits>
+#include <vector>
+
+#include "support/virtualSlot.h"
 
 namespace tarv_3_3 {
 namespace {
 
-TEST(Garbage, KeepsOneCopyOfEqualTexts) {
+TEST(Garbage, SharesOneCopyOfEqualTexts) {
     Garbage garbage;
-    std::string text = "level";
-    const char* const first = garbage.init(text.c_str());
-    EXPECT_NE(first, text.c_str());
-    text[0] = 'b';
-    const char* const other = garbage.init(text.c_str());
-    EXPECT_STREQ(first, "level");
-    EXPECT_STREQ(other, "bevel");
-    EXPECT_EQ(garbage.init("level"), first);
+    const char first[] = "text";
+    const char second[] = "text";
+    const char* const kept = garbage.init(first);
+    EXPECT_EQ(garbage.init(second), kept);
+    EXPECT_EQ(garbage.init(kept), kept);
+    EXPECT_STREQ(kept, "text");
 }
 
-TEST(Garbage, YieldsTheEmptyTextForNullAndForTheEmptyText) {
+TEST(Garbage, KeepsACopy) {
     Garbage garbage;
-    EXPECT_STREQ(garbage.init(nullptr), "");
-    EXPECT_STREQ(garbage.init(""), "");
-    EXPECT_EQ(garbage.init(""), garbage.init(""));
-}
-
-TEST(Garbage, LeavesItsTextsWhereTheyAreAsItGrows) {
-    Garbage garbage;
-    const char* const first = garbage.init("first");
-    for (int i = 0; i < 1000; ++i) {
-        garbage.init(std::to_string(i).c_str());
-    }
-    EXPECT_STREQ(first, "first");
-    EXPECT_EQ(garbage.init("first"), first);
+    char source[] = "text";
+    const char* const kept = garbage.init(source);
+    EXPECT_NE(kept, source);
+    source[0] = 'n';
+    EXPECT_STREQ(kept, "text");
+    EXPECT_STREQ(garbage.init(source), "next");
 }
 
 TEST(Garbage, TellsTextsApartByEveryByte) {
     Garbage garbage;
-    EXPECT_NE(garbage.init("a"), garbage.init("A"));
-    EXPECT_NE(garbage.init("a"), garbage.init("a "));
-    EXPECT_STREQ(garbage.init("\xFF\x01"), "\xFF\x01");
+    const std::vector<std::string> texts = {"", " ", "a", "A", "ab", "a ", "\xFF", "\xC3\xA4"};
+    std::vector<const char*> kept;
+    for (const std::string& text : texts) {
+        kept.push_back(garbage.init(text.c_str()));
+    }
+    for (std::size_t i = 0; i < texts.size(); ++i) {
+        SCOPED_TRACE(texts[i]);
+        EXPECT_EQ(kept[i], texts[i]);
+        EXPECT_EQ(garbage.init(texts[i].c_str()), kept[i]);
+        for (std::size_t other = 0; other < i; ++other) {
+            EXPECT_NE(kept[i], kept[other]);
+        }
+    }
+}
+
+TEST(Garbage, YieldsAStaticEmptyTextForNull) {
+    const char* afterwards = nullptr;
+    {
+        Garbage garbage;
+        afterwards = garbage.init(nullptr);
+        EXPECT_STREQ(afterwards, "");
+    }
+    EXPECT_STREQ(afterwards, "");
+    EXPECT_EQ(Garbage().init(nullptr), afterwards);
+}
+
+TEST(Garbage, KeepsEveryPointerValidAsItGrows) {
+    Garbage garbage;
+    std::vector<const char*> kept;
+    for (int i = 0; i < 5000; ++i) {
+        kept.push_back(
+            garbage.init((std::to_string(i) + std::string(static_cast<std::size_t>(i % 40), 'x')).c_str()));
+    }
+    for (int i = 0; i < 5000; ++i) {
+        ASSERT_EQ(kept[static_cast<std::size_t>(i)],
+                  std::to_string(i) + std::string(static_cast<std::size_t>(i % 40), 'x'));
+    }
+}
+
+TEST(Garbage, KeepsLongTextsWhole) {
+    Garbage garbage;
+    const std::string text(1000000, 'x');
+    EXPECT_TRUE(garbage.init(text.c_str()) == text);
+}
+
+TEST(Garbage, HasOneVirtualOperation) {
+    EXPECT_EQ(virtualSlot(&Garbage::init), 0U);
+    EXPECT_TRUE(std::is_polymorphic_v<Garbage>);
+    EXPECT_FALSE(std::has_virtual_destructor_v<Garbage>);
 }
 
 } // namespace

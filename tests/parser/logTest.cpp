@@ -1,0 +1,124 @@
+#include "tarv_3_3/internal/log.h"
+
+#include <gtest/gtest.h>
+
+#include <iostream>
+#include <memory>
+#include <sstream>
+#include <type_traits>
+
+#include "support/CapturedLog.h"
+#include "tarv_3_3/tarv.h"
+
+namespace tarv_3_3::internal {
+namespace {
+
+using Nullbuf = basic_nullbuf<char, std::char_traits<char>>;
+
+/// Standard output caught, the trace left as it is.
+class CapturedOutput {
+public:
+    CapturedOutput() : m_output(std::cout.rdbuf(m_text.rdbuf())) {}
+
+    CapturedOutput(const CapturedOutput&) = delete;
+    CapturedOutput& operator=(const CapturedOutput&) = delete;
+
+    ~CapturedOutput() { std::cout.rdbuf(m_output); }
+
+    std::string text() const { return m_text.str(); }
+
+private:
+    std::ostringstream m_text;
+    std::streambuf* m_output;
+};
+
+TEST(TarvLog, IsOneStreamThatDiscardsWhileTheTraceIsOff) {
+    const CapturedOutput output;
+    tarvLogEnabled = false;
+    std::ostream& log = tarvLog();
+    EXPECT_NE(&log, &std::cout);
+    log << "a line" << std::endl;
+    log << 5 << std::endl;
+    EXPECT_EQ(&tarvLog(), &log);
+    EXPECT_FALSE(log.good());
+    EXPECT_EQ(output.text(), "");
+}
+
+TEST(TarvLog, IsStandardOutputWhileTheTraceIsOn) {
+    std::ostream& discarding = tarvLog();
+    const CapturedLog log;
+    EXPECT_EQ(&tarvLog(), &std::cout);
+    tarvLog() << "a line" << std::endl;
+    EXPECT_EQ(log.text(), "a line\n");
+    tarvLogEnabled = false;
+    EXPECT_EQ(&tarvLog(), &discarding);
+    tarvLog() << "another line" << std::endl;
+    EXPECT_EQ(log.text(), "a line\n");
+}
+
+TEST(TarvLog, MakesItsStreamAtTheFirstCallAndKeepsIt) {
+    TarvLog holder;
+    std::ostream& stream = holder.discarding();
+    EXPECT_NE(&stream, &TarvLog().discarding());
+    EXPECT_TRUE(stream.good());
+    EXPECT_EQ(&holder.discarding(), &stream);
+    EXPECT_NE(dynamic_cast<Nullbuf*>(stream.rdbuf()), nullptr);
+}
+
+TEST(TarvLog, FailsAtTheFirstWriteAndStaysFailed) {
+    TarvLog holder;
+    std::ostream& stream = holder.discarding();
+    stream << 'x';
+    EXPECT_TRUE(stream.bad());
+    stream << "more" << std::endl;
+    EXPECT_TRUE(stream.bad());
+}
+
+TEST(BasicNullbuf, IsAStreamBufferWithoutStorage) {
+    EXPECT_TRUE((std::is_base_of_v<std::streambuf, Nullbuf>));
+    Nullbuf buffer;
+    EXPECT_EQ(buffer.sputc('x'), std::char_traits<char>::eof());
+    EXPECT_EQ(buffer.sputn("text", 4), 0);
+    EXPECT_EQ(buffer.sgetc(), std::char_traits<char>::eof());
+}
+
+TEST(WriteLogLine, WritesItsPartsAsOneLine) {
+    const CapturedLog log;
+    writeLogLine("text ", 5, std::string(" and more"));
+    writeLogLine("next");
+    EXPECT_EQ(log.text(), "text 5 and more\nnext\n");
+}
+
+TEST(WriteLogLine, WritesNothingWhileTheTraceIsOff) {
+    const CapturedOutput output;
+    tarvLogEnabled = false;
+    writeLogLine("text");
+    EXPECT_EQ(output.text(), "");
+}
+
+TEST(LogSwitch, HoldsUntilTheNextParse) {
+    struct Destroyer {
+        void operator()(IParser* parser) const { parser->destroy(); }
+        void operator()(IParseResult* result) const { result->destroy(); }
+    };
+    IParser* parser = nullptr;
+    ASSERT_EQ(createParser(&parser), 0);
+    const std::unique_ptr<IParser, Destroyer> parserOwner(parser);
+    IParseResult* result = nullptr;
+    ASSERT_EQ(parser->createResult(&result), 0);
+    const std::unique_ptr<IParseResult, Destroyer> resultOwner(result);
+
+    const CapturedOutput output;
+    std::ostream& discarding = tarvLog();
+    const char* const traced[] = {"program", "tarvoption=tarvlogenable=1"};
+    EXPECT_EQ(parser->parseArgsVector(2, traced, result), 0);
+    EXPECT_EQ(&tarvLog(), &std::cout);
+    parser->getErrorDesc();
+    EXPECT_EQ(&tarvLog(), &std::cout);
+    const char* const untraced[] = {"program", "argument"};
+    EXPECT_EQ(parser->parseArgsVector(2, untraced, result), 0);
+    EXPECT_EQ(&tarvLog(), &discarding);
+}
+
+} // namespace
+} // namespace tarv_3_3::internal
