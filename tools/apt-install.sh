@@ -10,8 +10,8 @@ set -euo pipefail
 
 declare -A groups=(
     [build]="g++ cmake ninja-build"
-    [test]="clang googletest libboost-program-options-dev libclang-rt-14-dev libcli11-dev libgtest-dev
-        pkg-config"
+    [test]="clang doxygen googletest libboost-program-options-dev libclang-rt-14-dev libcli11-dev
+        libgtest-dev mandoc pkg-config"
     [ci]="clang-format clang-tidy dpkg-dev file lintian shellcheck"
     [coverage]="gcovr"
     [benchmark]="libbenchmark-dev python3 valgrind"

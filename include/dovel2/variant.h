@@ -49,6 +49,8 @@ class TARV_API variant_t {
 public:
     /// The null kind.
     variant_t();
+    ///@{
+    /// The kind that the type of `value` stands for; every integer type has one.
     variant_t(bool value);
     variant_t(int32_t value);
     variant_t(uint32_t value);
@@ -57,19 +59,23 @@ public:
     variant_t(long long value);
     variant_t(unsigned long long value);
     variant_t(double value);
+    ///@}
     /// Copies `text` up to its terminating zero; null counts as the empty text.
     variant_t(const char* text);
     /// Other pointers would silently become a bool.
     variant_t(const void*) = delete;
 
+    /// Shares a text with `other`.
     variant_t(const variant_t& other) noexcept;
     /// Leaves `other` null.
     variant_t(variant_t&& other) noexcept;
+    /// Shares a text with `other`.
     variant_t& operator=(const variant_t& other) noexcept;
     /// Leaves the former value of this one in `other`.
     variant_t& operator=(variant_t&& other) noexcept;
     ~variant_t();
 
+    /// The kind.
     das_variant_type_t type() const noexcept { return m_type; }
 
     /// Whether the value is of exactly the kind of `T`: `bool`, `int32_t`, `uint32_t`, `int64_t`,
@@ -86,6 +92,7 @@ public:
     /// Equal kind and equal value. Texts compare byte by byte, doubles as numbers, and two nulls
     /// are equal.
     bool operator==(const variant_t& var) const;
+    /// The opposite of equality.
     bool operator!=(const variant_t& var) const { return !(*this == var); }
 
     /// Orders two texts by their bytes: below, equal to or above zero, as `strcmp` does.
@@ -108,6 +115,7 @@ private:
     } m_value;
 };
 
+/// @cond
 // clang-format off
 template <> TARV_API bool variant_t::can_get<bool>() const noexcept;
 template <> TARV_API bool variant_t::can_get<int32_t>() const noexcept;
@@ -125,5 +133,6 @@ template <> TARV_API uint64_t variant_t::get<uint64_t>() const;
 template <> TARV_API double variant_t::get<double>() const;
 template <> TARV_API const char* variant_t::get<const char*>() const;
 // clang-format on
+/// @endcond
 
 } // namespace dovel2

@@ -48,9 +48,12 @@ public:
     virtual ~IOption();
 
 protected:
+    ///@{
+    /// Declarations are made and copied by the library alone.
     IOption() = default;
     IOption(const IOption&) = default;
     IOption& operator=(const IOption&) = default;
+    ///@}
 };
 
 } // namespace tarv_3_3

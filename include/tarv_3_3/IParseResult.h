@@ -23,7 +23,8 @@ public:
     /// Deletes the result, and every text that it handed out.
     virtual void destroy() = 0;
 
-    /// Whether the option occurred at a position in [lo, hi), or was not given and has a default.
+    /// Whether the option occurred at a position in [lo, hi), or was not given and has a default. A
+    /// switch occurs in its "no-" form as well; its value tells.
     /// A following `next` yields the first value in the range, or that default, once.
     /// A null name is never present.
     virtual bool present(const char* name, int lo = 0, int hi = noPosition) = 0;

@@ -45,10 +45,13 @@ public:
     /// `names` are one to three, separated by commas, without dashes; the first is the option's
     /// name in messages, help and events. A third one has at most two bytes. The declaration is
     /// refused if there are more, or if one of the names is taken; a switch (kind `vtBool`) also
-    /// takes "no-" in front of each of its names. Null is refused as well.
+    /// takes "no-" in front of each of its names. Null is refused as well. On a command line every
+    /// word of a name (words are separated by '-') may be cut short, as long as one name fits best.
     ///
     /// `type` is the kind of its values: `vtBool` makes a switch, `vtNull` an option that takes no
-    /// value, every other kind one that requires a value.
+    /// value, every other kind one that requires a value. Numbers are written as in the classic
+    /// locale, and nothing but blanks may stand around them; `vtUInt64` takes hexadecimal digits too
+    /// (0x1f, 1fh) and ignores what follows the number. A minus makes unsigned kinds wrap around.
     ///
     /// `topic` is the help topic, "name" or "name:title"; the first title given to a name stays.
     /// The topic "tarv_hidden" is left out of help, unless it is asked for. A null topic or
@@ -80,7 +83,7 @@ public:
     ///
     /// What was stored before a failure stays in the result. A result may receive several parses:
     /// entries add up, and every parse checks all of them. A null result parses for the status,
-    /// the message and the events alone.
+    /// the message and the events alone; any other must come from `createResult`.
     virtual int parseArgsVector(int argc, const char* const* argv, IParseResult* result) = 0;
 
     /// Parses `text`, one argument a line, into `result`, without recording defaults. Lines that
@@ -95,6 +98,8 @@ public:
     /// Help: the names of the actions, four blanks in front of each, or, where none is declared,
     /// all options under their topics. With `hidden`, what is under the topic "tarv_hidden", and
     /// only that. Descriptions end before column 80, titles before column 81, as far as names allow.
+    /// Every topic has its heading, also where nothing stands under it. An option without a
+    /// description is left out, unless its names and values fill a line of their own.
     virtual const char* getDescription(bool hidden = false) = 0;
 
     /// Help for the option or action that has exactly the name `topic`; for a name that is not

@@ -25,15 +25,20 @@ struct TARV_API Value {
     /// A found value; the pointer is stored as given.
     Value(const char* text, const variant_t& value, int position);
     ~Value();
+    ///@{
+    /// A copy of every field; the text behind `text` is not copied.
     Value(const Value&) noexcept;
     Value& operator=(const Value&) noexcept;
+    ///@}
 
     /// `as<const char*>()`, the only one there is: the text when `status` is `valueFound`, else null.
     template <class T>
     T as() const;
 };
 
+/// @cond
 template <>
 TARV_API const char* Value::as<const char*>() const;
+/// @endcond
 
 } // namespace tarv_3_3
