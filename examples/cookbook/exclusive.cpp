@@ -6,17 +6,27 @@ namespace tarv = tarv_3_3;
 
 namespace {
 
+/// Whether `name` was given, and `other` not or earlier.
+bool overrides(tarv::IParseResult& result, const char* name, const char* other) {
+    const tarv::Value mine = tarv::getLastValue(&result, name);
+    const tarv::Value theirs = tarv::getLastValue(&result, other);
+    return mine.status == tarv::valueFound &&
+           (theirs.status != tarv::valueFound || mine.position > theirs.position);
+}
+
 int run(tarv::IParseResult& result) {
     if (result.present("json") && result.present("table")) {
         std::fprintf(stderr, "exclusive: '--json' and '--table' exclude each other\n");
         return 2;
     }
-    std::printf("print %s\n", result.present("json") ? "json" : "a table");
-
-    const bool plain = tarv::getLastValue(&result, "plain").position >
-                       tarv::getLastValue(&result, "color").position;
-    const bool given = result.present("plain") || result.present("color");
-    std::printf("%s\n", !given ? "in colour on a terminal" : plain ? "plain" : "in colour");
+    std::printf("print %s ", result.present("json") ? "json" : "a table");
+    if (overrides(result, "plain", "color")) {
+        std::printf("without colour\n");
+    } else if (overrides(result, "color", "plain")) {
+        std::printf("in colour\n");
+    } else {
+        std::printf("in colour on a terminal\n");
+    }
     return 0;
 }
 

@@ -11,12 +11,11 @@ int main(int argc, char** argv) {
     std::string output = "a.out";
     std::vector<std::string> includes;
 
-    const option options[] = {{"level", required_argument, nullptr, 'l'},
-                              {"verbose", no_argument, nullptr, 'v'},
-                              {"output", required_argument, nullptr, 'o'},
-                              {"include", required_argument, nullptr, 'i'},
-                              {"help", no_argument, nullptr, 'h'},
-                              {nullptr, 0, nullptr, 0}};
+    const option options[] = {
+        {"level", required_argument, nullptr, 'l'},  {"verbose", no_argument, nullptr, 'v'},
+        {"output", required_argument, nullptr, 'o'}, {"include", required_argument, nullptr, 'i'},
+        {"help", no_argument, nullptr, 'h'},         {nullptr, 0, nullptr, 0},
+    };
     for (int found; (found = getopt_long(argc, argv, "l:vo:i:h", options, nullptr)) != -1;) {
         switch (found) {
         case 'l': {

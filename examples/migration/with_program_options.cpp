@@ -11,12 +11,14 @@ namespace po = boost::program_options;
 
 int main(int argc, char** argv) {
     po::options_description visible;
+    // clang-format off
     visible.add_options()
         ("level,l", po::value<int>()->default_value(2), "How hard to try.")
         ("verbose,v", po::bool_switch(), "Say what is done.")
         ("output,o", po::value<std::string>()->default_value("a.out"), "The file to write.")
         ("include,i", po::value<std::vector<std::string>>(), "A folder to search; may be repeated.")
         ("help,h", "Show this help.");
+    // clang-format on
     po::options_description all;
     all.add(visible).add_options()("file", po::value<std::vector<std::string>>());
     po::positional_options_description positional;

@@ -28,6 +28,8 @@ fail() {
 }
 
 check_source() { # LINE_NUMBER INTRODUCTION BLOCK
+    # The backquotes are those of Markdown.
+    # shellcheck disable=SC2016
     local whole='^`([^`]+)`:$' piece='^From `([^`]+)`:$' path
     if [[ $2 =~ $whole ]]; then
         path=${BASH_REMATCH[1]}

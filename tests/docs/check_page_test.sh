@@ -7,6 +7,8 @@ work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
 mkdir -p "$work/src/examples" "$work/bin"
 printf 'int main() {\n    return 0;\n}\n' >"$work/src/examples/hello.cpp"
+# The script sees its own "$1".
+# shellcheck disable=SC2016
 printf '#!/bin/sh\necho "hello $1"\nexit 3\n' >"$work/bin/hello"
 chmod +x "$work/bin/hello"
 
