@@ -12,6 +12,7 @@ peers=ON
 if [[ ${1:-} == --tarv-only ]]; then
     groups=(build benchmark)
     peers=OFF
+    build=build/benchmarks-tarv
 fi
 
 {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "harness/Answer.h"
+#include "harness/CommandLine.h"
 #include "harness/Workload.h"
 
 #include <memory>
@@ -45,6 +46,13 @@ struct Candidate {
     bool collects = true;
     bool hasHelp = true;
 };
+
+/// The workload with every `Option::declared` in the candidate's notation.
+inline Workload prepared(const Candidate& candidate, Workload workload) {
+    for (Option& option : workload.options)
+        option.declared = candidate.declared(option);
+    return workload;
+}
 
 /// The plain name: `Candidate::declared` of libraries that take the alias apart from the name.
 inline std::string nameAlone(const Option& option) {

@@ -157,25 +157,4 @@ Workload manyOptions(std::size_t options) {
     return workload;
 }
 
-std::vector<std::string> arguments(const Workload& workload, const Dialect& dialect) {
-    std::vector<std::string> arguments{"program"};
-    for (const Given& given : workload.given) {
-        if (!given.option) {
-            arguments.push_back(given.value);
-            continue;
-        }
-        std::string name = "--" + given.option->name;
-        std::replace(name.begin() + 2, name.end(), '-', dialect.wordSeparator);
-        if (given.option->kind == Kind::Switch) {
-            arguments.push_back(name);
-        } else if (given.joined && dialect.joinsValues) {
-            arguments.push_back(name + '=' + given.value);
-        } else {
-            arguments.push_back(name);
-            arguments.push_back(given.value);
-        }
-    }
-    return arguments;
-}
-
 } // namespace bench

@@ -35,14 +35,6 @@ struct Given {
     bool joined;
 };
 
-/// How a library wants the same command line to be written.
-struct Dialect {
-    /// It understands "--name=value". If not, the value follows as an argument of its own.
-    bool joinsValues = true;
-    /// What stands between the words of a name.
-    char wordSeparator = '-';
-};
-
 /// A set of declarations and a command line for them.
 struct Workload {
     std::vector<Option> options;
@@ -65,8 +57,5 @@ Workload longCommandLine(std::size_t arguments);
 /// `options` lists and a positional one; 100 arguments: 60 "--name=value", 15 "--name value" and
 /// 10 positional ones, which give options evenly spread over the table.
 Workload manyOptions(std::size_t options);
-
-/// The arguments of a command line, with the program's name in front.
-std::vector<std::string> arguments(const Workload& workload, const Dialect& dialect);
 
 } // namespace bench

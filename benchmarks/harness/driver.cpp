@@ -23,23 +23,6 @@ namespace {
 
 const Candidate& candidate = BENCH_CANDIDATE;
 
-/// A command line as main receives it.
-class CommandLine {
-public:
-    explicit CommandLine(const Workload& workload) : m_texts(arguments(workload, candidate.dialect)) {
-        for (std::string& text : m_texts)
-            m_pointers.push_back(text.data());
-        m_pointers.push_back(nullptr);
-    }
-
-    int count() const { return static_cast<int>(m_texts.size()); }
-    char** pointers() { return m_pointers.data(); }
-
-private:
-    std::vector<std::string> m_texts;
-    std::vector<char*> m_pointers;
-};
-
 unsigned long noAllocations() {
     return 0;
 }
@@ -65,32 +48,26 @@ void measure(const char* phase, Action action) {
 }
 
 Workload workloadNamed(const std::string& name, std::size_t size) {
-    Workload workload;
     if (name == "everyday")
-        workload = everydayWorkload();
-    else if (name == "arguments")
-        workload = longCommandLine(size);
-    else if (name == "options")
-        workload = manyOptions(size);
-    else
-        fail("no workload " + name);
-    for (Option& option : workload.options)
-        option.declared = candidate.declared(option);
-    return workload;
+        return prepared(candidate, everydayWorkload());
+    if (name == "arguments")
+        return prepared(candidate, longCommandLine(size));
+    if (name == "options")
+        return prepared(candidate, manyOptions(size));
+    fail("no workload " + name);
 }
 
 void printAnswer(const Workload& workload) {
-    CommandLine line(workload);
+    CommandLine line(workload, candidate.dialect);
     Answer answer(workload);
     const std::unique_ptr<Library> library = candidate.make();
     library->declare(workload.options);
-    library->parse(line.count(), line.pointers());
+    library->parse(line.count(), line.arguments());
     library->read(workload.options, answer);
     const std::string first = answer.canonicalText(workload.options);
-    CommandLine second(workload);
-    answer.clear();
+        answer.clear();
     library->forget();
-    library->parse(second.count(), second.pointers());
+    library->parse(line.count(), line.arguments());
     library->read(workload.options, answer);
     if (answer.canonicalText(workload.options) != first)
         fail("a second parse finds something else");
@@ -102,26 +79,28 @@ void warmUp() {
     if (candidate.onePerProcess)
         return;
     const Workload workload = workloadNamed("everyday", 0);
-    CommandLine line(workload);
+    CommandLine line(workload, candidate.dialect);
     Answer answer(workload);
     const std::unique_ptr<Library> library = candidate.make();
     library->declare(workload.options);
-    library->parse(line.count(), line.pointers());
+    library->parse(line.count(), line.arguments());
     library->read(workload.options, answer);
     library->forget();
 }
 
 /// The declared parser used for a second command line.
 void measureAgain(Library& library, const Workload& workload, Answer& answer) {
-    CommandLine line(workload);
+    CommandLine line(workload, candidate.dialect);
+    char** const arguments = line.arguments();
     answer.clear();
     measure("again-forget", [&] { library.forget(); });
-    measure("again-parse", [&] { library.parse(line.count(), line.pointers()); });
+    measure("again-parse", [&] { library.parse(line.count(), arguments); });
     measure("again-read", [&] { library.read(workload.options, answer); });
 }
 
 void measurePhases(const Workload& workload, bool again) {
-    CommandLine line(workload);
+    CommandLine line(workload, candidate.dialect);
+    char** const arguments = line.arguments();
     Answer answer(workload);
     warmUp();
     measure("nothing", [] {});
@@ -130,22 +109,29 @@ void measurePhases(const Workload& workload, bool again) {
         library = candidate.make();
         library->declare(workload.options);
     });
-    measure("parse", [&] { library->parse(line.count(), line.pointers()); });
+    measure("parse", [&] { library->parse(line.count(), arguments); });
     measure("read", [&] { library->read(workload.options, answer); });
     if (again)
         measureAgain(*library, workload, answer);
     measure("release", [&] { library.reset(); });
 }
 
-void printHelp(const Workload& workload) {
-    const std::unique_ptr<Library> library = candidate.make();
+/// A library that has parsed, for one of them has no help before.
+std::unique_ptr<Library> readyForHelp(const Workload& workload, CommandLine& line) {
+    std::unique_ptr<Library> library = candidate.make();
     library->declare(workload.options);
-    std::fputs(library->help().c_str(), stdout);
+    library->parse(line.count(), line.arguments());
+    return library;
+}
+
+void printHelp(const Workload& workload) {
+    CommandLine line(workload, candidate.dialect);
+    std::fputs(readyForHelp(workload, line)->help().c_str(), stdout);
 }
 
 void measureHelp(const Workload& workload) {
-    const std::unique_ptr<Library> library = candidate.make();
-    library->declare(workload.options);
+    CommandLine line(workload, candidate.dialect);
+    const std::unique_ptr<Library> library = readyForHelp(workload, line);
     library->help();
     std::string text;
     measure("nothing", [] {});
