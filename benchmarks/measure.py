@@ -1,173 +1,291 @@
 #!/usr/bin/env python3
-"""Runs the benchmark programs of a build and prints the figures as Markdown."""
+"""Checks and measures the benchmark programs of a build and prints the figures as Markdown."""
 
 import argparse
-import glob
-import math
+import json
 import os
-import re
 import subprocess
 import sys
 import tempfile
 
+from hosts import Host
+from programs import ENVIRONMENT, Program, order
+
+LIBRARIES = ["tarv", "handwritten", "getopt", "popt", "argtable2", "llvm", "gflags", "abseil", "tclap",
+             "boost", "cli11", "cxxopts"]
+PACKAGES = ["libpopt-dev", "libargtable2-dev", "llvm-14-dev", "libgflags-dev", "libabsl-dev", "libtclap-dev",
+            "libboost-program-options1.74-dev", "libcli11-dev", "libcxxopts-dev"]
+
 EVERYDAY = ("everyday", 24)
-
-
-def environment(**more):
-    """Everything is bound at the start, so that no phase pays for the loader."""
-    return {**os.environ, "LC_ALL": "C", "LD_BIND_NOW": "1", **more}
-
-
-class Program:
-    """The benchmark program of one library."""
-
-    def __init__(self, build, name):
-        self.name = name
-        self.path = os.path.join(build, "benchmarks", "bench-" + name)
-        self.counter = os.path.join(build, "benchmarks", "libbench_allocations.so")
-
-    def run(self, mode, workload, size, **more):
-        command = [self.path, mode, workload, str(size)]
-        return subprocess.run(command, env=environment(**more), check=True, capture_output=True, text=True)
-
-    def answer(self, workload, size):
-        return self.run("answer", workload, size).stdout
-
-    def allocations(self, mode, workload, size):
-        """Allocations of every phase."""
-        lines = self.run(mode, workload, size, LD_PRELOAD=self.counter).stderr.splitlines()
-        return {phase: int(count) for phase, count in (line.split() for line in lines)}
-
-    def instructions(self, mode, workload, size):
-        """Instructions of every phase, less those of measuring an empty one."""
-        with tempfile.TemporaryDirectory() as folder:
-            command = ["valgrind", "--tool=callgrind", "--collect-atstart=no",
-                       "--callgrind-out-file=" + os.path.join(folder, "out"),
-                       self.path, mode, workload, str(size)]
-            subprocess.run(command, env=environment(), check=True, capture_output=True)
-            counts = dict(dumped_phase(dump) for dump in glob.glob(os.path.join(folder, "out.*")))
-        return {phase: count - counts["nothing"] for phase, count in counts.items()}
-
-
-def dumped_phase(dump):
-    """The phase that a callgrind dump is of, and its instructions."""
-    with open(dump, encoding="utf-8", errors="replace") as lines:
-        text = lines.read()
-    phase = re.search(r"^desc: Trigger: Client Request: (.*)$", text, re.MULTILINE).group(1)
-    return phase, int(re.search(r"^totals: (\d+)$", text, re.MULTILINE).group(1))
-
-
-def order(phase, costs):
-    """The exponent of the growth of a phase between the smallest and the largest size."""
-    small, large = min(costs), max(costs)
-    return math.log(costs[large][phase] / costs[small][phase]) / math.log(large / small)
-
-
-def long_command_lines(program):
-    """Instructions for 1,000 to 100,000 arguments; the last size is left out where the growth so
-    far says that it would take hours."""
-    costs = {n: program.instructions("measure", "arguments", n) for n in (10**3, 10**4)}
-    if order("parse", costs) < 1.3:
-        costs[10**5] = program.instructions("measure", "arguments", 10**5)
-    return costs
-
-
-def check_answers(programs, workloads):
-    """Ends the run unless all programs print the same answers as the first one."""
-    for workload, size in workloads:
-        expected = programs[0].answer(workload, size)
-        for program in programs[1:]:
-            if program.answer(workload, size) != expected:
-                sys.exit(f"{program.name} and {programs[0].name} disagree on {workload} {size}")
+ARGUMENTS = [10, 100, 1000, 10000, 100000]
+OPTIONS = [10, 100, 1000, 3000]
+NONE = "–"
 
 
 def whole(number):
     return f"{number:,.0f}"
 
 
-def print_table(heading, rows):
-    print("| " + " | ".join(heading) + " |")
-    print("|" + " --- |" + " ---: |" * (len(heading) - 1))
-    for row in rows:
-        print("| " + " | ".join(row) + " |")
+def check_answers(programs):
+    """Ends the run unless all programs print the same answers as the first one."""
+    collecting = [program for program in programs if program.collects]
+    check_answer(programs, *EVERYDAY)
+    check_answer(programs, "options", 1000)
+    check_answer(collecting, "options", 10)
+    check_answer(collecting, "arguments", 1000)
 
 
-def everyday_rows(tarv):
-    instructions = tarv.instructions("measure-again", *EVERYDAY)
-    allocations = tarv.allocations("measure-again", *EVERYDAY)
-
-    def row(label, phases, goal=""):
-        return [label, whole(sum(instructions[phase] for phase in phases)),
-                whole(sum(allocations[phase] for phase in phases)), goal]
-
-    return [
-        row("W1: declare, parse and read", ["declare", "parse", "read"], "125,000; 85,000"),
-        row("W1 declare (24 options)", ["declare"], "2, 1 allocations an option"),
-        row("W1 parse (20 arguments)", ["parse"], "95, 50 allocations"),
-        row("W1 read (24 options)", ["read"]),
-        row("W1 release", ["release"]),
-        row("W1 again: parse and read", ["again-parse", "again-read"], "65,000; 30,000"),
-        row("W1 again: forget (destroy the last result)", ["again-forget"]),
-        row("W1 again: parse", ["again-parse"]),
-        row("W1 again: read", ["again-read"]),
-    ]
+def check_answer(programs, workload, size):
+    expected = programs[0].text("answer", workload, size)
+    for program in programs:
+        if program.text("answer", workload, size) != expected:
+            sys.exit(f"{program.title} and {programs[0].title} disagree on {workload} {size}")
 
 
-def per_argument_rows(tarv):
-    costs = long_command_lines(tarv)
-    allocations = tarv.allocations("measure", "arguments", 10**4)
-    sizes = f"order 1,000 to {max(costs):,}"
-    return [
-        ["W2 parse, per argument at 10,000", whole(costs[10**4]["parse"] / 10**4),
-         f"{allocations['parse'] / 10**4:.2f}", "1,000; 500"],
-        ["W2 parse, " + sizes, f"{order('parse', costs):.3f}", "", "1.05"],
-        ["W2 read, per argument at 10,000", whole(costs[10**4]["read"] / 10**4),
-         f"{allocations['read'] / 10**4:.2f}", ""],
-        ["W2 read, " + sizes, f"{order('read', costs):.3f}", "", ""],
-    ]
+def check_help(programs):
+    """Ends the run unless every help text has every name."""
+    names = [line.split(":")[0] for line in programs[0].text("answer", *EVERYDAY).splitlines()]
+    names.remove("input")
+    for program in programs:
+        text = program.text("help", *EVERYDAY).replace("_", "-") if program.helps else ""
+        missing = [name for name in names if name not in text]
+        if program.helps and missing:
+            sys.exit(f"{program.title} has no help for {', '.join(missing)}")
 
 
-def per_option_rows(tarv):
-    costs = {n: tarv.instructions("measure", "options", n) for n in (100, 1000, 3000)}
-    allocations = tarv.allocations("measure", "options", 1000)
-    return [
-        ["W3 parse, per argument at 1,000 options", whole(costs[1000]["parse"] / 100),
-         f"{allocations['parse'] / 100:.2f}", "30,000; 10,000"],
-        ["W3 parse, order 100 to 3,000 options", f"{order('parse', costs):.3f}", "", "1.1"],
-        ["W3 declare, per option at 100", whole(costs[100]["declare"] / 100), "", "1,300"],
-        ["W3 declare, per option at 1,000", whole(costs[1000]["declare"] / 1000),
-         f"{allocations['declare'] / 1000:.2f}", "1,300; 2, 1 allocations"],
-        ["W3 declare, per option at 3,000", whole(costs[3000]["declare"] / 3000), "", "1,300"],
-    ]
+def check_hosts(hosts):
+    expected = hosts[0].output()
+    for host in hosts:
+        if host.output() != expected:
+            sys.exit(f"host-{host.name} prints something else than host-{hosts[0].name}")
 
 
-def help_rows(tarv):
-    few = tarv.instructions("measure-help", *EVERYDAY)["help"]
-    many = tarv.instructions("measure-help", "options", 500)["help"]
-    allocations = tarv.allocations("measure-help", *EVERYDAY)["help"]
-    return [
-        ["W4 help for 24 options", whole(few), whole(allocations), "123,000; 65,000"],
-        ["W4 help, 500 options to 24", f"{many / few:.1f}", "", "22"],
-    ]
+class Table:
+    """One line for every measure, one column for every library."""
+
+    def __init__(self, libraries):
+        self.libraries = libraries
+
+    def head(self, titles):
+        print("| | " + " | ".join(titles) + " |")
+        print("| --- |" + " ---: |" * len(titles))
+
+    def row(self, label, cell):
+        """A line of `cell(library)`, which is a text, or None where a library has no such figure."""
+        cells = []
+        for library in self.libraries:
+            progress(f"{label}: {library.name}")
+            cells.append(cell(library) or NONE)
+        print("| " + " | ".join([label, *cells]) + " |", flush=True)
 
 
-def report_tarv(build):
+def progress(text):
+    if sys.stderr.isatty():
+        print("\r\033[K" + text, end="", file=sys.stderr)
+
+
+def instructions(program, *phases):
+    counts = program.instructions("measure-again", *EVERYDAY)
+    return whole(sum(counts[phase] for phase in phases))
+
+
+def allocations(program, *phases, per=1):
+    counts = program.allocations("measure-again", *EVERYDAY)
+    return f"{sum(counts[phase] for phase in phases) / per:.2f}".removesuffix(".00")
+
+
+def everyday_rows(table):
+    table.row("W1, a whole life: declare, parse, read, release",
+              lambda each: instructions(each, "declare", "parse", "read", "release"))
+    table.row("W1: declare, parse, read", lambda each: instructions(each, "declare", "parse", "read"))
+    for phase in ("declare", "parse", "read", "release"):
+        table.row(f"W1, {phase}", lambda each: instructions(each, phase))
+    table.row("W1 again: forget, parse, read",
+              lambda each: instructions(each, "again-forget", "again-parse", "again-read"))
+    table.row("W1 again: parse, read", lambda each: instructions(each, "again-parse", "again-read"))
+    for phase in ("forget", "parse", "read"):
+        table.row(f"W1 again, {phase}", lambda each: instructions(each, "again-" + phase))
+    table.row("allocations, per declared option", lambda each: allocations(each, "declare", per=24))
+    for phase in ("parse", "read"):
+        table.row(f"allocations, W1 {phase}", lambda each: allocations(each, phase))
+
+
+def per_argument(program, size, phase, sizes):
+    costs = program.growth("arguments", sizes) if program.collects else {}
+    return whole(costs[size][phase] / size) if size in costs else None
+
+
+def argument_order(program, phase, sizes):
+    if not program.collects:
+        return None
+    costs = program.growth("arguments", sizes)
+    largest = "" if max(costs) == max(sizes) else f" (to {max(costs):,})"
+    return f"{order(costs, phase, 1000):.2f}" + largest
+
+
+def argument_rows(table, sizes):
+    for size in sizes:
+        table.row(f"W2, {size:,} arguments: parse, per argument",
+                  lambda each: per_argument(each, size, "parse", sizes))
+    table.row("W2, order of parse, 1,000 to 100,000 arguments", lambda each: argument_order(each, "parse", sizes))
+    table.row("W2, 10,000 arguments: read, per argument", lambda each: per_argument(each, 10000, "read", sizes))
+    table.row("W2, order of read", lambda each: argument_order(each, "read", sizes))
+
+
+def option_costs(program, sizes):
+    """Ten options receive a hundred arguments only where an option keeps more than one value."""
+    return program.growth("options", sizes if program.collects else [size for size in sizes if size >= 100])
+
+
+def per_option(program, size, phase, units, sizes):
+    costs = option_costs(program, sizes)
+    return whole(costs[size][phase] / units) if size in costs else None
+
+
+def option_rows(table, sizes):
+    for size in sizes:
+        table.row(f"W3, {size:,} options: parse, per argument",
+                  lambda each: per_option(each, size, "parse", 100, sizes))
+    table.row("W3, order of parse, 100 to 3,000 options",
+              lambda each: f"{order(option_costs(each, sizes), 'parse', 100):.2f}")
+    for size in sizes:
+        table.row(f"W3, {size:,} options: declare, per option",
+                  lambda each: per_option(each, size, "declare", size, sizes))
+
+
+def help_instructions(program, workload, size):
+    return program.instructions("measure-help", workload, size)["help"]
+
+
+def help_ratio(program):
+    return f"{help_instructions(program, 'options', 500) / help_instructions(program, *EVERYDAY):.1f}"
+
+
+def help_rows(table):
+    table.row("W4, help for 24 options",
+              lambda each: whole(help_instructions(each, *EVERYDAY)) if each.helps else None)
+    table.row("W4, help for 500 options",
+              lambda each: whole(help_instructions(each, "options", 500)) if each.helps else None)
+    table.row("W4, 500 options to 24", lambda each: help_ratio(each) if each.helps else None)
+
+
+def host_rows(table):
+    table.row("W5, compile time of a host to that of an empty program", lambda each: f"{each.compile_ratio():.2f}")
+    table.row("W5, object of the host, bytes of code and data", lambda each: whole(each.object_bytes()))
+    table.row("W5, program, stripped, bytes", lambda each: whole(each.program_bytes()))
+    table.row("W5, shared libraries, stripped, bytes", lambda each: whole(each.library_bytes()))
+    table.row("W5, relocations of program and libraries", lambda each: whole(each.relocations()))
+    table.row("W5, process beyond an empty one, bound at the start",
+              lambda each: whole(each.process_instructions(bound=True)))
+    table.row("W5, process beyond an empty one, bound lazily",
+              lambda each: whole(each.process_instructions(bound=False)))
+    table.row("W5, memory of the process beyond an empty one, KB", lambda each: whole(each.process_kilobytes()))
+
+
+def measured_times(build):
+    """Median processor time of every benchmark, in nanoseconds."""
+    with tempfile.TemporaryDirectory() as folder:
+        out = os.path.join(folder, "times.json")
+        subprocess.run([os.path.join(build, "benchmarks", "bench-times"), "--benchmark_out=" + out,
+                        "--benchmark_out_format=json", "--benchmark_repetitions=9", "--benchmark_min_time=0.05",
+                        "--benchmark_enable_random_interleaving=true", "--benchmark_report_aggregates_only=true"],
+                       env=ENVIRONMENT, check=True, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+        with open(out, encoding="utf-8") as results:
+            benchmarks = json.load(results)["benchmarks"]
+    return {each["run_name"]: each["cpu_time"] for each in benchmarks if each["aggregate_name"] == "median"}
+
+
+def time_rows(table, times):
+    def relative(measure, program):
+        own = times.get(f"{measure}/{program.title}")
+        if own is None:
+            return None
+        if program.name == "tarv":
+            return f"{own / 1000:,.1f} µs"
+        return f"{own / times[measure + '/tarv']:.2f}"
+
+    labels = {"W1": "W1, a whole life", "W1 again": "W1 again: forget, parse, read",
+              "W2": "W2, 10,000 arguments: parse", "W3": "W3, 1,000 options: parse 100 arguments",
+              "W4": "W4, help for 24 options"}
+    for measure, label in labels.items():
+        table.row(f"time, {label}; others relative to tarv", lambda each: relative(measure, each))
+
+
+def first_line(*command):
+    return subprocess.run(command, check=True, capture_output=True, text=True).stdout.splitlines()[0]
+
+
+def print_circumstances(build):
+    with open("/proc/cpuinfo", encoding="utf-8") as lines:
+        processor = next(line.split(":")[1].strip() for line in lines if line.startswith("model name"))
+    here = os.path.dirname(os.path.abspath(__file__))
+    commit = first_line("git", "-C", here, "rev-parse", "--short", "HEAD")
+    changed = subprocess.run(["git", "-C", here, "diff", "--quiet", "HEAD"], check=False).returncode
+    print(f"Machine: {processor}. Compiler: {first_line('g++', '--version')}. "
+          f"Commit: {commit}{', changed' if changed else ''}.")
+    versions = [first_line("dpkg-query", "--show", "--showformat=${Package} ${Version}\n", package)
+                for package in PACKAGES]
+    print(f"Packages: {', '.join(versions)}.\n")
+
+
+def measure_all(build, data):
+    programs = [Program(build, name) for name in LIBRARIES]
+    empty = Host(build, "empty")
+    hosts = [Host(build, name, empty) for name in LIBRARIES]
+    check_answers(programs)
+    check_help(programs)
+    check_hosts(hosts)
+    print_circumstances(build)
+    table = Table(programs)
+    table.head([program.title for program in programs])
+    everyday_rows(table)
+    argument_rows(table, ARGUMENTS)
+    option_rows(table, OPTIONS)
+    help_rows(table)
+    host_rows(Table(hosts))
+    time_rows(table, measured_times(build))
+    if data:
+        write_data(programs, data)
+
+
+def write_data(programs, folder):
+    """The figures behind the plot, as tables that gnuplot reads."""
+    os.makedirs(folder, exist_ok=True)
+    with open(os.path.join(folder, "everyday.tsv"), "w", encoding="utf-8") as file:
+        for program in programs:
+            counts = program.instructions("measure-again", *EVERYDAY)
+            phases = [str(counts[phase]) for phase in ("declare", "parse", "read", "release")]
+            print("\t".join([program.title, *phases]), file=file)
+    with open(os.path.join(folder, "arguments.tsv"), "w", encoding="utf-8") as file:
+        for program in programs:
+            costs = program.growth("arguments", ARGUMENTS) if program.collects else {}
+            print(f'"{program.title}"', file=file)
+            for size, phases in costs.items():
+                print(f"{size}\t{phases['parse'] / size}", file=file)
+            print("\n", file=file)
+
+
+def measure_tarv(build):
     tarv = Program(build, "tarv")
-    workloads = [EVERYDAY, ("arguments", 1000), ("options", 10), ("options", 1000)]
-    check_answers([Program(build, "handwritten"), tarv], workloads)
-    rows = everyday_rows(tarv) + per_argument_rows(tarv) + per_option_rows(tarv) + help_rows(tarv)
-    print_table(["tarv", "instructions", "allocations", "at most; better"], rows)
+    check_answers([Program(build, "handwritten"), tarv])
+    table = Table([tarv])
+    table.head(["tarv"])
+    everyday_rows(table)
+    argument_rows(table, [1000, 10000, 100000])
+    option_rows(table, [100, 1000, 3000])
+    help_rows(table)
 
 
 def main():
     parser = argparse.ArgumentParser(description=__doc__)
     parser.add_argument("--build", required=True, help="the build directory")
-    parser.add_argument("--tarv-only", action="store_true", help="measure the library alone")
+    parser.add_argument("--tarv-only", action="store_true", help="measure the library alone, without W5 and times")
+    parser.add_argument("--data", help="a folder for the figures that plot.gp draws")
     arguments = parser.parse_args()
     if arguments.tarv_only:
-        report_tarv(arguments.build)
+        measure_tarv(arguments.build)
     else:
-        sys.exit("only --tarv-only is there yet")
+        measure_all(arguments.build, arguments.data)
 
 
 if __name__ == "__main__":

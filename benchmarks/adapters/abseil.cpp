@@ -6,6 +6,7 @@
 /// set every flag.
 
 #include "adapters/candidates.h"
+#include "adapters/notation.h"
 
 #include <absl/flags/flag.h>
 #include <absl/flags/parse.h>
@@ -13,7 +14,6 @@
 
 #include <absl/flags/internal/usage.h>
 
-#include <algorithm>
 #include <sstream>
 
 namespace bench {
@@ -40,12 +40,23 @@ public:
             const Option& option = options[i];
             Flags& flags = m_flags[i];
             switch (option.kind) {
-            case Kind::Switch: define(option, flags.on); break;
-            case Kind::Integer: define(option, flags.integer); break;
-            case Kind::Number: define(option, flags.number); break;
-            case Kind::Text: define(option, flags.text); break;
-            case Kind::List: define(option, flags.list); break;
-            case Kind::Positional: break;
+            case Kind::Switch:
+                define(option, flags.on);
+                break;
+            case Kind::Integer:
+                define(option, flags.integer);
+                break;
+            case Kind::Number:
+                define(option, flags.number);
+                break;
+            case Kind::Text:
+                define(option, flags.text);
+                break;
+            case Kind::List:
+                define(option, flags.list);
+                break;
+            case Kind::Positional:
+                break;
             }
         }
     }
@@ -57,11 +68,19 @@ public:
             Flags& flags = m_flags[i];
             const std::size_t slot = options[i].slot;
             switch (options[i].kind) {
-            case Kind::Switch: answer.switches[slot] = absl::GetFlag(*flags.on); break;
-            case Kind::Integer: answer.integers[slot] = absl::GetFlag(*flags.integer); break;
-            case Kind::Number: answer.numbers[slot] = absl::GetFlag(*flags.number); break;
+            case Kind::Switch:
+                answer.switches[slot] = absl::GetFlag(*flags.on);
+                break;
+            case Kind::Integer:
+                answer.integers[slot] = absl::GetFlag(*flags.integer);
+                break;
+            case Kind::Number:
+                answer.numbers[slot] = absl::GetFlag(*flags.number);
+                break;
             // A flag is read as a copy, which has to live as long as the answer.
-            case Kind::Text: answer.texts[slot] = flags.textRead = absl::GetFlag(*flags.text); break;
+            case Kind::Text:
+                answer.texts[slot] = flags.textRead = absl::GetFlag(*flags.text);
+                break;
             case Kind::List:
                 flags.listRead = absl::GetFlag(*flags.list);
                 answer.lists[slot].assign(flags.listRead.begin(), flags.listRead.end());
@@ -123,15 +142,8 @@ private:
     std::vector<char*> m_positionals;
 };
 
-std::string underscoredName(const Option& option) {
-    std::string name = option.name;
-    std::replace(name.begin(), name.end(), '-', '_');
-    return name;
-}
-
 } // namespace
 
-const Candidate abseilCandidate = {
-    "abseil flags", {true, '_'}, underscoredName, [] { return std::unique_ptr<Library>(new Abseil); }, true, false};
+const Candidate abseilCandidate = {"abseil flags", {true, '_'}, underscoredName, make<Abseil>, true, false};
 
 } // namespace bench

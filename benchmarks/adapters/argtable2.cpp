@@ -35,7 +35,9 @@ public:
             void* entry = m_table[i];
             const std::size_t slot = options[i].slot;
             switch (options[i].kind) {
-            case Kind::Switch: answer.switches[slot] = static_cast<arg_lit*>(entry)->count > 0; break;
+            case Kind::Switch:
+                answer.switches[slot] = static_cast<arg_lit*>(entry)->count > 0;
+                break;
             case Kind::Integer: {
                 const arg_int& found = *static_cast<arg_int*>(entry);
                 answer.integers[slot] = found.count > 0 ? found.ival[0] : 0;
@@ -88,12 +90,18 @@ private:
         const char* text = option.description.c_str();
         const int atMost = static_cast<int>(option.atMost);
         switch (option.kind) {
-        case Kind::Switch: return arg_lit0(letter, name, text);
-        case Kind::Integer: return arg_int0(letter, name, "<number>", text);
-        case Kind::Number: return arg_dbl0(letter, name, "<number>", text);
-        case Kind::Text: return arg_str0(letter, name, "<text>", text);
-        case Kind::List: return arg_strn(letter, name, "<text>", 0, atMost, text);
-        default: return arg_strn(nullptr, nullptr, "<input>", 0, atMost, text);
+        case Kind::Switch:
+            return arg_lit0(letter, name, text);
+        case Kind::Integer:
+            return arg_int0(letter, name, "<number>", text);
+        case Kind::Number:
+            return arg_dbl0(letter, name, "<number>", text);
+        case Kind::Text:
+            return arg_str0(letter, name, "<text>", text);
+        case Kind::List:
+            return arg_strn(letter, name, "<text>", 0, atMost, text);
+        default:
+            return arg_strn(nullptr, nullptr, "<input>", 0, atMost, text);
         }
     }
 
@@ -106,7 +114,6 @@ std::string aliasAlone(const Option& option) {
 
 } // namespace
 
-const Candidate argtable2Candidate = {
-    "argtable2", {}, aliasAlone, [] { return std::unique_ptr<Library>(new Argtable2); }};
+const Candidate argtable2Candidate = {"argtable2", {}, aliasAlone, make<Argtable2>};
 
 } // namespace bench

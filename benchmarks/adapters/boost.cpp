@@ -1,6 +1,7 @@
 /// Boost.Program_options. It has no separator within a value: the host splits lists.
 
 #include "adapters/candidates.h"
+#include "adapters/notation.h"
 
 #include <boost/program_options.hpp>
 
@@ -22,11 +23,21 @@ public:
             const char* names = option.declared.c_str();
             const char* description = option.description.c_str();
             switch (option.kind) {
-            case Kind::Switch: add(names, po::bool_switch(), description); break;
-            case Kind::Integer: add(names, po::value<int>(), description); break;
-            case Kind::Number: add(names, po::value<double>(), description); break;
-            case Kind::Text: add(names, po::value<std::string>(), description); break;
-            case Kind::List: add(names, po::value<Texts>(), description); break;
+            case Kind::Switch:
+                add(names, po::bool_switch(), description);
+                break;
+            case Kind::Integer:
+                add(names, po::value<int>(), description);
+                break;
+            case Kind::Number:
+                add(names, po::value<double>(), description);
+                break;
+            case Kind::Text:
+                add(names, po::value<std::string>(), description);
+                break;
+            case Kind::List:
+                add(names, po::value<Texts>(), description);
+                break;
             case Kind::Positional:
                 add(names, po::value<Texts>(), description);
                 m_positional.add(names, -1);
@@ -36,7 +47,8 @@ public:
     }
 
     void parse(int argc, char** argv) override {
-        po::store(po::command_line_parser(argc, argv).options(m_options).positional(m_positional).run(), m_values);
+        po::store(po::command_line_parser(argc, argv).options(m_options).positional(m_positional).run(),
+                  m_values);
         po::notify(m_values);
     }
 
@@ -47,10 +59,18 @@ public:
             if (found.empty())
                 continue;
             switch (option.kind) {
-            case Kind::Switch: answer.switches[slot] = found.as<bool>(); break;
-            case Kind::Integer: answer.integers[slot] = found.as<int>(); break;
-            case Kind::Number: answer.numbers[slot] = found.as<double>(); break;
-            case Kind::Text: answer.texts[slot] = found.as<std::string>(); break;
+            case Kind::Switch:
+                answer.switches[slot] = found.as<bool>();
+                break;
+            case Kind::Integer:
+                answer.integers[slot] = found.as<int>();
+                break;
+            case Kind::Number:
+                answer.numbers[slot] = found.as<double>();
+                break;
+            case Kind::Text:
+                answer.texts[slot] = found.as<std::string>();
+                break;
             case Kind::List:
                 for (const std::string& value : found.as<Texts>())
                     splitAtCommas(value, answer.lists[slot]);
@@ -78,13 +98,8 @@ private:
     po::variables_map m_values;
 };
 
-std::string nameAndAlias(const Option& option) {
-    return option.alias ? option.name + ',' + option.alias : option.name;
-}
-
 } // namespace
 
-const Candidate boostCandidate = {"Boost.Program_options", {}, nameAndAlias,
-                                  [] { return std::unique_ptr<Library>(new Boost); }};
+const Candidate boostCandidate = {"Boost.Program_options", {}, nameAndAlias, make<Boost>};
 
 } // namespace bench

@@ -20,10 +20,18 @@ public:
             const std::string& description = options[i].description;
             Variable& variable = m_variables[i];
             switch (options[i].kind) {
-            case Kind::Switch: m_app.add_flag(names.c_str(), variable.on, description.c_str()); break;
-            case Kind::Integer: m_app.add_option(names.c_str(), variable.integer, description.c_str()); break;
-            case Kind::Number: m_app.add_option(names.c_str(), variable.number, description.c_str()); break;
-            case Kind::Text: m_app.add_option(names.c_str(), variable.text, description.c_str()); break;
+            case Kind::Switch:
+                m_app.add_flag(names.c_str(), variable.on, description.c_str());
+                break;
+            case Kind::Integer:
+                m_app.add_option(names.c_str(), variable.integer, description.c_str());
+                break;
+            case Kind::Number:
+                m_app.add_option(names.c_str(), variable.number, description.c_str());
+                break;
+            case Kind::Text:
+                m_app.add_option(names.c_str(), variable.text, description.c_str());
+                break;
             case Kind::List:
                 m_app.add_option(names.c_str(), variable.list, description.c_str())
                     ->delimiter(',')
@@ -43,12 +51,22 @@ public:
             const Variable& variable = m_variables[i];
             const std::size_t slot = options[i].slot;
             switch (options[i].kind) {
-            case Kind::Switch: answer.switches[slot] = variable.on; break;
-            case Kind::Integer: answer.integers[slot] = variable.integer; break;
-            case Kind::Number: answer.numbers[slot] = variable.number; break;
-            case Kind::Text: answer.texts[slot] = variable.text; break;
+            case Kind::Switch:
+                answer.switches[slot] = variable.on;
+                break;
+            case Kind::Integer:
+                answer.integers[slot] = variable.integer;
+                break;
+            case Kind::Number:
+                answer.numbers[slot] = variable.number;
+                break;
+            case Kind::Text:
+                answer.texts[slot] = variable.text;
+                break;
             case Kind::List:
-            case Kind::Positional: answer.lists[slot].assign(variable.list.begin(), variable.list.end()); break;
+            case Kind::Positional:
+                answer.lists[slot].assign(variable.list.begin(), variable.list.end());
+                break;
             }
         }
     }
@@ -81,6 +99,6 @@ std::string dashedNames(const Option& option) {
 
 } // namespace
 
-const Candidate cli11Candidate = {"CLI11", {}, dashedNames, [] { return std::unique_ptr<Library>(new Cli11); }};
+const Candidate cli11Candidate = {"CLI11", {}, dashedNames, make<Cli11>};
 
 } // namespace bench

@@ -30,10 +30,18 @@ public:
             if (found.count() == 0)
                 continue;
             switch (option.kind) {
-            case Kind::Switch: answer.switches[slot] = found.as<bool>(); break;
-            case Kind::Integer: answer.integers[slot] = found.as<int>(); break;
-            case Kind::Number: answer.numbers[slot] = found.as<double>(); break;
-            case Kind::Text: answer.texts[slot] = found.as<std::string>(); break;
+            case Kind::Switch:
+                answer.switches[slot] = found.as<bool>();
+                break;
+            case Kind::Integer:
+                answer.integers[slot] = found.as<int>();
+                break;
+            case Kind::Number:
+                answer.numbers[slot] = found.as<double>();
+                break;
+            case Kind::Text:
+                answer.texts[slot] = found.as<std::string>();
+                break;
             case Kind::List:
             case Kind::Positional: {
                 const std::vector<std::string>& values = found.as<std::vector<std::string>>();
@@ -51,11 +59,16 @@ public:
 private:
     static std::shared_ptr<cxxopts::Value> valueOf(Kind kind) {
         switch (kind) {
-        case Kind::Switch: return cxxopts::value<bool>();
-        case Kind::Integer: return cxxopts::value<int>();
-        case Kind::Number: return cxxopts::value<double>();
-        case Kind::Text: return cxxopts::value<std::string>();
-        default: return cxxopts::value<std::vector<std::string>>();
+        case Kind::Switch:
+            return cxxopts::value<bool>();
+        case Kind::Integer:
+            return cxxopts::value<int>();
+        case Kind::Number:
+            return cxxopts::value<double>();
+        case Kind::Text:
+            return cxxopts::value<std::string>();
+        default:
+            return cxxopts::value<std::vector<std::string>>();
         }
     }
 
@@ -69,7 +82,6 @@ std::string aliasAndName(const Option& option) {
 
 } // namespace
 
-const Candidate cxxoptsCandidate = {"cxxopts", {}, aliasAndName,
-                                    [] { return std::unique_ptr<Library>(new Cxxopts); }};
+const Candidate cxxoptsCandidate = {"cxxopts", {}, aliasAndName, make<Cxxopts>};
 
 } // namespace bench

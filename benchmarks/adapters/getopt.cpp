@@ -1,11 +1,11 @@
 /// getopt_long of the C library: names only. Conversion, lists and the storage are the host's.
 /// Its table is built while "declaring"; a host would write it as a constant.
 
+#include "adapters/HostValues.h"
 #include "adapters/candidates.h"
+#include "adapters/notation.h"
 
 #include <getopt.h>
-
-#include <cstdlib>
 
 namespace bench {
 
@@ -38,35 +38,15 @@ public:
                 fail("refused");
             const std::size_t index =
                 code >= firstCode ? static_cast<std::size_t>(code - firstCode) : m_indexOfLetter[code];
-            m_values[index].push_back(optarg ? optarg : "1");
+            m_values.add(index, optarg ? optarg : "1");
         }
-        m_values[m_positional].assign(argv + optind, argv + argc);
+        for (; optind < argc; ++optind)
+            m_values.add(m_positional, argv[optind]);
     }
 
-    void read(const std::vector<Option>& options, Answer& answer) override {
-        for (std::size_t i = 0; i < options.size(); ++i) {
-            const std::vector<const char*>& values = m_values[i];
-            const std::size_t slot = options[i].slot;
-            if (values.empty())
-                continue;
-            switch (options[i].kind) {
-            case Kind::Switch: answer.switches[slot] = true; break;
-            case Kind::Integer: answer.integers[slot] = std::atoi(values.back()); break;
-            case Kind::Number: answer.numbers[slot] = std::strtod(values.back(), nullptr); break;
-            case Kind::Text: answer.texts[slot] = values.back(); break;
-            case Kind::List:
-                for (const char* value : values)
-                    splitAtCommas(value, answer.lists[slot]);
-                break;
-            case Kind::Positional: answer.lists[slot].assign(values.begin(), values.end()); break;
-            }
-        }
-    }
+    void read(const std::vector<Option>& options, Answer& answer) override { m_values.read(options, answer); }
 
-    void forget() override {
-        for (std::vector<const char*>& values : m_values)
-            values.clear();
-    }
+    void forget() override { m_values.clear(); }
 
     std::string help() override { return {}; }
 
@@ -76,13 +56,12 @@ private:
     std::vector<option> m_table;
     std::string m_letters;
     std::size_t m_indexOfLetter[firstCode] = {};
-    std::vector<std::vector<const char*>> m_values;
+    HostValues m_values;
     std::size_t m_positional = 0;
 };
 
 } // namespace
 
-const Candidate getoptCandidate = {
-    "getopt_long", {}, nameAlone, [] { return std::unique_ptr<Library>(new Getopt); }, false, true, false};
+const Candidate getoptCandidate = {"getopt_long", {}, nameAlone, make<Getopt>, false, true, false};
 
 } // namespace bench

@@ -5,10 +5,10 @@
 /// dashes as well.
 
 #include "adapters/candidates.h"
+#include "adapters/notation.h"
 
 #include <gflags/gflags.h>
 
-#include <algorithm>
 #include <deque>
 
 namespace bench {
@@ -24,12 +24,21 @@ public:
             const char* description = options[i].description.c_str();
             Variable& variable = m_variables[i];
             switch (options[i].kind) {
-            case Kind::Switch: define(name, description, variable.on); break;
-            case Kind::Integer: define(name, description, variable.integer); break;
-            case Kind::Number: define(name, description, variable.number); break;
+            case Kind::Switch:
+                define(name, description, variable.on);
+                break;
+            case Kind::Integer:
+                define(name, description, variable.integer);
+                break;
+            case Kind::Number:
+                define(name, description, variable.number);
+                break;
             case Kind::Text:
-            case Kind::List: define(name, description, variable.text); break;
-            case Kind::Positional: break;
+            case Kind::List:
+                define(name, description, variable.text);
+                break;
+            case Kind::Positional:
+                break;
             }
         }
     }
@@ -44,12 +53,24 @@ public:
             const Variable& variable = m_variables[i];
             const std::size_t slot = options[i].slot;
             switch (options[i].kind) {
-            case Kind::Switch: answer.switches[slot] = variable.on.current; break;
-            case Kind::Integer: answer.integers[slot] = variable.integer.current; break;
-            case Kind::Number: answer.numbers[slot] = variable.number.current; break;
-            case Kind::Text: answer.texts[slot] = variable.text.current; break;
-            case Kind::List: splitAtCommas(variable.text.current, answer.lists[slot]); break;
-            case Kind::Positional: answer.lists[slot].assign(m_positionals.begin(), m_positionals.end()); break;
+            case Kind::Switch:
+                answer.switches[slot] = variable.on.current;
+                break;
+            case Kind::Integer:
+                answer.integers[slot] = variable.integer.current;
+                break;
+            case Kind::Number:
+                answer.numbers[slot] = variable.number.current;
+                break;
+            case Kind::Text:
+                answer.texts[slot] = variable.text.current;
+                break;
+            case Kind::List:
+                splitAtCommas(variable.text.current, answer.lists[slot]);
+                break;
+            case Kind::Positional:
+                answer.lists[slot].assign(m_positionals.begin(), m_positionals.end());
+                break;
             }
         }
     }
@@ -94,15 +115,8 @@ private:
     std::vector<const char*> m_positionals;
 };
 
-std::string underscoredName(const Option& option) {
-    std::string name = option.name;
-    std::replace(name.begin(), name.end(), '-', '_');
-    return name;
-}
-
 } // namespace
 
-const Candidate gflagsCandidate = {
-    "gflags", {}, underscoredName, [] { return std::unique_ptr<Library>(new Gflags); }, true, false};
+const Candidate gflagsCandidate = {"gflags", {}, underscoredName, make<Gflags>, true, false};
 
 } // namespace bench

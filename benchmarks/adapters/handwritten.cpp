@@ -1,9 +1,10 @@
 /// What is left when a host does without a library: a loop that compares names. No help, no
 /// abbreviations, no messages. The floor under all figures, not a peer.
 
+#include "adapters/HostValues.h"
 #include "adapters/candidates.h"
+#include "adapters/notation.h"
 
-#include <cstdlib>
 #include <cstring>
 
 namespace bench {
@@ -22,45 +23,24 @@ public:
         for (int i = 1; i < argc; ++i) {
             const char* argument = argv[i];
             if (argument[0] != '-') {
-                m_values[m_positional].push_back(argument);
+                m_values.add(m_positional, argument);
                 continue;
             }
             const char* name = argument + 2;
             const std::size_t length = std::strcspn(name, "=");
             const std::size_t index = find({name, length});
             if ((*m_options)[index].kind == Kind::Switch)
-                m_values[index].push_back("1");
+                m_values.add(index, "1");
             else if (name[length] == '=')
-                m_values[index].push_back(name + length + 1);
+                m_values.add(index, name + length + 1);
             else
-                m_values[index].push_back(argv[++i]);
+                m_values.add(index, argv[++i]);
         }
     }
 
-    void read(const std::vector<Option>& options, Answer& answer) override {
-        for (std::size_t i = 0; i < options.size(); ++i) {
-            const std::vector<const char*>& values = m_values[i];
-            const std::size_t slot = options[i].slot;
-            if (values.empty())
-                continue;
-            switch (options[i].kind) {
-            case Kind::Switch: answer.switches[slot] = true; break;
-            case Kind::Integer: answer.integers[slot] = std::atoi(values.back()); break;
-            case Kind::Number: answer.numbers[slot] = std::strtod(values.back(), nullptr); break;
-            case Kind::Text: answer.texts[slot] = values.back(); break;
-            case Kind::List:
-                for (const char* value : values)
-                    splitAtCommas(value, answer.lists[slot]);
-                break;
-            case Kind::Positional: answer.lists[slot].assign(values.begin(), values.end()); break;
-            }
-        }
-    }
+    void read(const std::vector<Option>& options, Answer& answer) override { m_values.read(options, answer); }
 
-    void forget() override {
-        for (std::vector<const char*>& values : m_values)
-            values.clear();
-    }
+    void forget() override { m_values.clear(); }
 
     std::string help() override { return {}; }
 
@@ -73,13 +53,12 @@ private:
     }
 
     const std::vector<Option>* m_options = nullptr;
-    std::vector<std::vector<const char*>> m_values;
+    HostValues m_values;
     std::size_t m_positional = 0;
 };
 
 } // namespace
 
-const Candidate handwrittenCandidate = {
-    "handwritten", {}, nameAlone, [] { return std::unique_ptr<Library>(new Handwritten); }, false, true, false};
+const Candidate handwrittenCandidate = {"handwritten", {}, nameAlone, make<Handwritten>, false, true, false};
 
 } // namespace bench

@@ -3,6 +3,7 @@
 /// process when they are made. `removeArgument` takes them back, as LLVM's own tests do it.
 
 #include "adapters/candidates.h"
+#include "adapters/notation.h"
 
 #include <llvm/Support/CommandLine.h>
 #include <llvm/Support/raw_ostream.h>
@@ -26,8 +27,8 @@ public:
         for (const Option& option : options) {
             m_options.push_back(make(option));
             if (option.alias)
-                m_aliases.emplace_back(new cl::alias(llvm::StringRef(&option.alias, 1),
-                                                     cl::aliasopt(*m_options.back())));
+                m_aliases.emplace_back(
+                    new cl::alias(llvm::StringRef(&option.alias, 1), cl::aliasopt(*m_options.back())));
         }
     }
 
@@ -41,10 +42,18 @@ public:
             cl::Option& option = *m_options[i];
             const std::size_t slot = options[i].slot;
             switch (options[i].kind) {
-            case Kind::Switch: answer.switches[slot] = static_cast<cl::opt<bool>&>(option); break;
-            case Kind::Integer: answer.integers[slot] = static_cast<cl::opt<int>&>(option); break;
-            case Kind::Number: answer.numbers[slot] = static_cast<cl::opt<double>&>(option); break;
-            case Kind::Text: answer.texts[slot] = static_cast<cl::opt<std::string>&>(option).getValue(); break;
+            case Kind::Switch:
+                answer.switches[slot] = static_cast<cl::opt<bool>&>(option);
+                break;
+            case Kind::Integer:
+                answer.integers[slot] = static_cast<cl::opt<int>&>(option);
+                break;
+            case Kind::Number:
+                answer.numbers[slot] = static_cast<cl::opt<double>&>(option);
+                break;
+            case Kind::Text:
+                answer.texts[slot] = static_cast<cl::opt<std::string>&>(option).getValue();
+                break;
             case Kind::List:
             case Kind::Positional: {
                 const std::vector<std::string>& values = static_cast<cl::list<std::string>&>(option);
@@ -71,12 +80,18 @@ private:
         const llvm::StringRef name(option.name);
         const cl::desc description(option.description);
         switch (option.kind) {
-        case Kind::Switch: return Made(new cl::opt<bool>(name, description));
-        case Kind::Integer: return Made(new cl::opt<int>(name, description));
-        case Kind::Number: return Made(new cl::opt<double>(name, description));
-        case Kind::Text: return Made(new cl::opt<std::string>(name, description));
-        case Kind::List: return Made(new cl::list<std::string>(name, description, cl::CommaSeparated));
-        default: return Made(new cl::list<std::string>(cl::Positional, description));
+        case Kind::Switch:
+            return Made(new cl::opt<bool>(name, description));
+        case Kind::Integer:
+            return Made(new cl::opt<int>(name, description));
+        case Kind::Number:
+            return Made(new cl::opt<double>(name, description));
+        case Kind::Text:
+            return Made(new cl::opt<std::string>(name, description));
+        case Kind::List:
+            return Made(new cl::list<std::string>(name, description, cl::CommaSeparated));
+        default:
+            return Made(new cl::list<std::string>(cl::Positional, description));
         }
     }
 
@@ -86,7 +101,6 @@ private:
 
 } // namespace
 
-const Candidate llvmCandidate = {"LLVM CommandLine", {}, nameAlone,
-                                 [] { return std::unique_ptr<Library>(new Llvm); }};
+const Candidate llvmCandidate = {"LLVM CommandLine", {}, nameAlone, make<Llvm>};
 
 } // namespace bench

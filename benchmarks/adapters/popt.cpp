@@ -2,6 +2,7 @@
 /// together, so every parse makes one. It has no separator within a value: the host splits lists.
 
 #include "adapters/candidates.h"
+#include "adapters/notation.h"
 
 #include <popt.h>
 
@@ -40,9 +41,15 @@ public:
             const Variable& variable = m_variables[i];
             const std::size_t slot = options[i].slot;
             switch (options[i].kind) {
-            case Kind::Switch: answer.switches[slot] = variable.on != 0; break;
-            case Kind::Integer: answer.integers[slot] = variable.integer; break;
-            case Kind::Number: answer.numbers[slot] = variable.number; break;
+            case Kind::Switch:
+                answer.switches[slot] = variable.on != 0;
+                break;
+            case Kind::Integer:
+                answer.integers[slot] = variable.integer;
+                break;
+            case Kind::Number:
+                answer.numbers[slot] = variable.number;
+                break;
             case Kind::Text:
                 if (variable.text)
                     answer.texts[slot] = variable.text;
@@ -95,21 +102,31 @@ private:
 
     static unsigned typeOf(Kind kind) {
         switch (kind) {
-        case Kind::Switch: return POPT_ARG_NONE;
-        case Kind::Integer: return POPT_ARG_INT;
-        case Kind::Number: return POPT_ARG_DOUBLE;
-        case Kind::Text: return POPT_ARG_STRING;
-        default: return POPT_ARG_ARGV;
+        case Kind::Switch:
+            return POPT_ARG_NONE;
+        case Kind::Integer:
+            return POPT_ARG_INT;
+        case Kind::Number:
+            return POPT_ARG_DOUBLE;
+        case Kind::Text:
+            return POPT_ARG_STRING;
+        default:
+            return POPT_ARG_ARGV;
         }
     }
 
     static void* storageOf(Kind kind, Variable& variable) {
         switch (kind) {
-        case Kind::Switch: return &variable.on;
-        case Kind::Integer: return &variable.integer;
-        case Kind::Number: return &variable.number;
-        case Kind::Text: return &variable.text;
-        default: return &variable.list;
+        case Kind::Switch:
+            return &variable.on;
+        case Kind::Integer:
+            return &variable.integer;
+        case Kind::Number:
+            return &variable.number;
+        case Kind::Text:
+            return &variable.text;
+        default:
+            return &variable.list;
         }
     }
 
@@ -120,6 +137,6 @@ private:
 
 } // namespace
 
-const Candidate poptCandidate = {"popt", {}, nameAlone, [] { return std::unique_ptr<Library>(new Popt); }};
+const Candidate poptCandidate = {"popt", {}, nameAlone, make<Popt>};
 
 } // namespace bench

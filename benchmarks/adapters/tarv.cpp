@@ -1,4 +1,5 @@
 #include "adapters/candidates.h"
+#include "adapters/notation.h"
 
 #include "tarv_3_3/tarv.h"
 
@@ -51,12 +52,22 @@ public:
             if (found.status != tarv::valueFound)
                 continue;
             switch (option.kind) {
-            case Kind::Switch: answer.switches[option.slot] = found.value.get<bool>(); break;
-            case Kind::Integer: answer.integers[option.slot] = found.value.get<int32_t>(); break;
-            case Kind::Number: answer.numbers[option.slot] = found.value.get<double>(); break;
-            case Kind::Text: answer.texts[option.slot] = found.text; break;
+            case Kind::Switch:
+                answer.switches[option.slot] = found.value.get<bool>();
+                break;
+            case Kind::Integer:
+                answer.integers[option.slot] = found.value.get<int32_t>();
+                break;
+            case Kind::Number:
+                answer.numbers[option.slot] = found.value.get<double>();
+                break;
+            case Kind::Text:
+                answer.texts[option.slot] = found.text;
+                break;
             case Kind::List:
-            case Kind::Positional: readList(name, found, answer.lists[option.slot]); break;
+            case Kind::Positional:
+                readList(name, found, answer.lists[option.slot]);
+                break;
             }
         }
     }
@@ -68,10 +79,14 @@ public:
 private:
     static tarv::das_variant_type_t typeOf(Kind kind) {
         switch (kind) {
-        case Kind::Switch: return tarv::vtBool;
-        case Kind::Integer: return tarv::vtInt32;
-        case Kind::Number: return tarv::vtDouble;
-        default: return tarv::vtString;
+        case Kind::Switch:
+            return tarv::vtBool;
+        case Kind::Integer:
+            return tarv::vtInt32;
+        case Kind::Number:
+            return tarv::vtDouble;
+        default:
+            return tarv::vtString;
         }
     }
 
@@ -84,12 +99,8 @@ private:
     std::unique_ptr<tarv::IParseResult, Destroy> m_result;
 };
 
-std::string nameAndAlias(const Option& option) {
-    return option.alias ? option.name + ',' + option.alias : option.name;
-}
-
 } // namespace
 
-const Candidate tarvCandidate = {"tarv", {}, nameAndAlias, [] { return std::unique_ptr<Library>(new Tarv); }};
+const Candidate tarvCandidate = {"tarv", {}, nameAndAlias, make<Tarv>};
 
 } // namespace bench

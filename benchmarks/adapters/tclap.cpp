@@ -4,6 +4,7 @@
 /// splits lists.
 
 #include "adapters/candidates.h"
+#include "adapters/notation.h"
 
 #include <tclap/CmdLine.h>
 
@@ -38,12 +39,21 @@ public:
             TCLAP::Arg& argument = *m_arguments[i];
             const std::size_t slot = options[i].slot;
             switch (options[i].kind) {
-            case Kind::Switch: answer.switches[slot] = static_cast<TCLAP::SwitchArg&>(argument).getValue(); break;
-            case Kind::Integer: answer.integers[slot] = valueOf<int>(argument); break;
-            case Kind::Number: answer.numbers[slot] = valueOf<double>(argument); break;
-            case Kind::Text: answer.texts[slot] = valueOf<std::string>(argument); break;
+            case Kind::Switch:
+                answer.switches[slot] = static_cast<TCLAP::SwitchArg&>(argument).getValue();
+                break;
+            case Kind::Integer:
+                answer.integers[slot] = valueOf<int>(argument);
+                break;
+            case Kind::Number:
+                answer.numbers[slot] = valueOf<double>(argument);
+                break;
+            case Kind::Text:
+                answer.texts[slot] = valueOf<std::string>(argument);
+                break;
             case Kind::List:
-                for (const std::string& value : static_cast<TCLAP::MultiArg<std::string>&>(argument).getValue())
+                for (const std::string& value :
+                     static_cast<TCLAP::MultiArg<std::string>&>(argument).getValue())
                     splitAtCommas(value, answer.lists[slot]);
                 break;
             case Kind::Positional: {
@@ -71,12 +81,18 @@ private:
 
     static Argument make(const Option& option, const std::string& alias, const char* name, const char* text) {
         switch (option.kind) {
-        case Kind::Switch: return Argument(new TCLAP::SwitchArg(alias, name, text));
-        case Kind::Integer: return Argument(new TCLAP::ValueArg<int>(alias, name, text, false, 0, "number"));
-        case Kind::Number: return Argument(new TCLAP::ValueArg<double>(alias, name, text, false, 0, "number"));
-        case Kind::Text: return Argument(new TCLAP::ValueArg<std::string>(alias, name, text, false, "", "text"));
-        case Kind::List: return Argument(new TCLAP::MultiArg<std::string>(alias, name, text, false, "text"));
-        default: return Argument(new TCLAP::UnlabeledMultiArg<std::string>(name, text, false, "text"));
+        case Kind::Switch:
+            return Argument(new TCLAP::SwitchArg(alias, name, text));
+        case Kind::Integer:
+            return Argument(new TCLAP::ValueArg<int>(alias, name, text, false, 0, "number"));
+        case Kind::Number:
+            return Argument(new TCLAP::ValueArg<double>(alias, name, text, false, 0, "number"));
+        case Kind::Text:
+            return Argument(new TCLAP::ValueArg<std::string>(alias, name, text, false, "", "text"));
+        case Kind::List:
+            return Argument(new TCLAP::MultiArg<std::string>(alias, name, text, false, "text"));
+        default:
+            return Argument(new TCLAP::UnlabeledMultiArg<std::string>(name, text, false, "text"));
         }
     }
 
@@ -92,7 +108,6 @@ private:
 
 } // namespace
 
-const Candidate tclapCandidate = {
-    "TCLAP", {false, '-'}, nameAlone, [] { return std::unique_ptr<Library>(new Tclap); }};
+const Candidate tclapCandidate = {"TCLAP", {false, '-'}, nameAlone, make<Tclap>};
 
 } // namespace bench

@@ -23,12 +23,22 @@ std::string printed(double number) {
 Answer::Answer(const Workload& workload) {
     for (const Option& option : workload.options) {
         switch (option.kind) {
-        case Kind::Switch: switches.push_back(0); break;
-        case Kind::Integer: integers.push_back(0); break;
-        case Kind::Number: numbers.push_back(0); break;
-        case Kind::Text: texts.emplace_back(); break;
+        case Kind::Switch:
+            switches.push_back(0);
+            break;
+        case Kind::Integer:
+            integers.push_back(0);
+            break;
+        case Kind::Number:
+            numbers.push_back(0);
+            break;
+        case Kind::Text:
+            texts.emplace_back();
+            break;
         case Kind::List:
-        case Kind::Positional: lists.emplace_back(); break;
+        case Kind::Positional:
+            lists.emplace_back();
+            break;
         }
     }
     for (std::vector<std::string_view>& list : lists)
@@ -49,10 +59,18 @@ std::string Answer::canonicalText(const std::vector<Option>& options) const {
     for (const Option& option : options) {
         text.append(option.name).append(":");
         switch (option.kind) {
-        case Kind::Switch: text.append(switches[option.slot] ? " on" : " off"); break;
-        case Kind::Integer: text.append(" ").append(std::to_string(integers[option.slot])); break;
-        case Kind::Number: text.append(" ").append(printed(numbers[option.slot])); break;
-        case Kind::Text: text.append(" '").append(texts[option.slot]).append("'"); break;
+        case Kind::Switch:
+            text.append(switches[option.slot] ? " on" : " off");
+            break;
+        case Kind::Integer:
+            text.append(" ").append(std::to_string(integers[option.slot]));
+            break;
+        case Kind::Number:
+            text.append(" ").append(printed(numbers[option.slot]));
+            break;
+        case Kind::Text:
+            text.append(" '").append(texts[option.slot]).append("'");
+            break;
         case Kind::List:
         case Kind::Positional:
             for (const std::string_view value : lists[option.slot])

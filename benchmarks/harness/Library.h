@@ -32,6 +32,11 @@ public:
     virtual std::string help() = 0;
 };
 
+template <class T>
+std::unique_ptr<Library> make() {
+    return std::make_unique<T>();
+}
+
 /// A library, and what the measurement has to know about it.
 struct Candidate {
     const char* name;
@@ -52,11 +57,6 @@ inline Workload prepared(const Candidate& candidate, Workload workload) {
     for (Option& option : workload.options)
         option.declared = candidate.declared(option);
     return workload;
-}
-
-/// The plain name: `Candidate::declared` of libraries that take the alias apart from the name.
-inline std::string nameAlone(const Option& option) {
-    return option.name;
 }
 
 [[noreturn]] inline void fail(const std::string& message) {

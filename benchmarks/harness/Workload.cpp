@@ -76,7 +76,7 @@ const Option* named(const std::vector<Option>& options, std::string_view name) {
 /// options of a large program do.
 std::string generatedName(std::size_t index) {
     static constexpr std::array<const char*, 20> words = {
-        "archive", "backup", "cache",  "debug",  "error",  "filter", "graph", "history", "index", "join",
+        "archive", "backup", "cache",  "debug",   "error",  "filter", "graph", "history", "index", "join",
         "kernel",  "link",   "memory", "network", "object", "print",  "query", "report",  "stack", "trace"};
     const std::size_t count = words.size();
     std::string name = words[index % count];
@@ -143,7 +143,8 @@ Workload manyOptions(std::size_t options) {
     Workload workload;
     Declarations declarations(workload.options, 100);
     for (std::size_t i = 0; i < options; ++i)
-        declarations.add(generatedName(i), 0, Kind::List, "A setting of the program, number " + std::to_string(i) + ".");
+        declarations.add(generatedName(i), 0, Kind::List,
+                         "A setting of the program, number " + std::to_string(i) + ".");
     declarations.add("input", 0, Kind::Positional, "The files to work on.");
     for (std::size_t i = 0; i < 85; ++i) {
         const std::string number = std::to_string(i);

@@ -4,10 +4,10 @@
 ///
 ///     bench-NAME MODE WORKLOAD SIZE
 ///
-/// MODE is `answer` (prints what was read), `measure` (writes every phase and its allocations to
-/// the standard error), `measure-again` (the same, and a second command line), `help` (prints the
-/// help text) or `measure-help`. WORKLOAD is `everyday`, which has one size, `arguments` or
-/// `options`.
+/// MODE is `about` (prints the library's name and what it can do), `answer` (prints what was read),
+/// `measure` (writes every phase and its allocations to the standard error), `measure-again` (the
+/// same, and a second command line), `help` (prints the help text) or `measure-help`. WORKLOAD is
+/// `everyday`, which has one size, `arguments` or `options`.
 
 #include "adapters/candidates.h"
 
@@ -57,6 +57,14 @@ Workload workloadNamed(const std::string& name, std::size_t size) {
     fail("no workload " + name);
 }
 
+void printAbout() {
+    std::printf("%s\n", candidate.name);
+    if (candidate.collects)
+        std::puts("collects");
+    if (candidate.hasHelp)
+        std::puts("helps");
+}
+
 void printAnswer(const Workload& workload) {
     CommandLine line(workload, candidate.dialect);
     Answer answer(workload);
@@ -65,7 +73,7 @@ void printAnswer(const Workload& workload) {
     library->parse(line.count(), line.arguments());
     library->read(workload.options, answer);
     const std::string first = answer.canonicalText(workload.options);
-        answer.clear();
+    answer.clear();
     library->forget();
     library->parse(line.count(), line.arguments());
     library->read(workload.options, answer);
@@ -144,7 +152,9 @@ int run(int argc, char** argv) {
         fail("usage: MODE WORKLOAD SIZE");
     const std::string& mode = words[0];
     const Workload workload = workloadNamed(words[1], std::stoul(words[2]));
-    if (mode == "answer")
+    if (mode == "about")
+        printAbout();
+    else if (mode == "answer")
         printAnswer(workload);
     else if (mode == "measure")
         measurePhases(workload, false);

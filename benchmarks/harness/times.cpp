@@ -10,7 +10,7 @@ namespace bench {
 namespace {
 
 const Candidate* const candidates[] = {
-    &tarvCandidate,  &handwrittenCandidate, &getoptCandidate, &poptCandidate,  &argtable2Candidate,
+    &tarvCandidate, &handwrittenCandidate, &getoptCandidate, &poptCandidate,  &argtable2Candidate,
     &llvmCandidate, &tclapCandidate,       &boostCandidate,  &cli11Candidate, &cxxoptsCandidate};
 
 struct Scene {
@@ -20,7 +20,8 @@ struct Scene {
     Answer answer;
 
     Scene(const Candidate& its, Workload plain)
-        : candidate(its), workload(prepared(its, std::move(plain))), line(workload, its.dialect), answer(workload) {}
+        : candidate(its), workload(prepared(its, std::move(plain))), line(workload, its.dialect),
+          answer(workload) {}
 
     std::unique_ptr<Library> declared() const {
         std::unique_ptr<Library> library = candidate.make();

@@ -17,7 +17,8 @@ int main(int argc, char** argv) {
         return 1;
     }
     std::printf("%d %d %g %s\n", verbose->count, jobs->ival[0], scale->dval[0], output->sval[0]);
-    for (char* path = std::strtok(const_cast<char*>(paths->sval[0]), ","); path; path = std::strtok(nullptr, ","))
+    for (char* path = std::strtok(const_cast<char*>(paths->sval[0]), ","); path;
+         path = std::strtok(nullptr, ","))
         std::printf("%s\n", path);
     for (int i = 0; i < inputs->count; ++i)
         std::printf("%s\n", inputs->sval[i]);

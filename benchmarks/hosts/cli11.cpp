@@ -14,7 +14,9 @@ int main(int argc, char** argv) {
     app.add_option("-j,--jobs", jobs, "How many files to work on at the same time.");
     app.add_option("--scale", scale, "The factor for every length.");
     app.add_option("-o,--output-file", output, "Where the result is written.");
-    app.add_option("--include-path", paths, "Directories to search.")->delimiter(',')->allow_extra_args(false);
+    app.add_option("--include-path", paths, "Directories to search.")
+        ->delimiter(',')
+        ->allow_extra_args(false);
     app.add_option("input", inputs, "The files to work on.");
     CLI11_PARSE(app, argc, argv);
     std::printf("%d %d %g %s\n", verbose, jobs, scale, output.c_str());
