@@ -186,9 +186,9 @@ int AbbreviationParser::parse(std::vector<std::string>& args, IResultCollector* 
 int AbbreviationParser::findValue(const OptionDescription& option, std::vector<std::string>& args,
                                   std::string& value, std::size_t& consumed, std::string& err) {
     if (option.m_type == vtNull) {
-        return value.empty() ? static_cast<int>(parseOk)
-                             : fail(err, messages::takesNoValue(option.primaryName(),
-                                                                formatTokenMessage(args[0])));
+        return value.empty()
+                   ? static_cast<int>(parseOk)
+                   : fail(err, messages::takesNoValue(option.primaryName(), formatTokenMessage(args[0])));
     }
     if (option.m_type == vtBool) {
         if (!value.empty()) {

@@ -29,8 +29,8 @@ inline std::string takesNoValue(const std::string& option, const std::string& su
 }
 
 inline std::string isBoolean(const std::string& option, const std::string& suffix) {
-    return "Option '" + option +
-           "' is boolean and should be declared in form '--option' or '--no-option'" + suffix;
+    return "Option '" + option + "' is boolean and should be declared in form '--option' or '--no-option'" +
+           suffix;
 }
 
 inline std::string requiresValue(const std::string& option, const std::string& suffix) {

@@ -10,13 +10,9 @@ class DeclaringHandler : public tarv_3_3::EventHandler {
 public:
     explicit DeclaringHandler(tarv_3_3::RegisteredOptionStorage& registry) : m_registry(registry) {}
 
-    bool onOptionParse(const char*) override {
-        return declare();
-    }
+    bool onOptionParse(const char*) override { return declare(); }
 
-    bool onValueParse(const char*, const tarv_3_3::Value&) override {
-        return declare();
-    }
+    bool onValueParse(const char*, const tarv_3_3::Value&) override { return declare(); }
 
 private:
     bool declare() {

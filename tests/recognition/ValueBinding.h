@@ -21,9 +21,7 @@ public:
         return 2;
     }
 
-    int getPriority() override {
-        return 0;
-    }
+    int getPriority() override { return 0; }
 
     using IArgumentParser::parseValueAndAddOption;
 };

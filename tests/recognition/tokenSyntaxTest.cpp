@@ -155,9 +155,7 @@ public:
     explicit GlobalLocale(const std::locale& locale) : m_former(std::locale::global(locale)) {}
     GlobalLocale(const GlobalLocale&) = delete;
     GlobalLocale& operator=(const GlobalLocale&) = delete;
-    ~GlobalLocale() {
-        std::locale::global(m_former);
-    }
+    ~GlobalLocale() { std::locale::global(m_former); }
 
 private:
     std::locale m_former;

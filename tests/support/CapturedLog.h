@@ -9,9 +9,7 @@
 /// Switches the trace on and catches standard output, for as long as it lives.
 class CapturedLog {
 public:
-    CapturedLog() : m_output(std::cout.rdbuf(m_text.rdbuf())) {
-        tarv_3_3::internal::tarvLogEnabled = true;
-    }
+    CapturedLog() : m_output(std::cout.rdbuf(m_text.rdbuf())) { tarv_3_3::internal::tarvLogEnabled = true; }
 
     CapturedLog(const CapturedLog&) = delete;
     CapturedLog& operator=(const CapturedLog&) = delete;
@@ -21,9 +19,7 @@ public:
         std::cout.rdbuf(m_output);
     }
 
-    std::string text() const {
-        return m_text.str();
-    }
+    std::string text() const { return m_text.str(); }
 
 private:
     std::ostringstream m_text;

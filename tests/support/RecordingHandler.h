@@ -36,9 +36,7 @@ public:
     bool unknownAnswer = true;
 
 private:
-    void note(const std::string& event) {
-        events += (events.empty() ? "" : "; ") + event;
-    }
+    void note(const std::string& event) { events += (events.empty() ? "" : "; ") + event; }
 
     const RelativePositions& m_relative;
 };

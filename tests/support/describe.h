@@ -19,8 +19,8 @@ inline std::string describe(const std::string& name, const tarv_3_3::OptionData&
         line += separator + ("\"" + value.text + "\"@") + std::to_string(relative(value.position));
         separator = ",";
     }
-    const bool noDefault = data.defaultText.empty() && data.defaultValue == tarv_3_3::variant_t() &&
-                           data.defaultPosition == 0;
+    const bool noDefault =
+        data.defaultText.empty() && data.defaultValue == tarv_3_3::variant_t() && data.defaultPosition == 0;
     if (!noDefault) {
         line += " default=\"" + data.defaultText + "\"@" + std::to_string(relative(data.defaultPosition));
     }
