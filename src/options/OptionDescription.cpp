@@ -1,7 +1,5 @@
 #include "options/OptionDescription.h"
 
-#include <algorithm>
-
 #include "options/split.h"
 
 namespace tarv_3_3 {
@@ -56,17 +54,6 @@ IOption& OptionDescription::tag(const char* tags) {
 const std::string& OptionDescription::primaryName() const {
     static const std::string none;
     return m_names.empty() ? none : m_names.front();
-}
-
-bool OptionDescription::answersTo(const std::string& name) const {
-    if (std::find(m_names.begin(), m_names.end(), name) != m_names.end()) {
-        return true;
-    }
-    if (m_type != vtBool || name.compare(0, 3, "no-") != 0) {
-        return false;
-    }
-    return std::any_of(m_names.begin(), m_names.end(),
-                       [&](const std::string& own) { return name.compare(3, std::string::npos, own) == 0; });
 }
 
 bool OptionDescription::operator<(const OptionDescription& other) const {

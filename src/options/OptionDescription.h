@@ -46,9 +46,6 @@ public:
     /// The first name; empty when there is none.
     const std::string& primaryName() const;
 
-    /// Whether `name` is one of the names, or "no-" and one of the names of a switch.
-    bool answersTo(const std::string& name) const;
-
     /// Converts `text` to the option's kind and checks it against the allowed values. An
     /// unambiguous prefix of an allowed text is completed in `text` and `value`. On failure returns
     /// false with the whole message in `message`, which success leaves alone. `value` is assigned

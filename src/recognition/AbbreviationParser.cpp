@@ -1,5 +1,7 @@
 #include "recognition/AbbreviationParser.h"
 
+#include <algorithm>
+#include <string_view>
 #include <utility>
 
 #include "options/OptionDescription.h"
@@ -14,22 +16,66 @@ namespace messages = internal::messages;
 
 namespace {
 
-bool isPrefix(const std::string& word, const std::string& whole) {
-    return whole.compare(0, word.size(), word) == 0;
+constexpr std::string_view negation = "no";
+
+// Goes through the words of a name, without taking it apart.
+class WordCursor {
+public:
+    explicit WordCursor(std::string_view name) : m_name(name) {}
+
+    bool atEnd() const { return m_start > m_name.size(); }
+
+    std::string_view next() {
+        const std::size_t end = std::min(m_name.find('-', m_start), m_name.size());
+        const std::string_view word = m_name.substr(m_start, end - m_start);
+        m_start = end + 1;
+        return word;
+    }
+
+    std::string_view rest() const { return atEnd() ? std::string_view() : m_name.substr(m_start); }
+
+private:
+    std::string_view m_name;
+    std::size_t m_start = 0;
+};
+
+// 0 when `typed` is no prefix of `whole`.
+std::int32_t scoreWord(std::string_view typed, std::string_view whole) {
+    if (whole.substr(0, typed.size()) != typed) {
+        return 0;
+    }
+    return typed.size() == whole.size() ? 2 : 1;
 }
 
-// 0 when some word does not fit.
-std::int32_t scoreOf(const DecomposedName& typed, const DecomposedName& candidate) {
-    std::int32_t score = 0;
-    for (std::size_t i = 0; i < typed.m_words.size(); ++i) {
-        const std::string& word = typed.m_words[i];
-        const std::string& whole = candidate.m_words[i];
-        if (!isPrefix(word, whole)) {
-            return 0;
+struct NameScore {
+    bool sameWordCount;
+    // 0 when some word does not fit, or `typed` has more words.
+    std::int32_t score;
+};
+
+// Sorts out most names of a table at once. No word of a typed name is longer than the candidate's.
+bool mayFit(std::string_view typed, std::string_view candidate) {
+    return typed.size() <= candidate.size() &&
+           (typed.empty() || typed.front() == candidate.front() || typed.front() == '-');
+}
+
+NameScore scoreName(std::string_view typedName, std::string_view candidateName) {
+    WordCursor typed(typedName);
+    WordCursor candidate(candidateName);
+    NameScore result = {false, 0};
+    while (!typed.atEnd()) {
+        const std::int32_t points = candidate.atEnd() ? 0 : scoreWord(typed.next(), candidate.next());
+        if (points == 0) {
+            return {false, 0};
         }
-        score += word.size() == whole.size() ? 2 : 1;
+        result.score += points;
     }
-    return score;
+    result.sameWordCount = candidate.atEnd();
+    return result;
+}
+
+std::string negate(const std::string& name) {
+    return std::string(negation) + "-" + name;
 }
 
 std::string quotedNames(const std::vector<AbbreviationParser::NameMatch>& matches) {
@@ -69,12 +115,8 @@ int AbbreviationParser::recognize(std::vector<std::string>& args, std::vector<Op
     std::string value;
     splitOptionValue(argument, &name, &value);
 
-    std::vector<DecomposedName> candidates;
-    makeOptionNamesList(options, candidates);
-    std::vector<NameMatch> matches;
-    makeNameMatch(matches, DecomposedName(name), candidates);
-    DecomposedName best{std::string()};
-    const int outcome = findBest(matches, best, err);
+    keepBest(name, options);
+    const int outcome = findOutcome(err);
     if (outcome == 1) {
         return 1;
     }
@@ -82,7 +124,7 @@ int AbbreviationParser::recognize(std::vector<std::string>& args, std::vector<Op
         log(": failed to get best match for '", name, "' in argument '", argument, "':", err);
         return 0;
     }
-    const std::string bestName = best.getName();
+    const std::string bestName = m_matches.front().m_candidate.getName();
     log(": best match option for '", name, "' in argument '", argument, "' is '", bestName, "'");
     unsigned long index = 0;
     if (findOption(bestName, index, options) != 0) {
@@ -98,23 +140,49 @@ void AbbreviationParser::makeOptionNamesList(std::vector<OptionDescription>& opt
         for (const std::string& name : option.m_names) {
             names.emplace_back(name);
             if (option.m_type == vtBool) {
-                names.emplace_back("no-" + name);
+                names.emplace_back(negate(name));
             }
         }
     }
 }
 
+// What makeOptionNamesList, makeNameMatch and findBest do one after the other, in one pass over the
+// table: only the names that are kept are taken apart.
+void AbbreviationParser::keepBest(std::string_view typed, const std::vector<OptionDescription>& options) {
+    WordCursor cursor(typed);
+    const std::int32_t negationScore = scoreWord(cursor.next(), negation);
+    const bool mayBeNegated = negationScore != 0 && !cursor.atEnd();
+    const std::string_view behindNegation = cursor.rest();
+    for (const OptionDescription& option : options) {
+        for (const std::string& name : option.m_names) {
+            if (mayFit(typed, name)) {
+                const NameScore found = scoreName(typed, name);
+                keepIfBest(found.sameWordCount, found.score, name, false);
+            }
+            if (mayBeNegated && option.m_type == vtBool && mayFit(behindNegation, name)) {
+                const NameScore found = scoreName(behindNegation, name);
+                const std::int32_t score = found.score != 0 ? found.score + negationScore : 0;
+                keepIfBest(found.sameWordCount, score, name, true);
+            }
+        }
+    }
+}
+
+void AbbreviationParser::keepIfBest(bool sameWordCount, std::int32_t score, const std::string& name,
+                                    bool negated) {
+    if (isBest(sameWordCount, score)) {
+        m_matches.push_back({true, score, DecomposedName(negated ? negate(name) : name)});
+    }
+}
+
 void AbbreviationParser::makeNameMatch(std::vector<NameMatch>& matches, const DecomposedName& typed,
                                        const std::vector<DecomposedName>& candidates) {
-    const std::size_t typedCount = typed.m_words.size();
+    const std::string typedName = typed.getName();
     for (const DecomposedName& candidate : candidates) {
-        const std::size_t count = candidate.m_words.size();
-        if (typedCount > count) {
-            continue;
-        }
-        const std::int32_t score = scoreOf(typed, candidate);
-        if (score != 0) {
-            matches.push_back({typedCount == count, score, candidate});
+        const std::string name = candidate.getName();
+        const NameScore found = scoreName(typedName, name);
+        if (found.score != 0) {
+            matches.push_back({found.sameWordCount, found.score, candidate});
         }
     }
 }
@@ -122,26 +190,36 @@ void AbbreviationParser::makeNameMatch(std::vector<NameMatch>& matches, const De
 int AbbreviationParser::findBest(const std::vector<NameMatch>& matches, DecomposedName& best,
                                  std::string& err) {
     m_matches.clear();
-    std::int32_t bestScore = 0;
     for (const NameMatch& match : matches) {
-        if (!match.m_sameWordCount || match.m_score < bestScore) {
-            continue;
+        if (isBest(match.m_sameWordCount, match.m_score)) {
+            m_matches.push_back(match);
         }
-        if (match.m_score > bestScore) {
-            m_matches.clear();
-            bestScore = match.m_score;
-        }
-        m_matches.push_back(match);
     }
-    if (m_matches.empty()) {
-        return 1;
+    const int outcome = findOutcome(err);
+    if (outcome == 0) {
+        best = m_matches.front().m_candidate;
     }
+    return outcome;
+}
+
+// Whether a match is to be kept; drops those that it beats.
+bool AbbreviationParser::isBest(bool sameWordCount, std::int32_t score) {
+    const std::int32_t bestScore = m_matches.empty() ? 0 : m_matches.front().m_score;
+    if (!sameWordCount || score < bestScore || score == 0) {
+        return false;
+    }
+    if (score > bestScore) {
+        m_matches.clear();
+    }
+    return true;
+}
+
+int AbbreviationParser::findOutcome(std::string& err) const {
     if (m_matches.size() > 1) {
         err = messages::possibleOptions(quotedNames(m_matches));
         return 2;
     }
-    best = m_matches.front().m_candidate;
-    return 0;
+    return m_matches.empty() ? 1 : 0;
 }
 
 int AbbreviationParser::parse(std::vector<std::string>& args, IResultCollector* collector,

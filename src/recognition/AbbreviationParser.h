@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <string_view>
 
 #include "recognition/DecomposedName.h"
 #include "recognition/IArgumentParser.h"
@@ -52,6 +53,10 @@ public:
     int findBest(const std::vector<NameMatch>& matches, DecomposedName& best, std::string& err);
 
 private:
+    void keepBest(std::string_view typed, const std::vector<OptionDescription>& options);
+    void keepIfBest(bool sameWordCount, std::int32_t score, const std::string& name, bool negated);
+    bool isBest(bool sameWordCount, std::int32_t score);
+    int findOutcome(std::string& err) const;
     int fail(std::string& err, std::string message) const;
     int findValue(const OptionDescription& option, std::vector<std::string>& args, std::string& value,
                   std::size_t& consumed, std::string& err);

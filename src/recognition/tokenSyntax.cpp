@@ -1,5 +1,6 @@
 #include "recognition/tokenSyntax.h"
 
+#include <algorithm>
 #include <array>
 #include <locale>
 
@@ -35,17 +36,6 @@ std::array<ustring8, dashes.size()> makeDashTexts() {
     return texts;
 }
 
-bool isSpace(char character) {
-    return std::isspace(character, std::locale());
-}
-
-std::size_t skipSpace(const std::string& text, std::size_t pos) {
-    while (pos < text.size() && isSpace(text[pos])) {
-        ++pos;
-    }
-    return pos;
-}
-
 } // namespace
 
 unsigned long getDashLength(const std::string& text, unsigned long pos) {
@@ -60,21 +50,19 @@ unsigned long getDashLength(const std::string& text, unsigned long pos) {
 
 bool splitOptionValue(const std::string& arg, std::string* name, std::string* value) {
     const std::size_t firstDash = getDashLength(arg, 0);
-    const std::size_t start = firstDash + getDashLength(arg, firstDash);
-    for (std::size_t pos = start; pos < arg.size(); ++pos) {
-        if (arg[pos] == '=') {
-            name->assign(arg, start, pos - start);
-            value->assign(arg, pos + 1, std::string::npos);
-            return true;
-        }
-        if (isSpace(arg[pos])) {
-            name->assign(arg, start, pos - start);
-            value->assign(arg, skipSpace(arg, pos), std::string::npos);
-            return true;
-        }
+    const char* const start = arg.data() + firstDash + getDashLength(arg, firstDash);
+    const char* const end = arg.data() + arg.size();
+    const char* const equalsSign = std::find(start, end, '=');
+    const std::locale locale;
+    const auto& classifier = std::use_facet<std::ctype<char>>(locale);
+    const char* const space = classifier.scan_is(std::ctype_base::space, start, equalsSign);
+    name->assign(start, space);
+    if (space != equalsSign) {
+        value->assign(classifier.scan_not(std::ctype_base::space, space, end), end);
+    } else if (equalsSign != end) {
+        value->assign(equalsSign + 1, end);
     }
-    name->assign(arg, start, std::string::npos);
-    return false;
+    return space != end;
 }
 
 } // namespace tarv_3_3
