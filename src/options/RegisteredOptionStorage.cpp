@@ -15,13 +15,8 @@ const char* orEmpty(const char* text) {
     return text != nullptr ? text : "";
 }
 
-Topic parseTopic(const std::string& text) {
-    const std::size_t colon = text.find(':');
-    if (colon == std::string::npos) {
-        return {text, std::string()};
-    }
-    return {text.substr(0, colon), text.substr(colon + 1)};
-}
+// Most programs declare a few dozen options: their table is not to move over and over.
+constexpr std::size_t expectedOptions = 32;
 
 } // namespace
 
@@ -31,7 +26,7 @@ RegisteredOptionStorage::~RegisteredOptionStorage() = default;
 
 IOption& RegisteredOptionStorage::option(const char* names, const char* tags, const char* description,
                                          bool isAction, das_variant_type_t type, const char* topic) {
-    Topic registeredTopic = registerTopic(orEmpty(topic));
+    const Topic& registeredTopic = registerTopic(orEmpty(topic));
     m_invalidOption.m_status = declarationInProgress;
     if (names == nullptr) {
         return refuse();
@@ -49,7 +44,7 @@ IOption& RegisteredOptionStorage::option(const char* names, const char* tags, co
 
     OptionDescription record;
     record.m_names = std::move(nameList);
-    record.m_topic = std::move(registeredTopic);
+    record.m_topic = registeredTopic;
     record.m_description = orEmpty(description);
     record.m_kind = isAction ? Action : Option;
     record.m_type = type;
@@ -59,6 +54,9 @@ IOption& RegisteredOptionStorage::option(const char* names, const char* tags, co
         record.tag(names);
     }
     record.tokenize(m_defaultTokenizer);
+    if (m_options.empty()) {
+        m_options.reserve(expectedOptions);
+    }
     m_options.push_back(std::move(record));
     m_options.back().m_status = declarationStored;
     return m_options.back();
@@ -74,15 +72,15 @@ IOption& RegisteredOptionStorage::modifier(const char* names, const char* tags, 
     return option(names, tags, description, false, type, topic);
 }
 
-Topic RegisteredOptionStorage::registerTopic(const char* topic) {
-    Topic wanted = parseTopic(topic);
+const Topic& RegisteredOptionStorage::registerTopic(std::string_view topic) {
+    const std::string_view name = topic.substr(0, topic.find(':'));
     const auto known = std::find_if(m_topics.begin(), m_topics.end(),
-                                    [&](const Topic& other) { return other.first == wanted.first; });
+                                    [&](const Topic& other) { return other.first == name; });
     if (known != m_topics.end()) {
         return *known;
     }
-    m_topics.push_back(wanted);
-    return wanted;
+    const std::string_view title = name.size() < topic.size() ? topic.substr(name.size() + 1) : "";
+    return m_topics.emplace_back(name, title);
 }
 
 IOption& RegisteredOptionStorage::refuse() {

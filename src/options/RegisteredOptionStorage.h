@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "options/OptionDescription.h"
@@ -46,7 +47,7 @@ public:
     OptionDescription m_invalidOption;
 
 private:
-    Topic registerTopic(const char* topic);
+    const Topic& registerTopic(std::string_view topic);
     IOption& refuse();
 };
 

@@ -1,6 +1,7 @@
 #include "options/findOption.h"
 
 #include <algorithm>
+#include <cstring>
 #include <string_view>
 
 #include "options/OptionDescription.h"
@@ -12,23 +13,43 @@ namespace {
 constexpr std::string_view negation = "no-";
 
 bool contains(const std::vector<std::string>& names, std::string_view wanted) {
-    return std::find(names.begin(), names.end(), wanted) != names.end();
+    for (const std::string& name : names) {
+        if (name.size() == wanted.size() && std::memcmp(name.data(), wanted.data(), wanted.size()) == 0) {
+            return true;
+        }
+    }
+    return false;
+}
+
+unsigned long placeOfName(std::string_view name, const std::vector<OptionDescription>& options) {
+    unsigned long place = 0;
+    while (place < options.size() && !contains(options[place].m_names, name)) {
+        ++place;
+    }
+    return place;
+}
+
+unsigned long placeOfSwitch(std::string_view name, const std::vector<OptionDescription>& options) {
+    unsigned long place = 0;
+    while (place < options.size() &&
+           !(options[place].m_type == vtBool && contains(options[place].m_names, name))) {
+        ++place;
+    }
+    return place;
 }
 
 } // namespace
 
 int findOption(const std::string& name, unsigned long& index, const std::vector<OptionDescription>& options) {
-    const std::string_view wanted = name;
-    const bool mayBeNegated = wanted.substr(0, negation.size()) == negation;
-    const std::string_view behindNegation = mayBeNegated ? wanted.substr(negation.size()) : wanted;
-    for (const OptionDescription& option : options) {
-        const bool isNegated = mayBeNegated && option.m_type == vtBool;
-        if (contains(option.m_names, wanted) || (isNegated && contains(option.m_names, behindNegation))) {
-            index = static_cast<unsigned long>(&option - options.data());
-            return 0;
-        }
+    unsigned long place = placeOfName(name, options);
+    if (name.compare(0, negation.size(), negation) == 0) {
+        place = std::min(place, placeOfSwitch(std::string_view(name).substr(negation.size()), options));
     }
-    return 1;
+    if (place == options.size()) {
+        return 1;
+    }
+    index = place;
+    return 0;
 }
 
 int findOption(const std::vector<std::string>& names, unsigned long& index,

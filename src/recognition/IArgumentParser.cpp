@@ -1,5 +1,7 @@
 #include "recognition/IArgumentParser.h"
 
+#include <cstddef>
+#include <memory_resource>
 #include <utility>
 
 #include "options/OptionDescription.h"
@@ -30,7 +32,10 @@ int IArgumentParser::getNewPositionIndex() {
 int IArgumentParser::parseValueAndAddOption(std::string& value, std::string& err,
                                             const OptionDescription& option, std::vector<std::string>& args,
                                             IResultCollector* collector) {
-    OptionData data;
+    // Enough for an occurrence with one value; a list takes more from the heap.
+    std::byte buffer[256];
+    std::pmr::monotonic_buffer_resource arena(buffer, sizeof buffer);
+    OptionData data(&arena);
     data.positions.push_back(getNewPositionIndex());
     if (!value.empty()) {
         log(": adding values to result container:");

@@ -10,6 +10,7 @@
 #include "tarv_3_3/export.h"
 #include "tarv_3_3/internal/Garbage.h"
 #include "tarv_3_3/internal/IResultCollector.h"
+#include "tarv_3_3/internal/InArena.h"
 #include "tarv_3_3/internal/OptionData.h"
 
 namespace tarv_3_3 {
@@ -23,7 +24,7 @@ class OptionDescription;
 /// go on iterating after one.
 class TARV_API ParseResult : public IParseResult, public IResultCollector {
 public:
-    using Entries = std::map<std::string, OptionData>;
+    using Entries = std::pmr::map<std::string, OptionData>;
 
     ParseResult();
     ~ParseResult() override;
@@ -66,7 +67,7 @@ private:
     static bool isDefaulted(const OptionData& data);
     char* keep(const std::string& text);
 
-    Entries m_options;
+    internal::InArena<Entries> m_options;
     /// Places in the lists of the current entry.
     std::size_t m_valuesCursor = 0;
     std::size_t m_positionsCursor = 0;

@@ -19,8 +19,7 @@ void append(OptionData& entry, const OptionData& data) {
 } // namespace
 
 int ParseResult::store(const OptionDescription& option, const OptionData& data) {
-    // Asked once, before the first name gets its entry.
-    const bool isFirst = m_options.find(option.m_names.at(0)) == m_options.end();
+    const bool isFirst = m_options.try_emplace(option.m_names.at(0)).second;
     for (const std::string& name : option.m_names) {
         if (isFirst) {
             m_options[name] = data;

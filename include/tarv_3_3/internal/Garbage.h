@@ -5,6 +5,7 @@
 #include <string>
 
 #include "tarv_3_3/export.h"
+#include "tarv_3_3/internal/InArena.h"
 
 namespace tarv_3_3 {
 
@@ -22,7 +23,7 @@ public:
     virtual const char* init(const char* text);
 
 private:
-    std::set<std::string, std::less<>> m_strings;
+    internal::InArena<std::pmr::set<std::pmr::string, std::less<>>> m_strings;
 };
 
 } // namespace tarv_3_3

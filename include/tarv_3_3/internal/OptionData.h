@@ -1,5 +1,6 @@
 #pragma once
 
+#include <memory_resource>
 #include <string>
 #include <vector>
 
@@ -15,12 +16,18 @@ struct OptionValue {
     int position;
 };
 
-/// What a result knows about one option name.
+/// What a result knows about one option name. Its lists take their memory from the allocator that
+/// the object is made with.
 struct OptionData {
+    using allocator_type = std::pmr::polymorphic_allocator<char>;
+
+    OptionData() = default;
+    explicit OptionData(const allocator_type& allocator) : positions(allocator), values(allocator) {}
+
     /// The position index of each occurrence, in the order stored.
-    std::vector<int> positions;
+    std::pmr::vector<int> positions;
     /// The values of all occurrences, in the order stored.
-    std::vector<OptionValue> values;
+    std::pmr::vector<OptionValue> values;
     /// The default as text; empty when there is none.
     std::string defaultText;
     variant_t defaultValue;
