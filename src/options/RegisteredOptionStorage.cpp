@@ -54,9 +54,7 @@ IOption& RegisteredOptionStorage::option(const char* names, const char* tags, co
         record.tag(names);
     }
     record.tokenize(m_defaultTokenizer);
-    if (m_options.empty()) {
-        m_options.reserve(expectedOptions);
-    }
+    makeRoom();
     m_options.push_back(std::move(record));
     m_options.back().m_status = declarationStored;
     return m_options.back();
@@ -81,6 +79,34 @@ const Topic& RegisteredOptionStorage::registerTopic(std::string_view topic) {
     }
     const std::string_view title = name.size() < topic.size() ? topic.substr(name.size() + 1) : "";
     return m_topics.emplace_back(name, title);
+}
+
+void RegisteredOptionStorage::makeRoom() {
+    if (m_options.size() < m_options.capacity()) {
+        return;
+    }
+    const std::size_t room = std::max(expectedOptions, 2 * m_options.capacity());
+    if (m_pins == 0) {
+        m_options.reserve(room);
+        return;
+    }
+    std::vector<OptionDescription> larger;
+    larger.reserve(room);
+    larger.assign(m_options.begin(), m_options.end());
+    m_outgrown.emplace_back();
+    m_outgrown.back().swap(m_options);
+    m_options.swap(larger);
+}
+
+RegisteredOptionStorage::Pin::Pin(RegisteredOptionStorage& storage) : m_storage(storage) {
+    ++m_storage.m_pins;
+}
+
+RegisteredOptionStorage::Pin::~Pin() {
+    --m_storage.m_pins;
+    if (m_storage.m_pins == 0) {
+        m_storage.m_outgrown.clear();
+    }
 }
 
 IOption& RegisteredOptionStorage::refuse() {

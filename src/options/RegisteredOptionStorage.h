@@ -14,7 +14,8 @@ class Garbage;
 
 /// Everything that was declared on one parser, in declaration order, and the help topics in order
 /// of first use. Declarations are only ever added, so a record's place in `m_options` identifies it
-/// for the life of the parser; a reference to a record is good until the next declaration.
+/// for the life of the parser; a reference to a record is good until the next declaration, or, while
+/// the table is pinned, until it is released.
 class TARV_API RegisteredOptionStorage {
 public:
     RegisteredOptionStorage();
@@ -37,6 +38,19 @@ public:
     virtual IOption& modifier(const char* names, const char* tags, const char* description,
                               das_variant_type_t type, const char* topic);
 
+    /// Keeps the records where they are while somebody works on them: a parse, whose handlers may
+    /// declare options. Pins nest.
+    class Pin {
+    public:
+        explicit Pin(RegisteredOptionStorage& storage);
+        Pin(const Pin&) = delete;
+        Pin& operator=(const Pin&) = delete;
+        ~Pin();
+
+    private:
+        RegisteredOptionStorage& m_storage;
+    };
+
     /// The list separator of new declarations.
     char m_defaultTokenizer = ',';
     std::vector<OptionDescription> m_options;
@@ -47,8 +61,13 @@ public:
     OptionDescription m_invalidOption;
 
 private:
+    void makeRoom();
     const Topic& registerTopic(std::string_view topic);
     IOption& refuse();
+
+    int m_pins = 0;
+    /// Tables that a larger one has replaced while they were pinned.
+    std::vector<std::vector<OptionDescription>> m_outgrown;
 };
 
 /// Whether a declaration may have these names: 0 yes, 1 no. At most three, a third one at most two

@@ -5,6 +5,7 @@
 #include "parser/BasicParser.h"
 #include "parser/messages.h"
 #include "recognition/AbbreviationParser.h"
+#include "recognition/ArgumentWindow.h"
 #include "recognition/PositionalOptionsParser.h"
 #include "result/ParseResult.h"
 #include "tarv_3_3/internal/log.h"
@@ -96,18 +97,23 @@ int BasicParser::parseUpToMarker(const std::string& endMarker, std::vector<std::
 int BasicParser::parse_phase_one(const std::string& endMarker, std::vector<std::string>& arguments,
                                  IParseResult* result, std::string& error) {
     switchLog(arguments);
+    const RegisteredOptionStorage::Pin pin(m_registry);
     const auto flags = static_cast<unsigned int>(m_flags);
     PositionalOptionsParser positional(this, &m_garbage, flags);
     AbbreviationParser abbreviation(this, &m_garbage, flags);
     IArgumentParser* const recognizers[] = {&positional, &abbreviation};
     IResultCollector* const collector = static_cast<ParseResult*>(result);
     std::vector<OptionDescription>& options = m_registry.m_options;
-    while (!arguments.empty() && arguments.front() != endMarker) {
-        IArgumentParser* const recognizer = chooseRecognizer(recognizers, arguments, options);
+    ArgumentWindow window(arguments);
+    while (window.fill() && window.arguments().front() != endMarker) {
+        IArgumentParser* const recognizer = chooseRecognizer(recognizers, window.arguments(), options);
+        if (recognizer == &positional && (m_flags & flagPositionalTakesRest) != 0) {
+            window.fillWithRest();
+        }
         unsigned long index = 0;
         const int status = recognizer != nullptr
-                               ? recognizer->parse(arguments, collector, options, index, error)
-                               : dropUnknown(arguments, error);
+                               ? recognizer->parse(window.arguments(), collector, options, index, error)
+                               : dropUnknown(window.arguments(), error);
         if (status != parseOk) {
             return status;
         }
@@ -152,6 +158,7 @@ int BasicParser::collectNonparsingArguments(std::string endMarker, std::vector<s
 
 // Behind the marker an argument may begin with a dash and still be positional.
 int BasicParser::parseAsPositional(const std::string& argument, ParseResult* result, std::string& error) {
+    const RegisteredOptionStorage::Pin pin(m_registry);
     PositionalOptionsParser recognizer(this, &m_garbage,
                                        static_cast<unsigned int>(m_flags & ~flagDashIsNotPositional));
     std::vector<std::string> arguments(1, argument);

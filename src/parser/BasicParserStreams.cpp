@@ -1,11 +1,11 @@
 #include <exception>
-#include <locale>
 #include <new>
 #include <string_view>
 
 #include "parser/BasicParser.h"
 #include "parser/messages.h"
 #include "platform/load_file.h"
+#include "recognition/SpaceClassifier.h"
 
 namespace tarv_3_3 {
 
@@ -15,9 +15,9 @@ namespace {
 
 constexpr char optionFileName[] = "option-file";
 
-std::string_view withoutLeadingSpace(std::string_view line, const std::locale& locale) {
+std::string_view withoutLeadingSpace(std::string_view line, const SpaceClassifier& classifier) {
     std::size_t start = 0;
-    while (start < line.size() && std::isspace(line[start], locale)) {
+    while (start < line.size() && classifier.isSpace(line[start])) {
         ++start;
     }
     return line.substr(start);
@@ -58,11 +58,11 @@ void BasicParser::parseStreamToArgs(const char* text, std::vector<std::string>& 
     if (rest == "-1") {
         rest = "?";
     }
-    const std::locale locale;
+    const SpaceClassifier classifier;
     while (!rest.empty()) {
         const std::string_view line = rest.substr(0, rest.find('\n'));
         rest.remove_prefix(line.size() < rest.size() ? line.size() + 1 : line.size());
-        const std::string_view content = withoutLeadingSpace(line, locale);
+        const std::string_view content = withoutLeadingSpace(line, classifier);
         const std::string_view argument = withoutLineEnd(content);
         if (!isComment(content) && !argument.empty()) {
             arguments.emplace_back(argument);

@@ -53,11 +53,21 @@ struct NameScore {
     std::int32_t score;
 };
 
-// Sorts out most names of a table at once. No word of a typed name is longer than the candidate's.
-bool mayFit(std::string_view typed, std::string_view candidate) {
-    return typed.size() <= candidate.size() &&
-           (typed.empty() || typed.front() == candidate.front() || typed.front() == '-');
-}
+// Sorts out most names of a table at once: no word of a typed name is longer than the candidate's,
+// and the first ones begin alike.
+class QuickFilter {
+public:
+    explicit QuickFilter(std::string_view typed)
+        : m_size(typed.size()), m_first(typed.empty() ? '-' : typed.front()) {}
+
+    bool mayFit(const std::string& candidate) const {
+        return candidate.size() >= m_size && (m_first == '-' || candidate.front() == m_first);
+    }
+
+private:
+    std::size_t m_size;
+    char m_first;
+};
 
 NameScore scoreName(std::string_view typedName, std::string_view candidateName) {
     WordCursor typed(typedName);
@@ -108,26 +118,23 @@ int AbbreviationParser::recognize(std::vector<std::string>& args, std::vector<Op
     log(": recognizing argument '", argument, "'");
     m_optionIndex = -1;
     m_matches.clear();
-    if (argument.size() < 2 || getDashLength(argument, 0) == 0) {
+    const Token token = splitToken(argument, m_classifier);
+    if (argument.size() < 2 || token.dashes == 0) {
         return 1;
     }
-    std::string name;
-    std::string value;
-    splitOptionValue(argument, &name, &value);
-
-    keepBest(name, options);
+    keepBest(token.name, options);
     const int outcome = findOutcome(err);
     if (outcome == 1) {
         return 1;
     }
     if (outcome == 2) {
-        log(": failed to get best match for '", name, "' in argument '", argument, "':", err);
+        log(": failed to get best match for '", token.name, "' in argument '", argument, "':", err);
         return 0;
     }
-    const std::string bestName = m_matches.front().m_candidate.getName();
-    log(": best match option for '", name, "' in argument '", argument, "' is '", bestName, "'");
+    const DecomposedName& best = m_matches.front().m_candidate;
+    log(": best match option for '", token.name, "' in argument '", argument, "' is '", best, "'");
     unsigned long index = 0;
-    if (findOption(bestName, index, options) != 0) {
+    if (findOption(best.getName(), index, options) != 0) {
         return 1;
     }
     m_optionIndex = static_cast<std::int64_t>(index);
@@ -153,13 +160,15 @@ void AbbreviationParser::keepBest(std::string_view typed, const std::vector<Opti
     const std::int32_t negationScore = scoreWord(cursor.next(), negation);
     const bool mayBeNegated = negationScore != 0 && !cursor.atEnd();
     const std::string_view behindNegation = cursor.rest();
+    const QuickFilter plainFilter(typed);
+    const QuickFilter negatedFilter(behindNegation);
     for (const OptionDescription& option : options) {
         for (const std::string& name : option.m_names) {
-            if (mayFit(typed, name)) {
+            if (plainFilter.mayFit(name)) {
                 const NameScore found = scoreName(typed, name);
                 keepIfBest(found.sameWordCount, found.score, name, false);
             }
-            if (mayBeNegated && option.m_type == vtBool && mayFit(behindNegation, name)) {
+            if (mayBeNegated && option.m_type == vtBool && negatedFilter.mayFit(name)) {
                 const NameScore found = scoreName(behindNegation, name);
                 const std::int32_t score = found.score != 0 ? found.score + negationScore : 0;
                 keepIfBest(found.sameWordCount, score, name, true);
@@ -227,20 +236,19 @@ int AbbreviationParser::parse(std::vector<std::string>& args, IResultCollector* 
                               std::string& err) {
     index = static_cast<unsigned long>(m_optionIndex);
     log(": parsing argument '", args.at(0), "'");
-    std::string name;
-    std::string value;
-    const bool valueGiven = splitOptionValue(args[0], &name, &value);
-    if (name.empty() || name.front() == '-') {
+    const Token token = splitToken(args[0], m_classifier);
+    if (token.name.empty() || token.name.front() == '-') {
         return fail(err, messages::unknownOption(args[0]));
     }
     if (m_matches.size() > 1) {
         return fail(err,
-                    messages::ambiguousOption(name, formatTokenMessage(args[0]), quotedNames(m_matches)));
+                    messages::ambiguousOption(std::string(token.name), formatTokenMessage(args[0]),
+                                              quotedNames(m_matches)));
     }
-    // A handler may declare options while it is told, which moves the table: work on a copy.
-    const OptionDescription option = options.at(index);
+    const OptionDescription& option = options.at(index);
+    std::string value(token.value);
     log(": detected option: '", option.primaryName(), "'");
-    if (valueGiven) {
+    if (token.hasValue) {
         log(": value from the same argument taken: '", value, "'");
     }
     std::size_t consumed = 1;
@@ -272,8 +280,8 @@ int AbbreviationParser::findValue(const OptionDescription& option, std::vector<s
         if (!value.empty()) {
             return fail(err, messages::isBoolean(option.primaryName(), formatTokenMessage(args[0])));
         }
-        const bool negated = m_matches.front().m_candidate.getName().compare(0, 3, "no-") == 0;
-        value = negated ? "0" : "1";
+        const std::vector<std::string>& words = m_matches.front().m_candidate.m_words;
+        value = words.size() > 1 && words.front() == negation ? "0" : "1";
         return parseOk;
     }
     return value.empty() ? takeNextArgument(option, args, value, consumed, err) : static_cast<int>(parseOk);

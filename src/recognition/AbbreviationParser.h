@@ -5,6 +5,7 @@
 
 #include "recognition/DecomposedName.h"
 #include "recognition/IArgumentParser.h"
+#include "recognition/SpaceClassifier.h"
 
 namespace tarv_3_3 {
 
@@ -67,6 +68,7 @@ private:
     std::int64_t m_optionIndex = -1;
     /// The best matches of the last `recognize`, in the order of the candidates.
     std::vector<NameMatch> m_matches;
+    SpaceClassifier m_classifier;
 };
 
 } // namespace tarv_3_3

@@ -1,6 +1,7 @@
 #include "recognition/DecomposedName.h"
 
 #include <algorithm>
+#include <ostream>
 
 namespace tarv_3_3 {
 
@@ -26,6 +27,10 @@ std::string DecomposedName::getName() const {
         name.append("-").append(m_words[i]);
     }
     return name;
+}
+
+std::ostream& operator<<(std::ostream& stream, const DecomposedName& name) {
+    return stream << name.getName();
 }
 
 } // namespace tarv_3_3

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <iosfwd>
 #include <string>
 #include <vector>
 
@@ -23,5 +24,8 @@ public:
 
     std::vector<std::string> m_words;
 };
+
+/// Writes `getName()`.
+std::ostream& operator<<(std::ostream& stream, const DecomposedName& name);
 
 } // namespace tarv_3_3

@@ -93,9 +93,9 @@ int IArgumentParser::bindPiece(std::string& piece, const std::string& value, std
         return parseFailed;
     }
     const int position = getNewPositionIndex();
-    const std::string& name = option.primaryName();
-    if (!m_handler->onValueParse(name.c_str(), Value(piece.c_str(), converted, position))) {
-        err = messages::vetoedValue(value, name, argument);
+    const Value shown(piece.c_str(), converted, position);
+    if (!m_handler->onValueParse(option.primaryName().c_str(), shown)) {
+        err = messages::vetoedValue(value, option.primaryName(), argument);
         log(err, " One of the handler signaled the value is not valid.");
         return parseVetoed;
     }

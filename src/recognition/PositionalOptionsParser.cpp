@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "options/OptionDescription.h"
+#include "recognition/ArgumentWindow.h"
 #include "tarv_3_3/EventHandler.h"
 #include "tarv_3_3/IParser.h"
 
@@ -38,21 +39,31 @@ int PositionalOptionsParser::parse(std::vector<std::string>& args, IResultCollec
                                    std::string& err) {
     log(": parsing argument '", args.at(0), "'");
     index = static_cast<unsigned long>(findPositional(options) - options.begin());
-    // A handler may declare options while it is told, which moves the table: work on a copy.
-    const OptionDescription option = options.at(index);
+    const OptionDescription& option = options.at(index);
     // The trace and the event name the first declaration, whichever option takes the argument.
     log(": option is '", options.front().primaryName(), "'");
-    do {
-        std::string value = args[0];
-        m_handler->onOptionParse(options.front().primaryName().c_str());
-        const int status = parseValueAndAddOption(value, err, option, args, collector);
-        if (status != parseOk) {
-            return status;
-        }
+    if ((m_flags & flagPositionalTakesRest) == 0) {
+        return bindFront(args, collector, options, option, err);
+    }
+    ArgumentWindow window(args);
+    int status = parseOk;
+    while (status == parseOk && window.fill()) {
+        status = bindFront(window.arguments(), collector, options, option, err);
+    }
+    return status;
+}
+
+int PositionalOptionsParser::bindFront(std::vector<std::string>& args, IResultCollector* collector,
+                                       const std::vector<OptionDescription>& options,
+                                       const OptionDescription& option, std::string& err) {
+    std::string value = args[0];
+    m_handler->onOptionParse(options.front().primaryName().c_str());
+    const int status = parseValueAndAddOption(value, err, option, args, collector);
+    if (status == parseOk) {
         log(": removing argument: '", args[0], "'");
         args.erase(args.begin());
-    } while (!args.empty() && (m_flags & flagPositionalTakesRest) != 0);
-    return parseOk;
+    }
+    return status;
 }
 
 int PositionalOptionsParser::getPriority() {

@@ -21,6 +21,11 @@ public:
               std::vector<OptionDescription>& options, unsigned long& index, std::string& err) override;
 
     int getPriority() override;
+
+private:
+    int bindFront(std::vector<std::string>& args, IResultCollector* collector,
+                  const std::vector<OptionDescription>& options, const OptionDescription& option,
+                  std::string& err);
 };
 
 } // namespace tarv_3_3

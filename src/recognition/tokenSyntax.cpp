@@ -2,9 +2,9 @@
 
 #include <algorithm>
 #include <array>
-#include <locale>
 
 #include "platform/utf32_to_utf8.h"
+#include "recognition/SpaceClassifier.h"
 
 namespace tarv_3_3 {
 
@@ -36,33 +36,50 @@ std::array<ustring8, dashes.size()> makeDashTexts() {
     return texts;
 }
 
-} // namespace
-
-unsigned long getDashLength(const std::string& text, unsigned long pos) {
+unsigned long dashLength(std::string_view text, std::size_t pos) {
     static const auto dashTexts = makeDashTexts();
-    for (const ustring8& dash : dashTexts) {
-        if (pos < text.size() && text.compare(pos, dash.size(), dash) == 0) {
-            return dash.size();
+    const std::string_view rest = text.substr(std::min(pos, text.size()));
+    if (!rest.empty()) {
+        for (const ustring8& dash : dashTexts) {
+            if (rest.front() == dash.front() && rest.substr(0, dash.size()) == dash) {
+                return dash.size();
+            }
         }
     }
     return 0;
 }
 
-bool splitOptionValue(const std::string& arg, std::string* name, std::string* value) {
-    const std::size_t firstDash = getDashLength(arg, 0);
-    const char* const start = arg.data() + firstDash + getDashLength(arg, firstDash);
-    const char* const end = arg.data() + arg.size();
-    const char* const equalsSign = std::find(start, end, '=');
-    const std::locale locale;
-    const auto& classifier = std::use_facet<std::ctype<char>>(locale);
-    const char* const space = classifier.scan_is(std::ctype_base::space, start, equalsSign);
-    name->assign(start, space);
-    if (space != equalsSign) {
-        value->assign(classifier.scan_not(std::ctype_base::space, space, end), end);
-    } else if (equalsSign != end) {
-        value->assign(equalsSign + 1, end);
+} // namespace
+
+unsigned long getDashLength(const std::string& text, unsigned long pos) {
+    return dashLength(text, pos);
+}
+
+Token splitToken(std::string_view arg, const SpaceClassifier& classifier) {
+    const std::size_t firstDash = dashLength(arg, 0);
+    const std::size_t start = firstDash + dashLength(arg, firstDash);
+    std::size_t end = start;
+    while (end < arg.size() && arg[end] != '=' && !classifier.isSpace(arg[end])) {
+        ++end;
     }
-    return space != end;
+    std::size_t valueStart = end;
+    if (end < arg.size() && arg[end] == '=') {
+        ++valueStart;
+    } else {
+        while (valueStart < arg.size() && classifier.isSpace(arg[valueStart])) {
+            ++valueStart;
+        }
+    }
+    return {start, arg.substr(start, end - start), arg.substr(valueStart), end < arg.size()};
+}
+
+bool splitOptionValue(const std::string& arg, std::string* name, std::string* value) {
+    const Token token = splitToken(arg, SpaceClassifier());
+    name->assign(token.name);
+    if (token.hasValue) {
+        value->assign(token.value);
+    }
+    return token.hasValue;
 }
 
 } // namespace tarv_3_3

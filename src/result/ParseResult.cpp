@@ -45,7 +45,7 @@ bool ParseResult::present(const char* name, int lo, int hi) {
     }
     variant_t value;
     int position = noPosition;
-    const int status = statusOf([&] { return get(std::string(name), nullptr, value, lo, hi, position); });
+    const int status = statusOf([&] { return startIteration(name, nullptr, value, lo, hi, position); });
     if (status == valueFound && isDefaulted(m_current->second)) {
         m_lowerBound = noPosition;
         m_upperBound = noPosition;
@@ -60,7 +60,7 @@ Value ParseResult::get(const char* name, int lo, int hi) {
     char* text = nullptr;
     variant_t value;
     int position = noPosition;
-    const int status = statusOf([&] { return get(std::string(name), &text, value, lo, hi, position); });
+    const int status = statusOf([&] { return startIteration(name, &text, value, lo, hi, position); });
     return makeValue(status, text, value, position);
 }
 
@@ -68,7 +68,7 @@ Value ParseResult::next(const char* /*name*/) {
     char* text = nullptr;
     variant_t value;
     int position = noPosition;
-    const int status = next(std::string(), &text, value, position);
+    const int status = statusOf([&] { return continueIteration(&text, value, position); });
     return makeValue(status, text, value, position);
 }
 
@@ -87,7 +87,7 @@ int ParseResult::next(const std::string& /*name*/, char** text, variant_t& value
     return statusOf([&] { return continueIteration(text, value, position); });
 }
 
-int ParseResult::startIteration(const std::string& name, char** text, variant_t& value, int lo, int hi,
+int ParseResult::startIteration(std::string_view name, char** text, variant_t& value, int lo, int hi,
                                 int& position) {
     m_lowerBound = lo;
     m_upperBound = hi;

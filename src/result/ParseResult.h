@@ -1,8 +1,10 @@
 #pragma once
 
 #include <cstddef>
+#include <functional>
 #include <map>
 #include <string>
+#include <string_view>
 #include <utility>
 #include <vector>
 
@@ -24,7 +26,7 @@ class OptionDescription;
 /// go on iterating after one.
 class TARV_API ParseResult : public IParseResult, public IResultCollector {
 public:
-    using Entries = std::pmr::map<std::string, OptionData>;
+    using Entries = std::pmr::map<std::string, OptionData, std::less<>>;
 
     ParseResult();
     ~ParseResult() override;
@@ -59,7 +61,7 @@ public:
     int getNextArgument(std::string& text);
 
 private:
-    int startIteration(const std::string& name, char** text, variant_t& value, int lo, int hi, int& position);
+    int startIteration(std::string_view name, char** text, variant_t& value, int lo, int hi, int& position);
     int continueIteration(char** text, variant_t& value, int& position);
     void yieldDefault(const OptionData& data, char** text, variant_t& value, int& position);
     int nextValue(const OptionData& data, char** text, variant_t& value, int& position);

@@ -19,10 +19,11 @@ void append(OptionData& entry, const OptionData& data) {
 } // namespace
 
 int ParseResult::store(const OptionDescription& option, const OptionData& data) {
-    const bool isFirst = m_options.try_emplace(option.m_names.at(0)).second;
+    // The first name alone decides whether this is the option's first occurrence.
+    const bool isFirst = m_options.find(option.m_names.at(0)) == m_options.end();
     for (const std::string& name : option.m_names) {
         if (isFirst) {
-            m_options[name] = data;
+            m_options.insert_or_assign(name, data);
         } else {
             append(m_options[name], data);
         }

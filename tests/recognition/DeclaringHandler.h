@@ -5,10 +5,11 @@
 #include "options/RegisteredOptionStorage.h"
 #include "tarv_3_3/EventHandler.h"
 
-/// Declares a hundred options at every event, so that the table moves while it is in use.
+/// Declares a hundred options at every event, so that the table is replaced while it is in use. Pins
+/// it as a parse does.
 class DeclaringHandler : public tarv_3_3::EventHandler {
 public:
-    explicit DeclaringHandler(tarv_3_3::RegisteredOptionStorage& registry) : m_registry(registry) {}
+    explicit DeclaringHandler(tarv_3_3::RegisteredOptionStorage& registry) : m_registry(registry), m_pin(registry) {}
 
     bool onOptionParse(const char*) override { return declare(); }
 
@@ -24,4 +25,5 @@ private:
     }
 
     tarv_3_3::RegisteredOptionStorage& m_registry;
+    tarv_3_3::RegisteredOptionStorage::Pin m_pin;
 };

@@ -23,6 +23,10 @@ struct OptionData {
 
     OptionData() = default;
     explicit OptionData(const allocator_type& allocator) : positions(allocator), values(allocator) {}
+    OptionData(const OptionData& other, const allocator_type& allocator)
+        : positions(other.positions, allocator), values(other.values, allocator),
+          defaultText(other.defaultText), defaultValue(other.defaultValue),
+          defaultPosition(other.defaultPosition) {}
 
     /// The position index of each occurrence, in the order stored.
     std::pmr::vector<int> positions;
