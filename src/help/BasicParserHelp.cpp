@@ -18,6 +18,7 @@ constexpr unsigned long descriptionColumn = 30;
 constexpr unsigned long descriptionWidth = 50;
 constexpr unsigned long titleColumn = 1;
 constexpr unsigned long titleWidth = 80;
+constexpr std::size_t usualEntrySize = 128;
 
 // Hidden help shows the hidden topic and nothing else.
 bool isShown(const std::string& topicName, bool hidden) {
@@ -59,6 +60,7 @@ std::string renderHelp(const std::vector<Topic>& topics, const std::vector<Optio
                        bool hidden) {
     const std::vector<const OptionDescription*> sorted = sortedByName(options);
     std::string text;
+    text.reserve(usualEntrySize * options.size());
     for (const Topic& topic : topics) {
         if (!isShown(topic.first, hidden)) {
             continue;

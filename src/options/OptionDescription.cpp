@@ -1,10 +1,19 @@
 #include "options/OptionDescription.h"
 
+#include <utility>
+
 #include "options/split.h"
 
 namespace tarv_3_3 {
 
 OptionDescription::OptionDescription() = default;
+
+OptionDescription::OptionDescription(std::vector<std::string> names, std::set<std::string> tags,
+                                     const Topic& topic, const char* description, OptionKind kind,
+                                     das_variant_type_t type, Garbage* garbage)
+    : m_names(std::move(names)), m_tags(std::move(tags)), m_topic(topic), m_description(description),
+      m_kind(kind), m_type(type), m_garbage(garbage) {}
+
 OptionDescription::OptionDescription(const OptionDescription&) = default;
 OptionDescription::OptionDescription(OptionDescription&&) noexcept = default;
 OptionDescription& OptionDescription::operator=(const OptionDescription&) = default;
@@ -43,12 +52,16 @@ IOption& OptionDescription::positional() {
 }
 
 IOption& OptionDescription::tag(const char* tags) {
-    if (tags != nullptr) {
-        std::vector<std::string> words;
-        split(tags, words);
-        m_tags.insert(words.begin(), words.end());
-    }
+    insertTags(m_tags, tags);
     return *this;
+}
+
+void OptionDescription::insertTags(std::set<std::string>& tags, const char* words) {
+    if (words != nullptr) {
+        std::vector<std::string> pieces;
+        split(words, pieces);
+        tags.insert(pieces.begin(), pieces.end());
+    }
 }
 
 const std::string& OptionDescription::primaryName() const {

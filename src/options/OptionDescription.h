@@ -29,6 +29,8 @@ using Topic = std::pair<std::string, std::string>;
 class TARV_API OptionDescription : public IOption {
 public:
     OptionDescription();
+    OptionDescription(std::vector<std::string> names, std::set<std::string> tags, const Topic& topic,
+                      const char* description, OptionKind kind, das_variant_type_t type, Garbage* garbage);
     OptionDescription(const OptionDescription&);
     OptionDescription(OptionDescription&&) noexcept;
     OptionDescription& operator=(const OptionDescription&);
@@ -42,6 +44,9 @@ public:
     IOption& tag(const char* tags) override;
 
     ~OptionDescription() override;
+
+    /// Adds the comma-separated `words` to `tags`; null adds none.
+    static void insertTags(std::set<std::string>& tags, const char* words);
 
     /// The first name; empty when there is none.
     const std::string& primaryName() const;

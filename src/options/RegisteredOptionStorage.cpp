@@ -18,6 +18,9 @@ const char* orEmpty(const char* text) {
 // Most programs declare a few dozen options: their table is not to move over and over.
 constexpr std::size_t expectedOptions = 32;
 
+// And give them a name, or a name and a short form.
+constexpr std::size_t usualNames = 2;
+
 } // namespace
 
 RegisteredOptionStorage::RegisteredOptionStorage() = default;
@@ -32,6 +35,7 @@ IOption& RegisteredOptionStorage::option(const char* names, const char* tags, co
         return refuse();
     }
     std::vector<std::string> nameList;
+    nameList.reserve(usualNames);
     split(names, nameList);
     if (validateName(nameList) != 0) {
         return refuse();
@@ -42,20 +46,15 @@ IOption& RegisteredOptionStorage::option(const char* names, const char* tags, co
         return refuse();
     }
 
-    OptionDescription record;
-    record.m_names = std::move(nameList);
-    record.m_topic = registeredTopic;
-    record.m_description = orEmpty(description);
-    record.m_kind = isAction ? Action : Option;
-    record.m_type = type;
-    record.m_garbage = m_garbage;
-    record.tag(tags);
+    std::set<std::string> tagWords;
+    OptionDescription::insertTags(tagWords, tags);
     if (isAction) {
-        record.tag(names);
+        OptionDescription::insertTags(tagWords, names);
     }
-    record.tokenize(m_defaultTokenizer);
     makeRoom();
-    m_options.push_back(std::move(record));
+    m_options.emplace_back(std::move(nameList), std::move(tagWords), registeredTopic, orEmpty(description),
+                           isAction ? Action : Option, type, m_garbage);
+    m_options.back().tokenize(m_defaultTokenizer);
     m_options.back().m_status = declarationStored;
     return m_options.back();
 }

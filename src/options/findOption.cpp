@@ -12,9 +12,15 @@ namespace {
 
 constexpr std::string_view negation = "no-";
 
+// Most names that are as long differ in their first byte.
+bool equal(const std::string& name, std::string_view wanted) {
+    return name.size() == wanted.size() && (wanted.empty() || name.front() == wanted.front()) &&
+           std::memcmp(name.data(), wanted.data(), wanted.size()) == 0;
+}
+
 bool contains(const std::vector<std::string>& names, std::string_view wanted) {
     for (const std::string& name : names) {
-        if (name.size() == wanted.size() && std::memcmp(name.data(), wanted.data(), wanted.size()) == 0) {
+        if (equal(name, wanted)) {
             return true;
         }
     }

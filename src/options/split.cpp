@@ -1,14 +1,11 @@
 #include "options/split.h"
 
-#include <algorithm>
 #include <vector>
 
 namespace tarv_3_3 {
 
 template <class Words>
 result_t split(std::string text, Words& pieces) {
-    const auto commas = std::count(text.begin(), text.end(), ',');
-    pieces.reserve(pieces.size() + static_cast<std::size_t>(commas) + 1);
     std::size_t start = 0;
     std::size_t comma = text.find(',');
     while (comma != std::string::npos) {

@@ -32,4 +32,9 @@ std::ostream& tarvLog() {
     return tarvLogEnabled ? MERO_2_16::strings::gh2::ucout() : holder.discarding();
 }
 
+std::ostream* workingLog() {
+    std::ostream& log = tarvLog();
+    return log ? &log : nullptr;
+}
+
 } // namespace tarv_3_3::internal

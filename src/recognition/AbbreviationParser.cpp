@@ -5,7 +5,6 @@
 #include <utility>
 
 #include "options/OptionDescription.h"
-#include "options/findOption.h"
 #include "recognition/messages.h"
 #include "recognition/tokenSyntax.h"
 #include "tarv_3_3/EventHandler.h"
@@ -18,40 +17,13 @@ namespace {
 
 constexpr std::string_view negation = "no";
 
-// Goes through the words of a name, without taking it apart.
-class WordCursor {
-public:
-    explicit WordCursor(std::string_view name) : m_name(name) {}
-
-    bool atEnd() const { return m_start > m_name.size(); }
-
-    std::string_view next() {
-        const std::size_t end = std::min(m_name.find('-', m_start), m_name.size());
-        const std::string_view word = m_name.substr(m_start, end - m_start);
-        m_start = end + 1;
-        return word;
-    }
-
-    std::string_view rest() const { return atEnd() ? std::string_view() : m_name.substr(m_start); }
-
-private:
-    std::string_view m_name;
-    std::size_t m_start = 0;
-};
-
-// 0 when `typed` is no prefix of `whole`.
-std::int32_t scoreWord(std::string_view typed, std::string_view whole) {
-    if (whole.substr(0, typed.size()) != typed) {
-        return 0;
-    }
-    return typed.size() == whole.size() ? 2 : 1;
+std::string negate(const std::string& name) {
+    return std::string(negation) + "-" + name;
 }
 
-struct NameScore {
-    bool sameWordCount;
-    // 0 when some word does not fit, or `typed` has more words.
-    std::int32_t score;
-};
+bool isPrefix(std::string_view word, std::string_view whole) {
+    return whole.substr(0, word.size()) == word;
+}
 
 // Sorts out most names of a table at once: no word of a typed name is longer than the candidate's,
 // and the first ones begin alike.
@@ -69,23 +41,27 @@ private:
     char m_first;
 };
 
-NameScore scoreName(std::string_view typedName, std::string_view candidateName) {
-    WordCursor typed(typedName);
-    WordCursor candidate(candidateName);
-    NameScore result = {false, 0};
-    while (!typed.atEnd()) {
-        const std::int32_t points = candidate.atEnd() ? 0 : scoreWord(typed.next(), candidate.next());
-        if (points == 0) {
-            return {false, 0};
+// Goes through both names at once; at the end of each typed word skips what the candidate's has more.
+AbbreviationParser::NameScore scoreName(std::string_view typed, std::string_view candidate) {
+    std::int32_t score = 0;
+    std::size_t place = 0;
+    for (std::size_t i = 0; i <= typed.size(); ++i, ++place) {
+        const bool isLastWord = i == typed.size();
+        if (!isLastWord && typed[i] != '-') {
+            if (place == candidate.size() || candidate[place] != typed[i]) {
+                return {false, 0};
+            }
+            continue;
         }
-        result.score += points;
+        const std::size_t wordEnd = std::min(candidate.find('-', place), candidate.size());
+        score += place == wordEnd ? 2 : 1;
+        place = wordEnd;
+        if (isLastWord == (wordEnd < candidate.size())) {
+            // One of the names has more words; what the candidate has more is no misfit.
+            return {false, isLastWord ? score : 0};
+        }
     }
-    result.sameWordCount = candidate.atEnd();
-    return result;
-}
-
-std::string negate(const std::string& name) {
-    return std::string(negation) + "-" + name;
+    return {true, score};
 }
 
 std::string quotedNames(const std::vector<AbbreviationParser::NameMatch>& matches) {
@@ -124,21 +100,18 @@ int AbbreviationParser::recognize(std::vector<std::string>& args, std::vector<Op
     }
     keepBest(token.name, options);
     const int outcome = findOutcome(err);
-    if (outcome == 1) {
-        return 1;
-    }
     if (outcome == 2) {
+        m_optionIndex = -1;
         log(": failed to get best match for '", token.name, "' in argument '", argument, "':", err);
         return 0;
     }
-    const DecomposedName& best = m_matches.front().m_candidate;
-    log(": best match option for '", token.name, "' in argument '", argument, "' is '", best, "'");
-    unsigned long index = 0;
-    if (findOption(best.getName(), index, options) != 0) {
-        return 1;
+    if (outcome == 0) {
+        log(": best match option for '", token.name, "' in argument '", argument, "' is '",
+            m_matches.front().m_candidate, "'");
     }
-    m_optionIndex = static_cast<std::int64_t>(index);
-    return 0;
+    // The record that gave the one best name is also the one that a lookup of that name would find:
+    // another one with the same name would have tied with it.
+    return outcome;
 }
 
 void AbbreviationParser::makeOptionNamesList(std::vector<OptionDescription>& options,
@@ -156,31 +129,28 @@ void AbbreviationParser::makeOptionNamesList(std::vector<OptionDescription>& opt
 // What makeOptionNamesList, makeNameMatch and findBest do one after the other, in one pass over the
 // table: only the names that are kept are taken apart.
 void AbbreviationParser::keepBest(std::string_view typed, const std::vector<OptionDescription>& options) {
-    WordCursor cursor(typed);
-    const std::int32_t negationScore = scoreWord(cursor.next(), negation);
-    const bool mayBeNegated = negationScore != 0 && !cursor.atEnd();
-    const std::string_view behindNegation = cursor.rest();
-    const QuickFilter plainFilter(typed);
-    const QuickFilter negatedFilter(behindNegation);
+    const std::size_t firstDash = typed.find('-');
+    const std::string_view firstWord = typed.substr(0, firstDash);
+    const bool mayBeNegated = firstDash != std::string_view::npos && isPrefix(firstWord, negation);
+    const QuickFilter filter(typed);
     for (const OptionDescription& option : options) {
         for (const std::string& name : option.m_names) {
-            if (plainFilter.mayFit(name)) {
-                const NameScore found = scoreName(typed, name);
-                keepIfBest(found.sameWordCount, found.score, name, false);
+            if (filter.mayFit(name)) {
+                keepIfBest(scoreName(typed, name), name, &option - options.data());
             }
-            if (mayBeNegated && option.m_type == vtBool && negatedFilter.mayFit(name)) {
-                const NameScore found = scoreName(behindNegation, name);
-                const std::int32_t score = found.score != 0 ? found.score + negationScore : 0;
-                keepIfBest(found.sameWordCount, score, name, true);
+            if (mayBeNegated && option.m_type == vtBool) {
+                const std::string negated = negate(name);
+                keepIfBest(scoreName(typed, negated), negated, &option - options.data());
             }
         }
     }
 }
 
-void AbbreviationParser::keepIfBest(bool sameWordCount, std::int32_t score, const std::string& name,
-                                    bool negated) {
-    if (isBest(sameWordCount, score)) {
-        m_matches.push_back({true, score, DecomposedName(negated ? negate(name) : name)});
+void AbbreviationParser::keepIfBest(const NameScore& found, const std::string& name,
+                                    std::int64_t optionIndex) {
+    if (isBest(found.sameWordCount, found.score)) {
+        m_matches.push_back({true, found.score, DecomposedName(name)});
+        m_optionIndex = optionIndex;
     }
 }
 
@@ -241,9 +211,8 @@ int AbbreviationParser::parse(std::vector<std::string>& args, IResultCollector* 
         return fail(err, messages::unknownOption(args[0]));
     }
     if (m_matches.size() > 1) {
-        return fail(err,
-                    messages::ambiguousOption(std::string(token.name), formatTokenMessage(args[0]),
-                                              quotedNames(m_matches)));
+        return fail(err, messages::ambiguousOption(std::string(token.name), formatTokenMessage(args[0]),
+                                                   quotedNames(m_matches)));
     }
     const OptionDescription& option = options.at(index);
     std::string value(token.value);

@@ -26,6 +26,13 @@ public:
         DecomposedName m_candidate;
     };
 
+    /// How well a candidate fits a typed name.
+    struct NameScore {
+        bool sameWordCount;
+        /// 0 when some word does not fit, or the typed name has more words.
+        std::int32_t score;
+    };
+
     AbbreviationParser(EventHandler* handler, Garbage* garbage, unsigned int flags);
     ~AbbreviationParser() override;
 
@@ -55,7 +62,7 @@ public:
 
 private:
     void keepBest(std::string_view typed, const std::vector<OptionDescription>& options);
-    void keepIfBest(bool sameWordCount, std::int32_t score, const std::string& name, bool negated);
+    void keepIfBest(const NameScore& found, const std::string& name, std::int64_t optionIndex);
     bool isBest(bool sameWordCount, std::int32_t score);
     int findOutcome(std::string& err) const;
     int fail(std::string& err, std::string message) const;

@@ -69,7 +69,7 @@ private:
     static bool isDefaulted(const OptionData& data);
     char* keep(const std::string& text);
 
-    internal::InArena<Entries> m_options;
+    internal::InArena<Entries, 4096> m_options;
     /// Places in the lists of the current entry.
     std::size_t m_valuesCursor = 0;
     std::size_t m_positionsCursor = 0;

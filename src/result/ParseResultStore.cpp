@@ -20,12 +20,15 @@ void append(OptionData& entry, const OptionData& data) {
 
 int ParseResult::store(const OptionDescription& option, const OptionData& data) {
     // The first name alone decides whether this is the option's first occurrence.
-    const bool isFirst = m_options.find(option.m_names.at(0)) == m_options.end();
-    for (const std::string& name : option.m_names) {
+    const auto [first, isFirst] = m_options.try_emplace(option.m_names.at(0), data);
+    if (!isFirst) {
+        append(first->second, data);
+    }
+    for (auto name = option.m_names.begin() + 1; name != option.m_names.end(); ++name) {
         if (isFirst) {
-            m_options.insert_or_assign(name, data);
+            m_options.insert_or_assign(*name, data);
         } else {
-            append(m_options[name], data);
+            append(m_options[*name], data);
         }
     }
     return 0;

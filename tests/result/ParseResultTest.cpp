@@ -70,7 +70,9 @@ TEST_F(ParseResultQueries, FindNothingUnderANullName) {
 }
 
 TEST_F(ParseResultQueries, YieldTheConvertedValueBesideItsText) {
-    result.store(optionNamed({"count"}, vtInt32), OptionData{{60}, {{"0x5", variant_t(5), 61}}, "", {}, 0});
+    OptionData data = occurrences({60});
+    data.values.push_back({"0x5", variant_t(5), 61});
+    result.store(optionNamed({"count"}, vtInt32), data);
     const Value value = result.get("count", 0, end);
     EXPECT_STREQ(value.text, "0x5");
     EXPECT_EQ(value.value, variant_t(5));

@@ -18,10 +18,10 @@ inline tarv_3_3::OptionDescription optionNamed(std::vector<std::string> names,
 }
 
 /// One or more occurrences at the given positions, with text values at theirs.
-inline tarv_3_3::OptionData occurrences(std::vector<int> positions,
+inline tarv_3_3::OptionData occurrences(const std::vector<int>& positions,
                                         const std::vector<std::pair<const char*, int>>& values = {}) {
     tarv_3_3::OptionData data;
-    data.positions = std::move(positions);
+    data.positions.assign(positions.begin(), positions.end());
     for (const auto& [text, position] : values) {
         data.values.push_back({text, tarv_3_3::variant_t(text), position});
     }

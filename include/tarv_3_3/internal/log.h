@@ -42,13 +42,15 @@ private:
 /// discards everything, always the same one. Write whole lines and end them with `std::endl`.
 TARV_API std::ostream& tarvLog();
 
+/// `tarvLog()`, or null when that stream has failed.
+TARV_API std::ostream* workingLog();
+
 /// Writes the parts as one line. A stream that has failed takes nothing any more: then the parts
 /// are not even looked at.
 template <class... Parts>
 void writeLogLine(const Parts&... parts) {
-    std::ostream& log = tarvLog();
-    if (log) {
-        (log << ... << parts) << std::endl;
+    if (std::ostream* const log = workingLog()) {
+        (*log << ... << parts) << std::endl;
     }
 }
 
