@@ -177,6 +177,14 @@ TEST(Validate, ComparesTheKindOfAllowedValuesToo) {
     EXPECT_EQ(assertions.expressions(), "m_type == vtInt32");
 }
 
+TEST(Validate, DoesNotAbbreviateATextThatIsAllowedForAnotherKind) {
+    const CapturedAssertions assertions;
+    EXPECT_EQ(
+        validated(vtInt32, {"12"}, "1"),
+        (Outcome{false, "1", 1, "Option 'opt' does not allow value '1'. Possible values follows: '0'"}));
+    EXPECT_EQ(assertions.expressions(), "m_type == vtInt32");
+}
+
 TEST(Validate, SkipsAllowedValuesThatAreNoTextsWhenItCompletes) {
     const CapturedAssertions assertions;
     EXPECT_EQ(validated(vtString, {5, "alpha", variant_t()}, "a"),

@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <atomic>
 #include <cstdlib>
 #include <new>
 #include <set>
@@ -132,10 +133,15 @@ TEST_F(VariantMemory, ThatIsExhaustedThrows) {
 
 TEST_F(VariantMemory, IsSharedSafelyBetweenThreads) {
     const variant_t text("a text");
+    std::atomic<int> ready = 0;
     std::vector<std::thread> threads;
     for (int i = 0; i < 4; ++i) {
-        threads.emplace_back([&text] {
-            for (int round = 0; round < 20000; ++round) {
+        threads.emplace_back([&] {
+            ++ready;
+            while (ready < 4) {
+                std::this_thread::yield();
+            }
+            for (int round = 0; round < 500000; ++round) {
                 variant_t copy(text);
                 variant_t other;
                 other = copy;
