@@ -94,7 +94,7 @@ TEST(ParseStreamToArgs, AppendsToTheArguments) {
     EXPECT_EQ(arguments, (Arguments{"first", "second", "third"}));
 }
 
-/// Takes the underscore for a blank, too.
+/// Takes the underscore for a blank, and the carriage return for none.
 class UnderscoreIsSpace : public std::ctype<char> {
 public:
     UnderscoreIsSpace() : std::ctype<char>(makeTable(), true) {}
@@ -104,15 +104,16 @@ private:
         auto* const table = new mask[table_size];
         std::copy(classic_table(), classic_table() + table_size, table);
         table[static_cast<unsigned char>('_')] |= space;
+        table[static_cast<unsigned char>('\r')] = cntrl;
         return table;
     }
 };
 
 TEST(ParseStreamToArgs, SkipsWhatTheGlobalLocaleCallsSpaceInFrontOfALine) {
     const std::locale before = std::locale::global(std::locale(std::locale(), new UnderscoreIsSpace));
-    const Arguments arguments = argumentsOf("__a_\n _#b\n___");
+    const Arguments arguments = argumentsOf("__a_\n _#b\n___\n\r\r\n\ra\r\n");
     std::locale::global(before);
-    EXPECT_EQ(arguments, (Arguments{"a_"}));
+    EXPECT_EQ(arguments, (Arguments{"a_", "\ra"}));
     EXPECT_EQ(argumentsOf("_a"), (Arguments{"_a"}));
 }
 

@@ -86,6 +86,7 @@ public:
 TEST(GetLastValue, IsTheLastOneFoundBeforeAFailure) {
     FailingResult result;
     EXPECT_EQ(describe(getLastValue(&result, "level", 0, end)), "\"first\"@4");
+    EXPECT_EQ(describe(getLastValue(&result, nullptr, 0, end)), "missing");
     result.statusOfGet = 3;
     EXPECT_EQ(describe(getLastValue(&result, "level", 0, end)), "missing");
 }
