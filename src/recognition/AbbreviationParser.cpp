@@ -41,8 +41,14 @@ private:
     char m_first;
 };
 
+struct NameScore {
+    bool sameWordCount;
+    // 0 when some word does not fit, or the typed name has more words.
+    std::int32_t score;
+};
+
 // Goes through both names at once; at the end of each typed word skips what the candidate's has more.
-AbbreviationParser::NameScore scoreName(std::string_view typed, std::string_view candidate) {
+NameScore scoreName(std::string_view typed, std::string_view candidate) {
     std::int32_t score = 0;
     std::size_t place = 0;
     for (std::size_t i = 0; i <= typed.size(); ++i, ++place) {
@@ -136,18 +142,18 @@ void AbbreviationParser::keepBest(std::string_view typed, const std::vector<Opti
     for (const OptionDescription& option : options) {
         for (const std::string& name : option.m_names) {
             if (filter.mayFit(name)) {
-                keepIfBest(scoreName(typed, name), name, &option - options.data());
+                keepIfBest(typed, name, &option - options.data());
             }
             if (mayBeNegated && option.m_type == vtBool) {
-                const std::string negated = negate(name);
-                keepIfBest(scoreName(typed, negated), negated, &option - options.data());
+                keepIfBest(typed, negate(name), &option - options.data());
             }
         }
     }
 }
 
-void AbbreviationParser::keepIfBest(const NameScore& found, const std::string& name,
+void AbbreviationParser::keepIfBest(std::string_view typed, const std::string& name,
                                     std::int64_t optionIndex) {
+    const NameScore found = scoreName(typed, name);
     if (isBest(found.sameWordCount, found.score)) {
         m_matches.push_back({true, found.score, DecomposedName(name)});
         m_optionIndex = optionIndex;

@@ -26,13 +26,6 @@ public:
         DecomposedName m_candidate;
     };
 
-    /// How well a candidate fits a typed name.
-    struct NameScore {
-        bool sameWordCount;
-        /// 0 when some word does not fit, or the typed name has more words.
-        std::int32_t score;
-    };
-
     AbbreviationParser(EventHandler* handler, Garbage* garbage, unsigned int flags);
     ~AbbreviationParser() override;
 
@@ -62,7 +55,7 @@ public:
 
 private:
     void keepBest(std::string_view typed, const std::vector<OptionDescription>& options);
-    void keepIfBest(const NameScore& found, const std::string& name, std::int64_t optionIndex);
+    void keepIfBest(std::string_view typed, const std::string& name, std::int64_t optionIndex);
     bool isBest(bool sameWordCount, std::int32_t score);
     int findOutcome(std::string& err) const;
     int fail(std::string& err, std::string message) const;

@@ -33,7 +33,9 @@ public:
                           std::string& err) = 0;
 
     /// Binds the argument at the front, stores what it found through `collector` (null: nowhere),
-    /// removes the arguments that it consumed, and sets `index` to the place of the option.
+    /// removes the arguments that it consumed, and sets `index` to the place of the option. The
+    /// records of `options` must stay where they are meanwhile, whatever handlers declare; see
+    /// `RegisteredOptionStorage::Pin`.
     /// Returns 0, or `parseVetoed` or `parseFailed` with the message in `err` and the argument that
     /// failed still at the front.
     virtual int parse(std::vector<std::string>& args, IResultCollector* collector,

@@ -28,7 +28,8 @@ struct Token {
 /// value; white space before the value is skipped whole. White space is what the global locale says.
 Token splitToken(std::string_view arg, const SpaceClassifier& classifier);
 
-/// The same into strings, asking the global locale itself. Returns whether there is a value; if not, `value` is left alone.
+/// The same into strings, asking the global locale itself. Returns whether there is a value; if not, `value`
+/// is left alone.
 TARV_API bool splitOptionValue(const std::string& arg, std::string* name, std::string* value);
 
 } // namespace tarv_3_3
