@@ -1,0 +1,60 @@
+"""The recipes under packaging/ parse, and agree with the project about version, license and options.
+
+    check_recipes.py SOURCE_DIR VERSION
+"""
+
+import ast
+import json
+import pathlib
+import re
+import sys
+
+source = pathlib.Path(sys.argv[1])
+version = sys.argv[2]
+failures = []
+
+
+def expect(holds, text):
+    if not holds:
+        failures.append(text)
+
+
+def class_fields(tree, name):
+    for node in tree.body:
+        if isinstance(node, ast.ClassDef) and node.name == name:
+            return {
+                target.id: ast.literal_eval(statement.value)
+                for statement in node.body
+                if isinstance(statement, ast.Assign)
+                for target in statement.targets
+            }
+    return {}
+
+
+vcpkg = json.loads((source / "packaging/vcpkg/vcpkg.json").read_text())
+expect(vcpkg.get("name") == "tarv", "vcpkg.json: name")
+expect(vcpkg.get("version") == version, f"vcpkg.json: version {vcpkg.get('version')}, not {version}")
+
+recipe_text = (source / "packaging/conan/conanfile.py").read_text()
+recipe = class_fields(ast.parse(recipe_text), "TarvConan")
+expect(recipe.get("name") == "tarv", "conanfile.py: name")
+pattern = re.search(r're\.search\(r"(.*?)", project\)', recipe_text)
+found = pattern and re.search(pattern.group(1), (source / "CMakeLists.txt").read_text())
+expect(found and found.group(1) == version, "conanfile.py: does not find the version in CMakeLists.txt")
+for folder in re.findall(r'"(\w+)/\*"', recipe_text):
+    expect((source / folder).is_dir(), f"conanfile.py: no folder {folder}")
+
+first_line = (source / "LICENSE").read_text().splitlines()[0]
+for name, license_name in (("vcpkg.json", vcpkg.get("license")), ("conanfile.py", recipe.get("license"))):
+    expect(first_line == f"{license_name} License", f"{name}: LICENSE is the '{first_line}'")
+
+options = set(re.findall(r"^option\((TARV_\w+)", (source / "CMakeLists.txt").read_text(), re.MULTILINE))
+used = set(re.findall(r"-D(TARV_\w+)=", (source / "packaging/vcpkg/portfile.cmake").read_text()))
+expect(used and used <= options, f"portfile.cmake: no such options: {sorted(used - options)}")
+
+changes = (source / "CHANGELOG.md").read_text()
+expect(f"\n## [{version}]" in changes, f"CHANGELOG.md: no section for {version}")
+
+for failure in failures:
+    print(failure)
+sys.exit(1 if failures else 0)
