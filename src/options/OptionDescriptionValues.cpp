@@ -148,7 +148,7 @@ bool OptionDescription::acceptAbbreviation(std::string& text, variant_t& value, 
         for (const variant_t& allowed : m_allowedValues) {
             if (allowed.can_get<const char*>() && isPrefix(text, allowed.get<const char*>())) {
                 ++matches;
-                value = allowed;
+                value = m_garbage->init(allowed.get<const char*>());
             }
         }
     }

@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "tarv_3_3/export.h"
 #include "tarv_3_3/variant.h"
 
 namespace tarv_3_3 {
@@ -18,7 +19,7 @@ class Garbage;
 /// - `uint64_t`: hexadecimal with a "0x" in front or an "h" behind, else decimal; what follows the
 ///   number is ignored, and a minus sign wraps. An empty text is no number.
 /// - `const char*`: any text; `garbage` keeps a copy.
-class OperationFromString {
+class TARV_API OperationFromString {
 public:
     OperationFromString(Garbage* garbageOfParser, const char* textToConvert);
 
@@ -36,7 +37,7 @@ bool convertWholeText(const char* text, T& value);
 
 /// Converts a value to the text that `garbage` keeps; `execute<const char*>` is for texts, which
 /// are taken as they are.
-class OperationToString {
+class TARV_API OperationToString {
 public:
     OperationToString(Garbage* garbageOfParser, const variant_t& valueToConvert);
 
@@ -49,7 +50,7 @@ public:
 };
 
 /// The name of a kind of value, for help and messages.
-class OperatorGetTypeName {
+class TARV_API OperatorGetTypeName {
 public:
     template <class T>
     bool execute();

@@ -2,6 +2,8 @@
 
 #include <string>
 
+#include "tarv_3_3/export.h"
+
 namespace tarv_3_3 {
 
 /// Outcome of an operation; 0 is success.
@@ -13,6 +15,6 @@ using result_t = int;
 /// ends in a comma has a last word of one character, the terminating zero. An empty text has no
 /// words, and one that begins with a comma an empty first word.
 template <class Words>
-result_t split(std::string text, Words& pieces);
+TARV_API result_t split(std::string text, Words& pieces);
 
 } // namespace tarv_3_3
