@@ -29,7 +29,7 @@ struct Sweep {
     bool rendererFailed = false;
 };
 
-Outcome actWithout(const Scenario& scenario, Session& session, long nth, failing::Mode mode) {
+Outcome actWithout(const Scenario& scenario, Subject& session, long nth, failing::Mode mode) {
     Outcome outcome = {};
     failing::arm(nth, mode);
     try {
@@ -41,7 +41,7 @@ Outcome actWithout(const Scenario& scenario, Session& session, long nth, failing
     return outcome;
 }
 
-void expectParseFailure(const Outcome& outcome, Session& session, failing::Mode mode, Sweep& sweep) {
+void expectParseFailure(const Outcome& outcome, Subject& session, failing::Mode mode, Sweep& sweep) {
     ASSERT_FALSE(outcome.threw);
     if (outcome.status == parseException) {
         EXPECT_STREQ(session.parser->getErrorDesc(), "");
@@ -55,7 +55,7 @@ void expectParseFailure(const Outcome& outcome, Session& session, failing::Mode 
     sweep.inside = true;
 }
 
-void expectHelpFailure(const Outcome& outcome, Session& session, Sweep& sweep) {
+void expectHelpFailure(const Outcome& outcome, Subject& session, Sweep& sweep) {
     if (outcome.threw) {
         return;
     }
@@ -67,7 +67,7 @@ void expectHelpFailure(const Outcome& outcome, Session& session, Sweep& sweep) {
     sweep.rendererFailed = true;
 }
 
-void expectFailure(const Scenario& scenario, const Outcome& outcome, Session& session, failing::Mode mode,
+void expectFailure(const Scenario& scenario, const Outcome& outcome, Subject& session, failing::Mode mode,
                    Sweep& sweep) {
     switch (scenario.failure) {
     case Failure::throws:
@@ -90,10 +90,6 @@ void expectFailure(const Scenario& scenario, const Outcome& outcome, Session& se
         EXPECT_FALSE(outcome.threw);
         EXPECT_TRUE(outcome.status == valueMissing || outcome.status == valueFound);
         break;
-    case Failure::presence:
-        EXPECT_FALSE(outcome.threw);
-        EXPECT_EQ(outcome.status, 0);
-        break;
     case Failure::help:
         expectHelpFailure(outcome, session, sweep);
         break;
@@ -101,7 +97,7 @@ void expectFailure(const Scenario& scenario, const Outcome& outcome, Session& se
 }
 
 /// The scenario again, now with memory: in the same parser and result, then with a fresh result.
-void expectRecovery(const Scenario& scenario, Session& session) {
+void expectRecovery(const Scenario& scenario, Subject& session) {
     EXPECT_EQ(scenario.act(session), scenario.status) << session.parser->getErrorDesc();
     const std::string answerOfOldResult = scenario.answer(session);
     if (scenario.failure != Failure::parse) {
@@ -121,7 +117,7 @@ bool failOne(const Scenario& scenario, long nth, failing::Mode mode, Sweep& swee
     const long before = failing::liveBlocks();
     failing::Account account = {};
     {
-        Session session;
+        Subject session;
         scenario.prepare(session);
         const Outcome outcome = actWithout(scenario, session, nth, mode);
         account = outcome.account;
@@ -164,7 +160,7 @@ protected:
 
     // What is made once in a process is made here, so that it does not count as lost.
     void SetUp() override {
-        Session session;
+        Subject session;
         GetParam().prepare(session);
         GetParam().act(session);
         GetParam().answer(session);
@@ -199,7 +195,7 @@ TEST_P(AllocationFailure, ForGoodIsReportedAndLeavesEverythingUsable) {
 INSTANTIATE_TEST_SUITE_P(In, AllocationFailure, testing::ValuesIn(allScenarios()), nameOf);
 
 TEST(AllocationFailureInsideAParse, IsTheMessageWhenTheLastOneLeftRoomForIt) {
-    Session session;
+    Subject session;
     open(session);
     session.parser->option("level", "", vtInt32);
     ASSERT_EQ(parse(session, {"--level=a value that is refused"}), parseFailed);
@@ -224,7 +220,7 @@ TEST(AllocationFailureInsideAParse, IsTheMessageWhenTheLastOneLeftRoomForIt) {
 TEST(AllocationFailureInsideAParse, KeepsWhatWasStoredBefore) {
     for (long nth = 1;; ++nth) {
         SCOPED_TRACE(nth);
-        Session session;
+        Subject session;
         open(session);
         session.parser->option("output-file,output,o", "", vtString);
         ASSERT_EQ(parse(session, {"-o=the first value of the option"}), parseOk);

@@ -1,10 +1,9 @@
 #pragma once
 
-#include <initializer_list>
 #include <string>
 #include <vector>
 
-#include "tarv_3_3/tarv.h"
+#include "reliability/Session.h"
 
 /// A handler that keeps its notes where no allocation is needed.
 struct CountingHandler : tarv_3_3::EventHandler {
@@ -26,15 +25,8 @@ struct RememberingHandler : tarv_3_3::EventHandler {
     std::vector<std::string> names;
 };
 
-/// What a scenario works on. Whatever is there at its end is destroyed.
-struct Session {
-    Session() = default;
-    Session(const Session&) = delete;
-    Session& operator=(const Session&) = delete;
-    ~Session();
-
-    tarv_3_3::IParser* parser = nullptr;
-    tarv_3_3::IParseResult* result = nullptr;
+/// What a scenario works on.
+struct Subject : Session {
     /// The declaration that a builder works on.
     tarv_3_3::IOption* declaration = nullptr;
     tarv_3_3::Value value;
@@ -57,8 +49,6 @@ enum class Failure {
     /// Status 1, or a value found before memory ran out: the question about the last value
     /// does not tell exhaustion from the end.
     lastValue,
-    /// The answer "no".
-    presence,
     /// The text "Unknown error handled." from the renderer, `std::bad_alloc` around it or when
     /// there is no memory for the text.
     help
@@ -68,13 +58,13 @@ struct Scenario {
     const char* name;
     Failure failure;
     /// Runs with memory: what has to be there before.
-    void (*prepare)(Session&);
+    void (*prepare)(Subject&);
     /// Runs without: returns a status.
-    int (*act)(Session&);
+    int (*act)(Subject&);
     /// What `act` returns when memory suffices.
     int status;
     /// Runs with memory, after `act` had what it needed.
-    std::string (*answer)(Session&);
+    std::string (*answer)(Subject&);
     const char* expected;
 };
 
@@ -83,16 +73,3 @@ std::vector<Scenario> parseScenarios();
 std::vector<Scenario> handlerScenarios();
 std::vector<Scenario> queryScenarios();
 std::vector<Scenario> helpScenarios();
-
-/// A parser with the given flags, and a result.
-void open(Session& session, int flags = 0);
-
-/// Parses the arguments, which are without a program name.
-int parse(Session& session, std::initializer_list<const char*> arguments);
-
-/// Parses, and shows the status and what is then stored: `0 level=3`.
-std::string parseAndShow(Session& session, std::initializer_list<const char*> arguments,
-                         std::initializer_list<const char*> names);
-
-/// The given options' values as `level=3 files=a,b verbose`, the plain arguments behind "--".
-std::string stored(Session& session, std::initializer_list<const char*> names);

@@ -7,7 +7,7 @@ using namespace tarv_3_3;
 namespace {
 
 /// Options of every kind, long enough in their names for a text of its own.
-void declareTool(Session& session, int flags = 0) {
+void declareTool(Subject& session, int flags = 0) {
     open(session, flags);
     IParser& parser = *session.parser;
     parser.option("verbose-output,v", "", vtBool);
@@ -22,35 +22,35 @@ void declareTool(Session& session, int flags = 0) {
     parser.option("input-files", "", vtString).positional();
 }
 
-void tool(Session& session) {
+void tool(Subject& session) {
     declareTool(session);
 }
 
-void strictTool(Session& session) {
+void strictTool(Subject& session) {
     declareTool(session, flagRejectUnknown | flagDashIsNotPositional);
 }
 
-void greedyTool(Session& session) {
+void greedyTool(Subject& session) {
     declareTool(session, flagPositionalTakesRest);
 }
 
-void toolWithPlainPositionals(Session& session) {
+void toolWithPlainPositionals(Subject& session) {
     declareTool(session, flagPlainArePositional);
 }
 
-void defaults(Session& session) {
+void defaults(Subject& session) {
     open(session);
     session.parser->option("level-of-detail,level,l", "", vtInt32).defaultValue(3);
     session.parser->option("output-file", "", vtString).defaultValue("a default of some length");
 }
 
-void twins(Session& session) {
+void twins(Subject& session) {
     open(session);
     session.parser->option("version", "", vtString);
     session.parser->option("verbose", "", vtString);
 }
 
-void verbs(Session& session) {
+void verbs(Subject& session) {
     open(session);
     session.parser->action("build-the-project,build", "", vtNull);
     session.parser->action("test-the-project,test", "", vtNull);
@@ -58,16 +58,16 @@ void verbs(Session& session) {
     session.parser->modifier("name-of-the-test", "test", "", vtString);
 }
 
-void files(Session& session) {
+void files(Subject& session) {
     declareTool(session);
     session.parser->addOptionFileOption("");
 }
 
-std::string error(Session& session) {
+std::string error(Subject& session) {
     return session.parser->getErrorDesc();
 }
 
-std::string everything(Session& session) {
+std::string everything(Subject& session) {
     return stored(session, {"verbose-output", "v", "signed-number", "unsigned-number", "large-number",
                             "hexadecimal-number", "ratio-of-sizes", "output-file", "colour-scheme", "quiet",
                             "input-files", "level-of-detail", "l", "number-of-jobs", "build"});
@@ -83,7 +83,7 @@ struct Sink : std::streambuf {
     int lines = 0;
 };
 
-int parseTraced(Session& session) {
+int parseTraced(Subject& session) {
     static Sink sink;
     std::streambuf* const output = std::cout.rdbuf(&sink);
     const int status =
@@ -92,11 +92,11 @@ int parseTraced(Session& session) {
     return status;
 }
 
-Scenario good(const char* name, void (*prepare)(Session&), int (*act)(Session&), const char* expected) {
+Scenario good(const char* name, void (*prepare)(Subject&), int (*act)(Subject&), const char* expected) {
     return {name, Failure::parse, prepare, act, parseOk, everything, expected};
 }
 
-Scenario bad(const char* name, void (*prepare)(Session&), int (*act)(Session&), int status,
+Scenario bad(const char* name, void (*prepare)(Subject&), int (*act)(Subject&), int status,
              const char* expected) {
     return {name, Failure::parse, prepare, act, status, error, expected};
 }
@@ -105,104 +105,104 @@ std::vector<Scenario> goodCommandLines() {
     return {
         good(
             "TextValue", tool,
-            [](Session& s) {
+            [](Subject& s) {
                 return parse(s, {"--output-file", "a longer file name"});
             },
             "output-file=a longer file name"),
         good(
             "NumbersAsUsual", tool,
-            [](Session& s) {
+            [](Subject& s) {
                 return parse(s, {"--signed-number=-5", "--unsigned-number=5", "--large-number=5000000000",
                                  "--ratio-of-sizes=1.5"});
             },
             "signed-number=-5 unsigned-number=5 large-number=5000000000 ratio-of-sizes=1.5"),
         good(
             "NumbersInUnusualForms", tool,
-            [](Session& s) {
+            [](Subject& s) {
                 return parse(s, {"--signed-number=+5", "--unsigned-number=+5", "--large-number=+5",
                                  "--ratio-of-sizes=+1.5"});
             },
             "signed-number=+5 unsigned-number=+5 large-number=+5 ratio-of-sizes=+1.5"),
         good(
-            "HexadecimalNumber", tool, [](Session& s) { return parse(s, {"--hexadecimal-number=0x1F"}); },
+            "HexadecimalNumber", tool, [](Subject& s) { return parse(s, {"--hexadecimal-number=0x1F"}); },
             "hexadecimal-number=0x1F"),
         good(
             "Switches", tool,
-            [](Session& s) {
+            [](Subject& s) {
                 return parse(s, {"--verbose-output", "--no-verbose-o"});
             },
             "verbose-output=1,0 v=1,0"),
         good(
             "OptionWithoutValue", tool,
-            [](Session& s) {
+            [](Subject& s) {
                 return parse(s, {"--quiet", "--quiet"});
             },
             "quiet"),
         good(
             "List", tool,
-            [](Session& s) { return parse(s, {"--output-file=the first of two names,the second of two"}); },
+            [](Subject& s) { return parse(s, {"--output-file=the first of two names,the second of two"}); },
             "output-file=the first of two names,the second of two"),
         good(
-            "AbbreviatedName", tool, [](Session& s) { return parse(s, {"--o-f=x"}); }, "output-file=x"),
+            "AbbreviatedName", tool, [](Subject& s) { return parse(s, {"--o-f=x"}); }, "output-file=x"),
         good(
-            "AbbreviatedValue", tool, [](Session& s) { return parse(s, {"--colour-scheme=mono"}); },
+            "AbbreviatedValue", tool, [](Subject& s) { return parse(s, {"--colour-scheme=mono"}); },
             "colour-scheme=monochrome-and-plain"),
         good(
             "Positional", tool,
-            [](Session& s) {
+            [](Subject& s) {
                 return parse(s, {"a first longer name", "second"});
             },
             "input-files=a first longer name,second"),
         good(
             "PositionalTakesRest", greedyTool,
-            [](Session& s) {
+            [](Subject& s) {
                 return parse(s, {"first", "--verbose-output", "--"});
             },
             "input-files=first,--verbose-output,--"),
         good(
             "PlainArguments", tool,
-            [](Session& s) {
+            [](Subject& s) {
                 return parse(s, {"--", "a plain argument of some length", "-v"});
             },
             " -- a plain argument of some length -v"),
         good(
             "PlainArgumentsArePositional", toolWithPlainPositionals,
-            [](Session& s) {
+            [](Subject& s) {
                 return parse(s, {"--", "a plain argument of some length"});
             },
             "input-files=a plain argument of some length -- a plain argument of some length"),
         good(
-            "UnknownIsDropped", verbs, [](Session& s) { return parse(s, {"not an option of this tool"}); },
+            "UnknownIsDropped", verbs, [](Subject& s) { return parse(s, {"not an option of this tool"}); },
             ""),
         good(
-            "Defaults", defaults, [](Session& s) { return parse(s, {"--level-of-detail=5"}); },
+            "Defaults", defaults, [](Subject& s) { return parse(s, {"--level-of-detail=5"}); },
             "output-file=a default of some length level-of-detail=5 l=5"),
         good(
             "ActionWithModifier", verbs,
-            [](Session& s) {
+            [](Subject& s) {
                 return parse(s, {"--build-the-p", "--number-of-jobs=8"});
             },
             "number-of-jobs=8 build"),
         good(
             "RepeatedOptionWithSynonyms", tool,
-            [](Session& s) {
+            [](Subject& s) {
                 return parse(s, {"-v", "--no-v", "-v", "-v", "-v", "-o=x", "-o=y", "-o=z"});
             },
             "verbose-output=1,0,1,1,1 v=1,0,1,1,1 output-file=x,y,z"),
         good(
             "Stream", tool,
-            [](Session& s) {
+            [](Subject& s) {
                 return s.parser->parseStream("# comment\n  --output-file=a longer name\r\n--quiet\n",
                                              s.result);
             },
             "output-file=a longer name quiet"),
         good(
             "OptionFile", files,
-            [](Session& s) { return parse(s, {"--option-file=reliability/data/options.txt"}); },
+            [](Subject& s) { return parse(s, {"--option-file=reliability/data/options.txt"}); },
             "output-file=from the option file -- a plain argument here"),
         good(
             "OptionFileNamedInAnother", files,
-            [](Session& s) { return parse(s, {"--option-file=reliability/data/outer.txt"}); },
+            [](Subject& s) { return parse(s, {"--option-file=reliability/data/outer.txt"}); },
             "signed-number=7 output-file=from the option file -- a plain argument here"),
         good("Trace", tool, parseTraced, "output-file=a longer file name input-files=x"),
     };
@@ -211,24 +211,24 @@ std::vector<Scenario> goodCommandLines() {
 std::vector<Scenario> badCommandLines() {
     return {
         bad(
-            "ValueDoesNotConvert", tool, [](Session& s) { return parse(s, {"--signed-number=5x"}); },
+            "ValueDoesNotConvert", tool, [](Subject& s) { return parse(s, {"--signed-number=5x"}); },
             parseFailed,
             "Value validation problem in argument '--signed-number=5x': Option 'signed-number' can not parse "
             "'5x' value, requires a type 'integer' here."),
         bad(
-            "ValueNotAllowed", tool, [](Session& s) { return parse(s, {"--colour-scheme=blue"}); },
+            "ValueNotAllowed", tool, [](Subject& s) { return parse(s, {"--colour-scheme=blue"}); },
             parseFailed,
             "Value validation problem in argument '--colour-scheme=blue': Option 'colour-scheme' does not "
             "allow value 'blue'. Possible values follows: 'monochrome-and-plain', 'full'"),
         bad(
-            "Ambiguity", twins, [](Session& s) { return parse(s, {"--ver"}); }, parseFailed,
+            "Ambiguity", twins, [](Subject& s) { return parse(s, {"--ver"}); }, parseFailed,
             "Ambiguous option 'ver' in argument: '--ver', could be: 'version', 'verbose'"),
         bad(
-            "UnknownIsRejected", strictTool, [](Session& s) { return parse(s, {"--not-an-option"}); },
+            "UnknownIsRejected", strictTool, [](Subject& s) { return parse(s, {"--not-an-option"}); },
             parseFailed, "Unknown option: --not-an-option"),
         bad(
             "TwoActions", verbs,
-            [](Session& s) {
+            [](Subject& s) {
                 return parse(s, {"--build", "--test"});
             },
             parseFailed,
@@ -236,16 +236,16 @@ std::vector<Scenario> badCommandLines() {
             "possible."),
         bad(
             "ModifierOfAnotherAction", verbs,
-            [](Session& s) {
+            [](Subject& s) {
                 return parse(s, {"--build", "--name-of-the-test=x"});
             },
             parseFailed, "Action '-build-the-project' doesn't accept option '-name-of-the-test'"),
         bad(
-            "NoAction", verbs, [](Session& s) { return parse(s, {"--number-of-jobs=8"}); }, parseFailed,
+            "NoAction", verbs, [](Subject& s) { return parse(s, {"--number-of-jobs=8"}); }, parseFailed,
             "No action defined."),
         bad(
             "MissingOptionFile", files,
-            [](Session& s) { return parse(s, {"--option-file=a file that is not there"}); },
+            [](Subject& s) { return parse(s, {"--option-file=a file that is not there"}); },
             parseFileUnreadable, "Error reading option file 'a file that is not there'"),
     };
 }
@@ -262,31 +262,31 @@ std::vector<Scenario> parseScenarios() {
 std::vector<Scenario> handlerScenarios() {
     return {
         {"Handler", Failure::parse,
-         [](Session& s) {
+         [](Subject& s) {
              declareTool(s);
              s.parser->addHandler(&s.counting);
          },
-         [](Session& s) {
+         [](Subject& s) {
              s.counting.options = s.counting.values = s.counting.unknown = 0;
              return parse(s, {"--output-file=one,two", "--quiet"});
          },
          parseOk,
-         [](Session& s) {
+         [](Subject& s) {
              return std::to_string(s.counting.options) + " options, " + std::to_string(s.counting.values) +
                     " values";
          },
          "2 options, 2 values"},
         {"HandlerThatNeedsMemory", Failure::parse,
-         [](Session& s) {
+         [](Subject& s) {
              declareTool(s);
              s.parser->addHandler(&s.remembering);
          },
-         [](Session& s) {
+         [](Subject& s) {
              s.remembering.names.clear();
              return parse(s, {"--output-file=one,two", "--quiet"});
          },
          parseOk,
-         [](Session& s) {
+         [](Subject& s) {
              std::string names;
              for (const std::string& name : s.remembering.names) {
                  names += name + ";";
@@ -295,22 +295,22 @@ std::vector<Scenario> handlerScenarios() {
          },
          "output-file;quiet;"},
         {"Veto", Failure::parse,
-         [](Session& s) {
+         [](Subject& s) {
              declareTool(s);
              s.counting.refused = "two";
              s.parser->addHandler(&s.counting);
          },
-         [](Session& s) { return parse(s, {"--output-file=one,two"}); }, parseVetoed, error,
+         [](Subject& s) { return parse(s, {"--output-file=one,two"}); }, parseVetoed, error,
          "Value 'one,two' is not valid for option 'output-file' in argument '--output-file=one,two'"},
         {"HandlerOfUnknownArguments", Failure::parse,
-         [](Session& s) {
+         [](Subject& s) {
              verbs(s);
              s.parser->addHandler(&s.counting);
          },
-         [](Session& s) {
+         [](Subject& s) {
              s.counting.unknown = 0;
              return parse(s, {"not an option of this tool", "nor this one"});
          },
-         parseOk, [](Session& s) { return std::to_string(s.counting.unknown); }, "2"},
+         parseOk, [](Subject& s) { return std::to_string(s.counting.unknown); }, "2"},
     };
 }

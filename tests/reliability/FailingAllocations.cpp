@@ -124,6 +124,19 @@ void* operator new[](std::size_t bytes, const std::nothrow_t&) noexcept {
     return take(bytes);
 }
 
+// No alignment beyond malloc's own is asked for here: arenas ask for that of any object.
+void* operator new(std::size_t bytes, std::align_val_t) {
+    return takeOrThrow(bytes);
+}
+
+void operator delete(void* block, std::align_val_t) noexcept {
+    give(block);
+}
+
+void operator delete(void* block, std::size_t, std::align_val_t) noexcept {
+    give(block);
+}
+
 void operator delete(void* block) noexcept {
     give(block);
 }
