@@ -56,7 +56,9 @@ void declareEight(Subject& session) {
 CountingHandler sharedHandler;
 
 std::string discards(Subject&) {
-    return internal::tarvLog() ? "takes" : "discards";
+    std::ostream& log = internal::tarvLog();
+    log << "a line" << std::endl;
+    return log ? "takes" : "discards";
 }
 
 } // namespace
