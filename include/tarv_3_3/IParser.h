@@ -123,9 +123,10 @@ public:
 
     /// Declares the string option "option-file" and reads every file that a command line names
     /// with it, in order, behind the command line itself: one argument a line, as `parseStream`
-    /// has it, up to the first zero byte. A file may name further files. A file that names itself,
-    /// also by way of others, is read again and again until memory is exhausted: hosts that let
-    /// strangers write option files must not use this. Always returns true.
+    /// has it, up to the first zero byte. A file may name further files. Every further parse into
+    /// the same result reads all of its files again. A file that names itself, also by way of others,
+    /// is read again and again until memory is exhausted: hosts that let strangers write option files
+    /// must not use this. Always returns true.
     virtual bool addOptionFileOption(const char* description, const char* topic = "") = 0;
 
     virtual ~IParser();

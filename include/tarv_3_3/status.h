@@ -6,7 +6,8 @@ namespace tarv_3_3 {
 /// and `parseException`, `IParser::getErrorDesc` has a message for the user.
 enum ParseStatus : int {
     parseOk = 0,
-    /// An event handler refused a value.
+    /// An event handler refused a value. Also, without a message, when the result holds options
+    /// that this parser did not declare.
     parseVetoed = 1,
     /// The command line breaks a rule: an unknown, ambiguous or incomplete option, a value that
     /// does not convert or is not allowed, actions that do not fit.

@@ -89,6 +89,15 @@ int ParseResult::next(const std::string& /*name*/, char** text, variant_t& value
 
 int ParseResult::startIteration(std::string_view name, char** text, variant_t& value, int lo, int hi,
                                 int& position) {
+    const int status = findFirst(name, text, value, lo, hi, position);
+    if (status != valueFound) {
+        m_current = m_options.end();
+    }
+    return status;
+}
+
+int ParseResult::findFirst(std::string_view name, char** text, variant_t& value, int lo, int hi,
+                           int& position) {
     m_lowerBound = lo;
     m_upperBound = hi;
     m_valuesCursor = 0;

@@ -62,6 +62,7 @@ public:
 
 private:
     int startIteration(std::string_view name, char** text, variant_t& value, int lo, int hi, int& position);
+    int findFirst(std::string_view name, char** text, variant_t& value, int lo, int hi, int& position);
     int continueIteration(char** text, variant_t& value, int& position);
     void yieldDefault(const OptionData& data, char** text, variant_t& value, int& position);
     int nextValue(const OptionData& data, char** text, variant_t& value, int& position);

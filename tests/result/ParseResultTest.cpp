@@ -200,6 +200,15 @@ TEST_F(ParseResultQueries, FindNothingNextBehindAFailedGet) {
     EXPECT_EQ(next(), "missing");
 }
 
+// The value at 11 alone would be in the range; its occurrence at 10 is not.
+TEST_F(ParseResultQueries, FindNothingNextBehindAGetThatFoundNoOccurrenceInItsRange) {
+    EXPECT_EQ(get("level", 11, 12), "missing");
+    EXPECT_EQ(next(), "missing");
+    EXPECT_EQ(result.nextPosition(), end);
+    EXPECT_FALSE(result.present("level", 11, 12));
+    EXPECT_EQ(next(), "missing");
+}
+
 TEST_F(ParseResultQueries, FindNothingNextBeforeAnyGet) {
     EXPECT_EQ(next(), "missing");
     EXPECT_EQ(result.nextPosition(), end);
