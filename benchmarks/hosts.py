@@ -12,18 +12,34 @@ import tempfile
 
 from programs import callgrind
 
+EMPTY = "int main() {}\n"
+SOURCE = os.path.join(os.path.dirname(os.path.abspath(__file__)), "hosts", "{}.cpp")
+STANDARD = re.compile(r"<(cstdio|cstdlib|cstring|string|vector)>")
+
 RUNS = 11
+# Where a compilation takes seconds, fewer runs tell its share as well.
+FEWEST_RUNS = 3
+ENOUGH_SECONDS = 5
 
 
 class Host:
-    """The small host program of one library, beside the empty program `empty`."""
+    """The small host program of one library."""
 
-    def __init__(self, build, name, empty=None):
+    def __init__(self, build, name):
         self.build = build
         self.name = name
-        self.empty = empty
         self.path = os.path.join(build, "benchmarks", "host-" + name)
         self.object = os.path.join(build, "benchmarks", "CMakeFiles", f"host-{name}.dir", "hosts", name + ".cpp.o")
+
+    @functools.cached_property
+    def needs_cxx(self):
+        """Whether it loads the C++ library, for itself or for a library that it links."""
+        return any("libstdc++" in library for library in shared_libraries(self.path))
+
+    @functools.cached_property
+    def empty(self):
+        """The empty program that it is compared with, which loads the C++ library if it does."""
+        return os.path.join(self.build, "benchmarks", "host-empty-cxx" if self.needs_cxx else "host-empty")
 
     @functools.cached_property
     def arguments(self):
@@ -40,27 +56,48 @@ class Host:
     def output(self):
         return subprocess.run([self.path, *self.arguments], check=True, capture_output=True, text=True).stdout
 
-    def compile_command(self, output):
-        """The compiler's own command, without a launcher in front of it."""
+    @functools.cached_property
+    def compile_command(self):
+        """The compiler's own command, without a launcher in front of it and without its files."""
         with open(os.path.join(self.build, "compile_commands.json"), encoding="utf-8") as commands:
             entry = next(each for each in json.load(commands) if each["file"].endswith(f"/hosts/{self.name}.cpp"))
         words = shlex.split(entry["command"])
         words = words[next(i for i, word in enumerate(words) if word.endswith("++")):]
-        words[words.index("-o") + 1] = output
-        return words
+        return words[:words.index("-o")]
 
-    def compile_seconds(self):
-        """Processor time of one compilation."""
+    def includes(self):
+        """The lines of its source that include the library's headers; its other ones are standard."""
+        with open(SOURCE.format(self.name), encoding="utf-8") as lines:
+            return "".join(line for line in lines if line.startswith("#include") and not STANDARD.search(line))
+
+    def text(self):
+        with open(SOURCE.format(self.name), encoding="utf-8") as source:
+            return source.read()
+
+    def compile_seconds(self, text):
+        """Processor time of one compilation of `text` as this host is compiled."""
         with tempfile.TemporaryDirectory() as folder:
+            source = os.path.join(folder, "host.cpp")
+            with open(source, "w", encoding="utf-8") as file:
+                file.write(text)
+            command = [*self.compile_command, "-c", source, "-o", os.path.join(folder, "host.o")]
             before = resource.getrusage(resource.RUSAGE_CHILDREN)
-            subprocess.run(self.compile_command(os.path.join(folder, "host.o")), check=True, cwd=self.build)
+            subprocess.run(command, check=True)
             after = resource.getrusage(resource.RUSAGE_CHILDREN)
         return after.ru_utime + after.ru_stime - before.ru_utime - before.ru_stime
 
-    def compile_ratio(self):
-        """Time to compile, in turn with the empty program; the medians."""
-        pairs = [(self.compile_seconds(), self.empty.compile_seconds()) for _ in range(RUNS)]
-        return statistics.median(mine for mine, _ in pairs) / statistics.median(other for _, other in pairs)
+    def compile_ratio(self, text):
+        """Time to compile `text`, in turn with an empty program; the medians."""
+        pairs = []
+        while len(pairs) < FEWEST_RUNS or len(pairs) < RUNS and sum(map(sum, pairs)) < ENOUGH_SECONDS:
+            pairs.append((self.compile_seconds(text), self.compile_seconds(EMPTY)))
+        return statistics.median(mine for mine, _ in pairs) / statistics.median(empty for _, empty in pairs)
+
+    def includes_ratio(self):
+        return self.compile_ratio(self.includes() + EMPTY)
+
+    def source_ratio(self):
+        return self.compile_ratio(self.text())
 
     def object_bytes(self):
         """Code and data of the object."""
@@ -73,40 +110,37 @@ class Host:
     @functools.cached_property
     def libraries(self):
         """The shared libraries that it needs and the empty program does not."""
-        needed = shared_libraries(self.path)
-        return sorted(needed - shared_libraries(self.empty.path))
+        return sorted(shared_libraries(self.path) - shared_libraries(self.empty))
 
     def library_bytes(self):
         return sum(stripped_bytes(library) for library in self.libraries)
 
     def relocations(self):
         """Relocations of the program and of its libraries, beyond those of the empty program."""
-        own = sum(relocations(file) for file in [self.path, *self.libraries])
-        return own - relocations(self.empty.path)
+        return sum(relocations(file) for file in [self.path, *self.libraries]) - relocations(self.empty)
 
     def process_instructions(self, bound):
         """Instructions of a whole process, the loader's included, beyond those of the empty one."""
-        return self.own_instructions(bound) - self.empty.own_instructions(bound)
-
-    @functools.cache
-    def own_instructions(self, bound):
-        environment = {**os.environ, "LC_ALL": "C"}
-        environment.pop("LD_BIND_NOW", None)
-        if bound:
-            environment["LD_BIND_NOW"] = "1"
-        arguments = self.arguments if self.empty else []
-        return sum(callgrind([self.path, *arguments], environment).values())
+        return instructions([self.path, *self.arguments], bound) - instructions([self.empty], bound)
 
     def process_kilobytes(self):
         """Greatest resident memory of a process beyond that of the empty one; the medians."""
-        return self.own_kilobytes() - self.empty.own_kilobytes()
+        return resident_kilobytes([self.path, *self.arguments]) - resident_kilobytes([self.empty])
 
-    @functools.cache
-    def own_kilobytes(self):
-        arguments = self.arguments if self.empty else []
-        command = ["/usr/bin/time", "-f", "%M", self.path, *arguments]
-        return statistics.median(
-            int(subprocess.run(command, check=True, capture_output=True, text=True).stderr) for _ in range(RUNS))
+
+def instructions(command, bound):
+    environment = {**os.environ, "LC_ALL": "C"}
+    environment.pop("LD_BIND_NOW", None)
+    if bound:
+        environment["LD_BIND_NOW"] = "1"
+    return sum(callgrind(command, environment).values())
+
+
+def resident_kilobytes(command):
+    # Measured from a small process: a child's figure includes what it was forked from.
+    timed = ["/usr/bin/time", "-f", "%M", *command]
+    return statistics.median(
+        int(subprocess.run(timed, check=True, capture_output=True, text=True).stderr) for _ in range(RUNS))
 
 
 def stripped_bytes(file):

@@ -170,9 +170,11 @@ def help_rows(table):
 
 
 def host_rows(table):
-    table.row("W5, compile time of a host to that of an empty program", lambda each: f"{each.compile_ratio():.2f}")
+    table.row("W5, compile time of its headers to that of an empty file", lambda each: f"{each.includes_ratio():.2f}")
+    table.row("W5, compile time of the host to that of an empty file", lambda each: f"{each.source_ratio():.2f}")
     table.row("W5, object of the host, bytes of code and data", lambda each: whole(each.object_bytes()))
     table.row("W5, program, stripped, bytes", lambda each: whole(each.program_bytes()))
+    table.row("W5, needs the C++ library", lambda each: "yes" if each.needs_cxx else "no")
     table.row("W5, shared libraries, stripped, bytes", lambda each: whole(each.library_bytes()))
     table.row("W5, relocations of program and libraries", lambda each: whole(each.relocations()))
     table.row("W5, process beyond an empty one, bound at the start",
@@ -202,7 +204,7 @@ def time_rows(table, times):
             return None
         if program.name == "tarv":
             return f"{own / 1000:,.1f} µs"
-        return f"{own / times[measure + '/tarv']:.2f}"
+        return f"{own / times[measure + '/tarv']:.3g}"
 
     labels = {"W1": "W1, a whole life", "W1 again": "W1 again: forget, parse, read",
               "W2": "W2, 10,000 arguments: parse", "W3": "W3, 1,000 options: parse 100 arguments",
@@ -230,8 +232,7 @@ def print_circumstances(build):
 
 def measure_all(build, data):
     programs = [Program(build, name) for name in LIBRARIES]
-    empty = Host(build, "empty")
-    hosts = [Host(build, name, empty) for name in LIBRARIES]
+    hosts = [Host(build, name) for name in LIBRARIES]
     check_answers(programs)
     check_help(programs)
     check_hosts(hosts)
