@@ -169,9 +169,12 @@ def help_rows(table):
     table.row("W4, 500 options to 24", lambda each: help_ratio(each) if each.helps else None)
 
 
-def host_rows(table):
+def compilation_rows(table):
     table.row("W5, compile time of its headers to that of an empty file", lambda each: f"{each.includes_ratio():.2f}")
     table.row("W5, compile time of the host to that of an empty file", lambda each: f"{each.source_ratio():.2f}")
+
+
+def host_rows(table):
     table.row("W5, object of the host, bytes of code and data", lambda each: whole(each.object_bytes()))
     table.row("W5, program, stripped, bytes", lambda each: whole(each.program_bytes()))
     table.row("W5, needs the C++ library", lambda each: "yes" if each.needs_cxx else "no")
@@ -243,6 +246,7 @@ def measure_all(build, data):
     argument_rows(table, ARGUMENTS)
     option_rows(table, OPTIONS)
     help_rows(table)
+    compilation_rows(Table(hosts))
     host_rows(Table(hosts))
     time_rows(table, measured_times(build))
     if data:
@@ -275,12 +279,13 @@ def measure_tarv(build):
     argument_rows(table, [1000, 10000, 100000])
     option_rows(table, [100, 1000, 3000])
     help_rows(table)
+    host_rows(Table([Host(build, "tarv")]))
 
 
 def main():
     parser = argparse.ArgumentParser(description=__doc__)
     parser.add_argument("--build", required=True, help="the build directory")
-    parser.add_argument("--tarv-only", action="store_true", help="measure the library alone, without W5 and times")
+    parser.add_argument("--tarv-only", action="store_true", help="measure the library alone, without compilations and times")
     parser.add_argument("--data", help="a folder for the figures that plot.gp draws")
     arguments = parser.parse_args()
     if arguments.tarv_only:
