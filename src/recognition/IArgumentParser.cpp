@@ -25,8 +25,12 @@ std::string IArgumentParser::formatTokenMessage(std::string& token) {
     return messages::inArgument(token);
 }
 
+// Behind the largest index comes the smallest one: a process that lives so long loses the order of its
+// positions, and nothing else.
 int IArgumentParser::getNewPositionIndex() {
-    return m_idx++;
+    const int index = m_idx;
+    m_idx = static_cast<int>(static_cast<unsigned int>(index) + 1U);
+    return index;
 }
 
 int IArgumentParser::parseValueAndAddOption(std::string& value, std::string& err,

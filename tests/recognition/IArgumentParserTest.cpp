@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <limits>
+
 #include <cstdlib>
 
 #include "options/OptionDescription.h"
@@ -22,6 +24,14 @@ TEST(PositionIndex, CountsUpByOne) {
     EXPECT_EQ(IArgumentParser::m_idx, next + 1);
     EXPECT_EQ(IArgumentParser::getNewPositionIndex(), next + 1);
     EXPECT_EQ(IArgumentParser::m_idx, next + 2);
+}
+
+TEST(PositionIndex, GoesOnAtTheSmallestNumberBehindTheLargest) {
+    const int before = IArgumentParser::m_idx;
+    IArgumentParser::m_idx = std::numeric_limits<int>::max();
+    EXPECT_EQ(IArgumentParser::getNewPositionIndex(), 2147483647);
+    EXPECT_EQ(IArgumentParser::getNewPositionIndex(), -2147483647 - 1);
+    IArgumentParser::m_idx = before;
 }
 
 TEST(FormatTokenMessage, QuotesTheArgument) {
