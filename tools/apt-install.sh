@@ -11,7 +11,7 @@ set -euo pipefail
 declare -A groups=(
     [build]="g++ cmake ninja-build"
     [test]="clang doxygen googletest libboost-program-options-dev libclang-rt-14-dev libcli11-dev
-        libgtest-dev mandoc pkg-config"
+        libgtest-dev mandoc pkg-config python3"
     [ci]="clang-format clang-tidy dpkg-dev file lintian shellcheck"
     [coverage]="gcovr"
     [benchmark]="libbenchmark-dev python3 valgrind"

@@ -45,7 +45,8 @@ if(NOT EXISTS ${copyright_FILE_LIST})
 endif()
 
 # The project accepts the options, and installs its CMake package where the fix-up looks for it.
-execute_process(COMMAND ${CMAKE_COMMAND} -S ${root} -B ${output}/build -DCMAKE_BUILD_TYPE=Release
+file(REMOVE_RECURSE ${output}/build)
+execute_process(COMMAND ${CMAKE_COMMAND} -S ${root} -B ${output}/build -G Ninja -DCMAKE_BUILD_TYPE=Release
     -DCMAKE_CXX_COMPILER=${compiler} -DCMAKE_INSTALL_LIBDIR=lib
     -DCMAKE_INSTALL_PREFIX=${CURRENT_PACKAGES_DIR} ${configure_OPTIONS}
     OUTPUT_QUIET COMMAND_ERROR_IS_FATAL ANY)
