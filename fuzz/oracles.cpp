@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cstdio>
 #include <cstdlib>
+#include <iostream>
 #include <locale>
 #include <sstream>
 
@@ -99,7 +100,23 @@ bool isWhatTheTextSays(const char* text, const variant_t& value) {
     return text != nullptr ? extracted(text, value.type()) == value : value.type() == vtNull;
 }
 
+namespace {
+
+/// Takes the trace, which a command line may switch on, and drops it.
+struct Silence : std::streambuf {
+    int overflow(int character) override { return character; }
+};
+
+void silenceTrace() {
+    // Standard output is flushed behind the end of every static object.
+    static auto* const silence = new Silence;
+    std::cout.rdbuf(silence);
+}
+
+} // namespace
+
 Parse::Parse(int flags) {
+    silenceTrace();
     require(createParser(&parser, flags) == parseOk, "createParser");
     parser->createResult(&result);
 }
