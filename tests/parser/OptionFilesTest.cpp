@@ -7,6 +7,7 @@
 
 #include "parser/Parsing.h"
 #include "support/CapturedLog.h"
+#include "support/OrdinaryUser.h"
 #include "support/TemporaryDirectory.h"
 
 namespace tarv_3_3 {
@@ -237,11 +238,13 @@ TEST_F(OptionFiles, ThatCannotBeReadEndTheParse) {
 }
 
 TEST_F(OptionFiles, WithoutPermissionEndTheParse) {
-    if (geteuid() == 0) {
-        GTEST_SKIP() << "the superuser may read every file";
-    }
     const std::string path = directory.write("secret", "--name=1");
+    ASSERT_EQ(chmod(directory.pathOf("").c_str(), 0755), 0);
     ASSERT_EQ(chmod(path.c_str(), 0), 0);
+    const OrdinaryUser user;
+    if (geteuid() == 0) {
+        GTEST_SKIP() << "the superuser may read every file, and cannot become another user here";
+    }
     EXPECT_EQ(parseFile(path), 6);
     EXPECT_EQ(parsing.error(), "Error reading option file '" + path + "'");
 }

@@ -8,6 +8,7 @@
 #include <string>
 #include <thread>
 
+#include "support/OrdinaryUser.h"
 #include "support/TemporaryDirectory.h"
 
 namespace MERO_2_16::system {
@@ -86,24 +87,6 @@ TEST(LoadFile, FailsWhereNothingCanBeRead) {
         EXPECT_FALSE(load_file(path, contents));
     }
 }
-
-/// Gives up the superuser's right to read everything, until it is destroyed.
-class OrdinaryUser {
-public:
-    OrdinaryUser() : m_changed(geteuid() == 0 && seteuid(65534) == 0) {}
-
-    OrdinaryUser(const OrdinaryUser&) = delete;
-    OrdinaryUser& operator=(const OrdinaryUser&) = delete;
-
-    ~OrdinaryUser() {
-        if (m_changed && seteuid(0) != 0) {
-            std::abort();
-        }
-    }
-
-private:
-    bool m_changed;
-};
 
 TEST(LoadFile, FailsWhereReadingIsForbidden) {
     const TemporaryDirectory directory;
