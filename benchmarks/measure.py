@@ -256,18 +256,17 @@ def measure_all(build, data):
 def write_data(programs, folder):
     """The figures behind the plot, as tables that gnuplot reads."""
     os.makedirs(folder, exist_ok=True)
+    phases = ("declare", "parse", "read", "release")
+    counts = {each.title: each.instructions("measure-again", *EVERYDAY) for each in programs}
+    costs = {each.title: each.growth("arguments", ARGUMENTS) for each in programs if each.collects}
+    everyday = [([counts[title][phase] for phase in phases], title) for title in counts]
+    everyday.sort(key=lambda bar: sum(bar[0]))
     with open(os.path.join(folder, "everyday.tsv"), "w", encoding="utf-8") as file:
-        for program in programs:
-            counts = program.instructions("measure-again", *EVERYDAY)
-            phases = [str(counts[phase]) for phase in ("declare", "parse", "read", "release")]
-            print("\t".join([program.title, *phases]), file=file)
+        file.writelines("\t".join([title, *map(str, figures)]) + "\n" for figures, title in everyday)
+    blocks = ["\n".join([title, *(f"{size}\t{at['parse'] / size:.1f}" for size, at in of.items())])
+              for title, of in costs.items()]
     with open(os.path.join(folder, "arguments.tsv"), "w", encoding="utf-8") as file:
-        for program in programs:
-            costs = program.growth("arguments", ARGUMENTS) if program.collects else {}
-            print(f'"{program.title}"', file=file)
-            for size, phases in costs.items():
-                print(f"{size}\t{phases['parse'] / size}", file=file)
-            print("\n", file=file)
+        file.write("\n\n\n".join(blocks) + "\n")
 
 
 def measure_tarv(build):

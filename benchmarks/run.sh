@@ -1,8 +1,9 @@
 #!/usr/bin/env bash
 # Installs what is missing, builds a release, checks that all libraries compute the same answers,
 # measures, and prints the figures as Markdown.
-#   benchmarks/run.sh [--tarv-only]
-# --tarv-only leaves the other libraries out, to compare two states of this one in half a minute.
+#   benchmarks/run.sh [--tarv-only] [--data FOLDER]
+# --data keeps the figures that plot.gp draws. --tarv-only leaves the other libraries out, to compare
+# two states of this one in about a minute.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 

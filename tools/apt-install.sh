@@ -14,7 +14,7 @@ declare -A groups=(
         libgtest-dev mandoc pkg-config python3"
     [ci]="clang-format clang-tidy dpkg-dev file lintian shellcheck"
     [coverage]="gcovr"
-    [benchmark]="libbenchmark-dev python3 valgrind"
+    [benchmark]="git libbenchmark-dev python3 time valgrind"
     [peers]="libabsl-dev libargtable2-dev libboost-program-options-dev libcli11-dev libcxxopts-dev
         libgflags-dev libpopt-dev libtclap-dev llvm-14-dev"
 )
