@@ -19,12 +19,8 @@ bool equal(const std::string& name, std::string_view wanted) {
 }
 
 bool contains(const std::vector<std::string>& names, std::string_view wanted) {
-    for (const std::string& name : names) {
-        if (equal(name, wanted)) {
-            return true;
-        }
-    }
-    return false;
+    return std::any_of(names.begin(), names.end(),
+                       [wanted](const std::string& name) { return equal(name, wanted); });
 }
 
 unsigned long placeOfName(std::string_view name, const std::vector<OptionDescription>& options) {

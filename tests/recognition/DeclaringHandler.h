@@ -9,7 +9,8 @@
 /// it as a parse does.
 class DeclaringHandler : public tarv_3_3::EventHandler {
 public:
-    explicit DeclaringHandler(tarv_3_3::RegisteredOptionStorage& registry) : m_registry(registry), m_pin(registry) {}
+    explicit DeclaringHandler(tarv_3_3::RegisteredOptionStorage& registry)
+        : m_registry(registry), m_pin(registry) {}
 
     bool onOptionParse(const char*) override { return declare(); }
 
