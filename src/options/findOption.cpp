@@ -19,8 +19,14 @@ bool equal(const std::string& name, std::string_view wanted) {
 }
 
 bool contains(const std::vector<std::string>& names, std::string_view wanted) {
-    return std::any_of(names.begin(), names.end(),
-                       [wanted](const std::string& name) { return equal(name, wanted); });
+    // A loop, since std::any_of is not inlined here: every look-up in the table would pay for its calls.
+    // NOLINTNEXTLINE(readability-use-anyofallof)
+    for (const std::string& name : names) {
+        if (equal(name, wanted)) {
+            return true;
+        }
+    }
+    return false;
 }
 
 unsigned long placeOfName(std::string_view name, const std::vector<OptionDescription>& options) {

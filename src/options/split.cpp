@@ -1,5 +1,6 @@
 #include "options/split.h"
 
+#include <utility>
 #include <vector>
 
 namespace tarv_3_3 {
@@ -16,7 +17,8 @@ result_t split(std::string text, Words& pieces) {
     if (start == text.size() && !text.empty()) {
         pieces.push_back(std::string(1, '\0'));
     } else if (start < text.size()) {
-        pieces.push_back(text.substr(start));
+        text.erase(0, start);
+        pieces.push_back(std::move(text));
     }
     return 0;
 }
