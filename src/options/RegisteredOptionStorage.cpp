@@ -55,7 +55,6 @@ IOption& RegisteredOptionStorage::option(const char* names, const char* tags, co
     m_options.emplace_back(std::move(nameList), std::move(tagWords), registeredTopic, orEmpty(description),
                            isAction ? Action : Option, type, m_garbage);
     m_options.back().tokenize(m_defaultTokenizer);
-    m_options.back().m_status = declarationStored;
     return m_options.back();
 }
 

@@ -23,8 +23,8 @@ std::string_view withoutLeadingSpace(std::string_view line, const SpaceClassifie
     return line.substr(start);
 }
 
-std::string_view withoutLineEnd(std::string_view line) {
-    while (!line.empty() && (line.back() == '\r' || line.back() == '\n')) {
+std::string_view withoutCarriageReturns(std::string_view line) {
+    while (!line.empty() && line.back() == '\r') {
         line.remove_suffix(1);
     }
     return line;
@@ -63,7 +63,7 @@ void BasicParser::parseStreamToArgs(const char* text, std::vector<std::string>& 
         const std::string_view line = rest.substr(0, rest.find('\n'));
         rest.remove_prefix(line.size() < rest.size() ? line.size() + 1 : line.size());
         const std::string_view content = withoutLeadingSpace(line, classifier);
-        const std::string_view argument = withoutLineEnd(content);
+        const std::string_view argument = withoutCarriageReturns(content);
         if (!isComment(content) && !argument.empty()) {
             arguments.emplace_back(argument);
         }

@@ -170,6 +170,8 @@ TEST_F(BasicParserEvents, HandOutCopiesThatLiveAsLongAsTheParser) {
 TEST_F(BasicParserEvents, AcceptANullHandlerAndNeverCallIt) {
     EXPECT_TRUE(parser.addHandler(nullptr));
     EXPECT_FALSE(parser.addHandler(nullptr));
+    EXPECT_TRUE(parser.onValueParse("level", value));
+    EXPECT_TRUE(parser.onUknownArgument("x"));
     parser.addHandler(&handlers[0]);
     EXPECT_TRUE(parser.onUknownArgument("x"));
     EXPECT_EQ(takeEvents(), "0 unknown x");

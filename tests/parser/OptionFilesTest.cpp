@@ -6,6 +6,7 @@
 #include <thread>
 
 #include "parser/Parsing.h"
+#include "recognition/IArgumentParser.h"
 #include "support/CapturedLog.h"
 #include "support/OrdinaryUser.h"
 #include "support/TemporaryDirectory.h"
@@ -95,6 +96,15 @@ TEST_F(OptionFiles, AreNotReadWithoutTheOption) {
     EXPECT_EQ(parsing.parse({"--name=1"}), 0);
     EXPECT_EQ(names(), "[1]");
     EXPECT_EQ(parsing.error(), "");
+}
+
+TEST_F(OptionFiles, AreReadWhenTheyAreNamedAtPositionZero) {
+    const int before = IArgumentParser::m_idx;
+    IArgumentParser::m_idx = 0;
+    const std::string file = "--option-file=" + directory.write("a", "--name=1");
+    EXPECT_EQ(parsing.parse({file.c_str()}), 0);
+    EXPECT_EQ(names(), "[1]");
+    IArgumentParser::m_idx = before;
 }
 
 TEST_F(OptionFiles, AreReadForStreamsAsWell) {

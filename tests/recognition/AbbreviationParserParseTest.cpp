@@ -149,6 +149,14 @@ TEST(AbbreviationParserSwitch, IsNegatedByAnEmptyWordToo) {
                    {{{"--no-"}, "0: verbose@1=\"0\"@2", "option verbose; value verbose=\"0\"@2"}});
 }
 
+TEST(AbbreviationParserSwitch, IsNotNegatedByTheSingleWordNo) {
+    expectOutcomes("no", vtBool,
+                   {
+                       {{"--no"}, "0: no@1=\"1\"@2", "option no; value no=\"1\"@2"},
+                       {{"--no-no"}, "0: no@1=\"0\"@2", "option no; value no=\"0\"@2"},
+                   });
+}
+
 TEST(AbbreviationParserSwitch, NeverTakesTheNextArgument) {
     expectOutcomes(
         "verbose", vtBool,

@@ -136,6 +136,14 @@ TEST_F(AbbreviationParserRecognize, SetsTheIndexOfTheOptionItFound) {
     EXPECT_EQ(index, 0U);
 }
 
+TEST_F(AbbreviationParserRecognize, ForgetsTheOptionItFoundBeforeWhenItFindsNone) {
+    declare("verbose", vtBool);
+    EXPECT_EQ(recognize({"--verbose"}), 0);
+    EXPECT_EQ(recognize({"---x"}), 1);
+    EXPECT_EQ(parse(), "2: Unknown option '---x' |---x");
+    EXPECT_EQ(index, static_cast<unsigned long>(-1));
+}
+
 TEST_F(AbbreviationParserRecognize, SeesWhatWasDeclaredSinceTheLastArgument) {
     IOption& level = declare("level", vtInt32);
     EXPECT_EQ(recognize({"--degree"}), 1);
