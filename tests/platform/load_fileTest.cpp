@@ -1,9 +1,12 @@
 #include "platform/load_file.h"
 
+#include <fcntl.h>
 #include <gtest/gtest.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <chrono>
+#include <filesystem>
 #include <fstream>
 #include <string>
 #include <thread>
@@ -67,6 +70,39 @@ TEST(LoadFile, ReadsAPipeToItsEnd) {
     writer.join();
     EXPECT_TRUE(loaded);
     EXPECT_TRUE(contents == "--first\n" + written + "\n--last");
+}
+
+// The descriptor flags with which this process reads a pipe, -1 when it does not.
+int flagsOfReader(const std::string& path) {
+    for (const auto& entry : std::filesystem::directory_iterator("/proc/self/fd")) {
+        const int descriptor = std::stoi(entry.path().filename());
+        std::error_code gone;
+        if (std::filesystem::read_symlink(entry, gone) == std::filesystem::canonical(path) &&
+            (fcntl(descriptor, F_GETFL) & O_ACCMODE) == O_RDONLY) {
+            return fcntl(descriptor, F_GETFD);
+        }
+    }
+    return -1;
+}
+
+// A pipe that is not written yet holds the loader where the file is open.
+TEST(LoadFile, HidesTheOpenFileFromProgramsThatAreStartedMeanwhile) {
+    const TemporaryDirectory directory;
+    const std::string path = directory.pathOf("pipe");
+    ASSERT_EQ(mkfifo(path.c_str(), 0600), 0);
+    std::thread loader([&] {
+        std::string contents;
+        load_file(path, contents);
+    });
+    std::ofstream pipe(path);
+    int flags = -1;
+    for (int i = 0; i < 10000 && flags == -1; ++i) {
+        flags = flagsOfReader(path);
+        std::this_thread::sleep_for(std::chrono::milliseconds(flags == -1 ? 1 : 0));
+    }
+    EXPECT_EQ(flags, FD_CLOEXEC);
+    pipe.close();
+    loader.join();
 }
 
 TEST(LoadFile, ReadsAKernelFileThatDoesNotSayItsSize) {
