@@ -3,6 +3,7 @@
 #   build      what a build of the library and the examples needs
 #   test       what the tests need besides
 #   ci         what only .ci/run needs besides
+#   abi        what tools/abi.sh needs besides a build
 #   coverage   what tools/coverage.sh needs besides the tests
 #   benchmark  what the benchmarks need besides a build
 #   peers      the libraries that the benchmarks compare with
@@ -13,6 +14,7 @@ declare -A groups=(
     [test]="clang doxygen googletest libboost-program-options-dev libclang-rt-14-dev libcli11-dev
         libgtest-dev mandoc pkg-config python3"
     [ci]="clang-format clang-tidy dpkg-dev file lintian shellcheck"
+    [abi]="abigail-tools binutils"
     [coverage]="gcovr"
     [benchmark]="git libbenchmark-dev python3 time valgrind"
     [peers]="libabsl-dev libargtable2-dev libboost-program-options-dev libcli11-dev libcxxopts-dev
