@@ -3,7 +3,6 @@
 #   build      what a build of the library and the examples needs
 #   test       what the tests need besides
 #   ci         what only .ci/run needs besides
-#   abi        what tools/abi.sh needs besides a build
 #   coverage   what tools/coverage.sh needs besides the tests
 #   benchmark  what the benchmarks need besides a build
 #   peers      the libraries that the benchmarks compare with
@@ -11,10 +10,9 @@ set -euo pipefail
 
 declare -A groups=(
     [build]="g++ cmake ninja-build"
-    [test]="clang doxygen googletest libboost-program-options-dev libclang-rt-14-dev libcli11-dev
+    [test]="abigail-tools clang doxygen googletest libboost-program-options-dev libclang-rt-14-dev libcli11-dev
         libgtest-dev mandoc pkg-config python3"
     [ci]="clang-format clang-tidy dpkg-dev file lintian shellcheck"
-    [abi]="abigail-tools binutils"
     [coverage]="gcovr"
     [benchmark]="git libbenchmark-dev python3 time valgrind"
     [peers]="libabsl-dev libargtable2-dev libboost-program-options-dev libcli11-dev libcxxopts-dev
