@@ -12,7 +12,7 @@ declare -A groups=(
     [build]="g++ cmake ninja-build"
     [test]="abigail-tools clang doxygen googletest libboost-program-options-dev libclang-rt-14-dev libcli11-dev
         libgtest-dev mandoc pkg-config python3"
-    [ci]="clang-format clang-tidy dpkg-dev file lintian shellcheck"
+    [ci]="clang-format clang-tidy cppcheck dpkg-dev file lintian shellcheck"
     [coverage]="gcovr"
     [benchmark]="git libbenchmark-dev python3 time valgrind"
     [peers]="libabsl-dev libargtable2-dev libboost-program-options-dev libcli11-dev libcxxopts-dev
