@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <utility>
+
 namespace tarv_3_3 {
 namespace {
 
@@ -56,6 +58,15 @@ TEST(DecomposedName, CopiesAreIndependent) {
     EXPECT_EQ(source.getName(), "input-file");
     EXPECT_EQ(copy.getName(), "output-file");
     EXPECT_EQ(assigned.getName(), "output-file");
+}
+
+TEST(DecomposedName, MovingHandsTheWordsOver) {
+    DecomposedName source("output-file");
+    DecomposedName assigned("x");
+    assigned = std::move(source);
+    EXPECT_EQ(assigned.getName(), "output-file");
+    const DecomposedName constructed(std::move(assigned));
+    EXPECT_EQ(constructed.getName(), "output-file");
 }
 
 } // namespace
