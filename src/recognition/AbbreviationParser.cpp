@@ -18,7 +18,8 @@ namespace {
 constexpr std::string_view negation = "no";
 
 std::string negate(const std::string& name) {
-    return std::string(negation) + "-" + name;
+    std::string negated(negation);
+    return negated.append("-").append(name);
 }
 
 bool isPrefix(std::string_view word, std::string_view whole) {
@@ -256,7 +257,7 @@ int AbbreviationParser::findValue(const OptionDescription& option, std::vector<s
             return fail(err, messages::isBoolean(option.primaryName(), formatTokenMessage(args[0])));
         }
         const std::vector<std::string>& words = m_matches.front().m_candidate.m_words;
-        value = words.size() > 1 && words.front() == negation ? "0" : "1";
+        value.assign(1, words.size() > 1 && words.front() == negation ? '0' : '1');
         return parseOk;
     }
     return value.empty() ? takeNextArgument(option, args, value, consumed, err) : static_cast<int>(parseOk);
