@@ -77,7 +77,7 @@ void declareModifiers(tarv::IParser& parser) {
 void declareOptions(tarv::IParser& parser) {
     parser.option("verbose,v", "Say what is skipped or written.", tarv::vtBool).defaultValue(false);
     parser
-        .option("color", "Show matches in colour; auto: on a terminal, unless NO_COLOR is set.",
+        .option("color", "Show matches in colour; auto: on a terminal. When NO_COLOR is set, never.",
                 tarv::vtString)
         .allowValue("auto")
         .allowValue("always")
@@ -160,10 +160,12 @@ T valueOf(tarv::IParseResult& result, const char* name, T otherwise) {
     return value.status == tarv::valueFound ? value.value.get<T>() : otherwise;
 }
 
+// NO_COLOR stands above --color: whoever sets it wants no colour from any program, an empty one counts
+// as not set.
 bool wantsColor(const std::string& when) {
     const char* const noColor = std::getenv("NO_COLOR");
     const bool isForbidden = noColor != nullptr && *noColor != '\0';
-    return when == "always" || (when == "auto" && !isForbidden && isatty(STDOUT_FILENO) != 0);
+    return !isForbidden && (when == "always" || (when == "auto" && isatty(STDOUT_FILENO) != 0));
 }
 
 seek::Job makeJob(tarv::IParseResult& result, seek::Action action) {
