@@ -213,6 +213,107 @@ TEST(Layout, OfAValueIsItsFourMembersInOrder) {
     EXPECT_EQ(reinterpret_cast<const char*>(&value.value) - start, 16);
 }
 
+/// Notes the arguments that a call leaves out: they are compiled into the host.
+class DefaultsOfTheResult : public RecordingResult {
+public:
+    bool present(const char* name, int lo, int hi) override {
+        given = std::to_string(lo) + " to " + std::to_string(hi);
+        return RecordingResult::present(name, lo, hi);
+    }
+    tarv::Value get(const char* name, int lo, int hi) override {
+        given = std::to_string(lo) + " to " + std::to_string(hi);
+        return RecordingResult::get(name, lo, hi);
+    }
+
+    std::string given;
+};
+
+class DefaultsOfTheParser : public RecordingParser {
+public:
+    tarv::IOption& option(const char* names, const char* description, tarv::das_variant_type_t type,
+                          const char* topic) override {
+        given = "topic '" + std::string(topic) + "'";
+        return RecordingParser::option(names, description, type, topic);
+    }
+    tarv::IOption& action(const char* names, const char* description, tarv::das_variant_type_t type,
+                          const char* topic) override {
+        given = "topic '" + std::string(topic) + "'";
+        return RecordingParser::action(names, description, type, topic);
+    }
+    tarv::IOption& modifier(const char* names, const char* tags, const char* description,
+                            tarv::das_variant_type_t type, const char* topic) override {
+        given = "topic '" + std::string(topic) + "'";
+        return RecordingParser::modifier(names, tags, description, type, topic);
+    }
+    const char* getDescription(bool hidden) override {
+        given = hidden ? "hidden" : "not hidden";
+        return RecordingParser::getDescription(hidden);
+    }
+    const char* getDescription(const char* topic, bool hidden) override {
+        given = hidden ? "hidden" : "not hidden";
+        return RecordingParser::getDescription(topic, hidden);
+    }
+    const char* getActionModifiersDescription(const char* action, bool hidden) override {
+        given = hidden ? "hidden" : "not hidden";
+        return RecordingParser::getActionModifiersDescription(action, hidden);
+    }
+    const char* getGlobalModifiersDescription(bool hidden) override {
+        given = hidden ? "hidden" : "not hidden";
+        return RecordingParser::getGlobalModifiersDescription(hidden);
+    }
+    bool addOptionFileOption(const char* description, const char* topic) override {
+        given = "topic '" + std::string(topic) + "'";
+        return RecordingParser::addOptionFileOption(description, topic);
+    }
+
+    std::string given;
+};
+
+TEST(DefaultArguments, OfTheResultAreAllPositions) {
+    DefaultsOfTheResult recorder;
+    tarv::IParseResult& result = recorder;
+    result.present("level");
+    EXPECT_EQ(recorder.given, "0 to 2147483647");
+    recorder.given.clear();
+    result.get("level");
+    EXPECT_EQ(recorder.given, "0 to 2147483647");
+    recorder.given.clear();
+    tarv::getLastValue(&result, "level");
+    EXPECT_EQ(recorder.given, "0 to 2147483647");
+}
+
+TEST(DefaultArguments, OfADeclarationAreTheTopicWithoutAName) {
+    DefaultsOfTheParser recorder;
+    tarv::IParser& parser = recorder;
+    parser.option("level", "", tarv::vtInt32);
+    EXPECT_EQ(recorder.given, "topic ''");
+    recorder.given.clear();
+    parser.action("build", "", tarv::vtNull);
+    EXPECT_EQ(recorder.given, "topic ''");
+    recorder.given.clear();
+    parser.modifier("jobs", "build", "", tarv::vtInt32);
+    EXPECT_EQ(recorder.given, "topic ''");
+    recorder.given.clear();
+    parser.addOptionFileOption("");
+    EXPECT_EQ(recorder.given, "topic ''");
+}
+
+TEST(DefaultArguments, OfHelpLeaveOutWhatIsHidden) {
+    DefaultsOfTheParser recorder;
+    tarv::IParser& parser = recorder;
+    parser.getDescription();
+    EXPECT_EQ(recorder.given, "not hidden");
+    recorder.given.clear();
+    parser.getDescription("level");
+    EXPECT_EQ(recorder.given, "not hidden");
+    recorder.given.clear();
+    parser.getActionModifiersDescription("build");
+    EXPECT_EQ(recorder.given, "not hidden");
+    recorder.given.clear();
+    parser.getGlobalModifiersDescription();
+    EXPECT_EQ(recorder.given, "not hidden");
+}
+
 TEST(Slots, OfTheLibrarysOwnObjectsParseACommandLine) {
     tarv::IParser* parser = nullptr;
     ASSERT_EQ(tarv::createParser(&parser, tarv::flagRejectUnknown), 0);
