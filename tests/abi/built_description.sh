@@ -5,6 +5,7 @@ set -euo pipefail
 work=$1
 root=$(dirname "$0")/../..
 
+rm -rf "$work"
 mkdir -p "$work"
 "$root/tools/update-abi" "$work"
 "$root/tests/abi/check_abi.sh" description "$root/abi/libtarv.abi" "$work/libtarv.abi"
