@@ -155,7 +155,7 @@ void AbbreviationParser::keepBest(std::string_view typed, const std::vector<Opti
 void AbbreviationParser::keepIfBest(std::string_view typed, const std::string& name,
                                     std::int64_t optionIndex) {
     const NameScore found = scoreName(typed, name);
-    if (isBest(found.sameWordCount, found.score)) {
+    if (found.score != 0 && isBest(found.sameWordCount, found.score)) {
         m_matches.push_back({true, found.score, DecomposedName(name)});
         m_optionIndex = optionIndex;
     }
@@ -191,7 +191,7 @@ int AbbreviationParser::findBest(const std::vector<NameMatch>& matches, Decompos
 // Whether a match is to be kept; drops those that it beats.
 bool AbbreviationParser::isBest(bool sameWordCount, std::int32_t score) {
     const std::int32_t bestScore = m_matches.empty() ? 0 : m_matches.front().m_score;
-    if (!sameWordCount || score < bestScore || score == 0) {
+    if (!sameWordCount || score < bestScore) {
         return false;
     }
     if (score > bestScore) {

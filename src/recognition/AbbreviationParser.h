@@ -21,7 +21,7 @@ public:
     struct NameMatch {
         /// Whether it has exactly as many words as the typed name.
         bool m_sameWordCount;
-        /// Above 0.
+        /// Above 0 in every match that `makeNameMatch` appends.
         std::int32_t m_score;
         DecomposedName m_candidate;
     };

@@ -129,6 +129,8 @@ TEST_F(AbbreviationParserMatch, FindsTheOneBestCandidate) {
          "c-d"},
         {{{false, 9, DecomposedName("a-b-c")}, {true, 1, DecomposedName("d")}}, "d"},
         {{{true, 1, DecomposedName("d")}, {false, 1, DecomposedName("a-b")}}, "d"},
+        {{{true, 0, DecomposedName("e")}}, "e"},
+        {{{true, 0, DecomposedName("e")}, {true, 1, DecomposedName("f")}}, "f"},
     };
     for (const auto& row : rows) {
         SCOPED_TRACE(row.best);
@@ -155,6 +157,8 @@ TEST_F(AbbreviationParserMatch, FindsAnAmbiguityAndListsItInOrder) {
     } rows[] = {
         {{{true, 1, DecomposedName("version")}, {true, 1, DecomposedName("verbose")}},
          "Ambiguous option, possible options are: 'version', 'verbose'"},
+        {{{true, 0, DecomposedName("a")}, {true, 0, DecomposedName("b")}, {true, -1, DecomposedName("c")}},
+         "Ambiguous option, possible options are: 'a', 'b'"},
         {{{true, 1, DecomposedName("low")},
           {true, 3, DecomposedName("out-f")},
           {false, 3, DecomposedName("out-f-x")},
