@@ -117,6 +117,15 @@ TEST(Synopsis, ShowsTheDefaultBehindTheKind) {
     }
 }
 
+// A host can only make such a kind with a cast; it has neither a name nor a text.
+TEST(Synopsis, HasEmptyPlacesForAKindThatDoesNotExist) {
+    Declaration declaration("x", static_cast<das_variant_type_t>(5));
+    declaration.refine().defaultValue(7);
+    EXPECT_EQ(declaration.synopsis(), "-x=<>");
+    declaration.refine().allowValue(7).allowValue(8);
+    EXPECT_EQ(declaration.synopsis(), "-x= | ");
+}
+
 TEST(Synopsis, ListsAllowedValuesInTheOrderDeclaredInsteadOfTheKind) {
     Declaration numbers("level", vtInt32);
     numbers.refine().allowValue(3).allowValue(1).allowValue(2);

@@ -50,6 +50,11 @@ void twins(Subject& session) {
     session.parser->option("verbose", "", vtString);
 }
 
+void shades(Subject& session) {
+    open(session);
+    session.parser->option("shade", "", vtString).allowValue("light-blue-as-the-sky").allowValue("lime");
+}
+
 void verbs(Subject& session) {
     open(session);
     session.parser->action("build-the-project,build", "", vtNull);
@@ -220,6 +225,19 @@ std::vector<Scenario> badCommandLines() {
             parseFailed,
             "Value validation problem in argument '--colour-scheme=blue': Option 'colour-scheme' does not "
             "allow value 'blue'. Possible values follows: 'monochrome-and-plain', 'full'"),
+        bad(
+            "ValueIsAmbiguous", shades, [](Subject& s) { return parse(s, {"--shade=li"}); }, parseFailed,
+            "Value validation problem in argument '--shade=li': Ambiguous value for option 'shade'. Possible "
+            "values follows: 'light-blue-as-the-sky', 'lime'"),
+        bad(
+            "TakesNoValue", tool, [](Subject& s) { return parse(s, {"--quiet=as a mouse in the house"}); },
+            parseFailed,
+            "Option 'quiet'does not requires a value in argument: '--quiet=as a mouse in the house'"),
+        bad(
+            "SwitchTakesNoValue", tool, [](Subject& s) { return parse(s, {"--verbose-output=as a brook"}); },
+            parseFailed,
+            "Option 'verbose-output' is boolean and should be declared in form '--option' or '--no-option' "
+            "in argument: '--verbose-output=as a brook'"),
         bad(
             "Ambiguity", twins, [](Subject& s) { return parse(s, {"--ver"}); }, parseFailed,
             "Ambiguous option 'ver' in argument: '--ver', could be: 'version', 'verbose'"),
