@@ -5,7 +5,9 @@ set -euo pipefail
 cd "$(dirname "$0")/.."
 
 tools/apt-install.sh coverage
-./test.sh coverage
+# Counts of earlier runs add up, and would hide what the tests have stopped to reach.
+find build/coverage -name '*.gcda' -delete 2>/dev/null || true
+./test.sh coverage "$@"
 gcovr --root . --filter src/ --filter include/ --exclude-throw-branches --exclude-unreachable-branches \
     --print-summary --json build/coverage/report.json build/coverage
 tools/coverage-report.py build/coverage/report.json tests/coverage-exceptions.txt
