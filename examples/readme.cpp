@@ -1,24 +1,16 @@
+#include <cstdio>
 #include <tarv_3_3/tarv.h>
 
-#include <cstdio>
-
-namespace tarv = tarv_3_3;
+using namespace tarv_3_3;
 
 int main(int argc, char** argv) {
-    tarv::IParser* parser = nullptr;
-    tarv::createParser(&parser, tarv::flagRejectUnknown);
-    parser->option("output-file,o", "Where to write.", tarv::vtString).defaultValue("out.txt");
-    parser->option("level,l", "How hard to try.", tarv::vtInt32).allowValue(1).allowValue(2).defaultValue(1);
-
-    tarv::IParseResult* result = nullptr;
+    IParser* parser = nullptr;
+    createParser(&parser, flagRejectUnknown);
+    parser->option("paper-size", "Paper.", vtString).allowValue("a4").allowValue("letter").defaultValue("a4");
+    IParseResult* result = nullptr;
     parser->createResult(&result);
     const int status = parser->parseArgsVector(argc, argv, result);
-    if (status == tarv::parseOk) {
-        const int level = getLastValue(result, "level").value.get<int>();
-        std::printf("Writing %s at level %d.\n", getLastValue(result, "output-file").text, level);
-    } else {
-        std::printf("%s\n\n%s", parser->getErrorDesc(), parser->getDescription());
-    }
+    std::puts(status == parseOk ? getLastValue(result, "paper-size").text : parser->getErrorDesc());
     result->destroy();
     parser->destroy();
     return status;
