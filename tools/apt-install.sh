@@ -4,6 +4,7 @@
 #   test       what the tests need besides
 #   ci         what only .ci/run needs besides
 #   coverage   what tools/coverage.sh needs besides the tests
+#   memcheck   what tools/memcheck.sh needs besides the tests
 #   benchmark  what the benchmarks need besides a build
 #   peers      the libraries that the benchmarks compare with
 set -euo pipefail
@@ -14,6 +15,7 @@ declare -A groups=(
         libgtest-dev mandoc pkg-config python3"
     [ci]="clang-format clang-tidy cppcheck dpkg-dev file lintian shellcheck"
     [coverage]="gcovr"
+    [memcheck]="valgrind"
     [benchmark]="git libbenchmark-dev python3 time valgrind"
     [peers]="libabsl-dev libargtable2-dev libboost-program-options-dev libcli11-dev libcxxopts-dev
         libgflags-dev libpopt-dev libtclap-dev llvm-14-dev"
