@@ -29,8 +29,10 @@ public:
     virtual IOption& allowValue(const variant_t& value) = 0;
 
     /// What queries yield while the option is not given; replaces an earlier default. The value
-    /// must be of the declared kind: the kind is not checked here, and rendering a default of
-    /// another kind calls the assertion handler. An empty text counts as no default.
+    /// must be of the declared kind, 1.0 for `vtDouble` and 1U for `vtUInt32`: the kind is not
+    /// checked here, and `parseArgsVector` and help render it, which calls the assertion handler for
+    /// another kind. To queries and help an empty text is no default. Where actions are declared, a
+    /// default counts as an option given: see `IParser::action`.
     virtual IOption& defaultValue(const variant_t& value) = 0;
 
     /// The character at which a value is split into a list, 0 for never; ',' at first, unless the

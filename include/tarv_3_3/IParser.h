@@ -63,7 +63,8 @@ public:
                             const char* topic = "") = 0;
 
     /// Declares an action: a verb, given with dashes like any option, of which a command line holds
-    /// at most one. Where actions are declared, a command line that gives options must name one.
+    /// at most one. Where actions are declared, a command line that gives options or positional
+    /// arguments must name one; if any option has a default, so must every one with arguments.
     virtual IOption& action(const char* names, const char* description, das_variant_type_t type,
                             const char* topic = "") = 0;
 
@@ -89,7 +90,7 @@ public:
     /// Parses `text`, one argument a line, into `result`, without recording defaults. Lines that
     /// are blank or begin with ';' or '#' are comments; leading white space and a carriage return
     /// at the end do not count; nothing else is special, blanks and quotes included. A null text is
-    /// empty. Returns a `ParseStatus`.
+    /// empty, and a text that is just "-1" is read as "?". Returns a `ParseStatus`.
     virtual int parseStream(const char* text, IParseResult* result) = 0;
 
     /// The message of the last failure, "" before any. A successful parse leaves it as it is.
