@@ -1,11 +1,7 @@
 #pragma once
 
-#include <functional>
-#include <set>
-#include <string>
-
 #include "tarv_3_3/export.h"
-#include "tarv_3_3/internal/InArena.h"
+#include "tarv_3_3/internal/TextSet.h"
 
 namespace tarv_3_3 {
 
@@ -23,7 +19,7 @@ public:
     virtual const char* init(const char* text);
 
 private:
-    internal::InArena<std::pmr::set<std::pmr::string, std::less<>>> m_strings;
+    internal::TextSet m_strings;
 };
 
 } // namespace tarv_3_3
