@@ -4,7 +4,6 @@
 #include "help/messages.h"
 #include "help/paragraphString.h"
 #include "help/synopsis.h"
-#include "options/findOption.h"
 #include "parser/BasicParser.h"
 
 namespace tarv_3_3 {
@@ -25,14 +24,18 @@ bool isShown(const std::string& topicName, bool hidden) {
     return (topicName == hiddenTopic) == hidden;
 }
 
-std::vector<const OptionDescription*> sortedByName(const std::vector<OptionDescription>& options) {
-    std::vector<const OptionDescription*> sorted;
+using NamedOption = std::pair<std::string_view, const OptionDescription*>;
+
+// As `OptionDescription::operator<` orders them.
+std::vector<NamedOption> sortedByName(const std::vector<OptionDescription>& options) {
+    std::vector<NamedOption> sorted;
     sorted.reserve(options.size());
     for (const OptionDescription& option : options) {
-        sorted.push_back(&option);
+        sorted.emplace_back(option.primaryName(), &option);
     }
-    std::sort(sorted.begin(), sorted.end(),
-              [](const OptionDescription* left, const OptionDescription* right) { return *left < *right; });
+    std::stable_sort(sorted.begin(), sorted.end(), [](const NamedOption& left, const NamedOption& right) {
+        return NameOrder()(left.first, right.first);
+    });
     return sorted;
 }
 
@@ -52,13 +55,13 @@ void appendEntry(std::string& text, const OptionDescription& option) {
         text.append(synopsis).append("\n");
         synopsis.clear();
     }
-    text.append(
-        paragraphString(option.m_description, std::move(synopsis), descriptionColumn, descriptionWidth));
+    text.append(paragraphString(std::string(option.m_description), std::move(synopsis), descriptionColumn,
+                                descriptionWidth));
 }
 
 std::string renderHelp(const std::vector<Topic>& topics, const std::vector<OptionDescription>& options,
                        bool hidden) {
-    const std::vector<const OptionDescription*> sorted = sortedByName(options);
+    const std::vector<NamedOption> sorted = sortedByName(options);
     std::string text;
     text.reserve(usualEntrySize * options.size());
     for (const Topic& topic : topics) {
@@ -66,7 +69,7 @@ std::string renderHelp(const std::vector<Topic>& topics, const std::vector<Optio
             continue;
         }
         appendHeading(text, topic);
-        for (const OptionDescription* option : sorted) {
+        for (const auto& [name, option] : sorted) {
             if (!option->m_positional && option->m_topic.first == topic.first) {
                 appendEntry(text, *option);
             }
@@ -111,7 +114,7 @@ const char* BasicParser::getDescription(const char* topic, bool hidden) {
         return getDescription(hidden);
     }
     unsigned long index = 0;
-    if (findOption(topic, index, m_registry.m_options) != 0) {
+    if (m_registry.find(topic, index) != 0) {
         return describeUnknown(topic, hidden);
     }
     return getDescription(m_registry.m_topics, {m_registry.m_options[index]}, hidden);
@@ -122,7 +125,7 @@ const char* BasicParser::getActionModifiersDescription(const char* action, bool 
         return getDescription(hidden);
     }
     unsigned long index = 0;
-    if (findOption(action, index, m_registry.m_options) != 0) {
+    if (m_registry.find(action, index) != 0) {
         return describeUnknown(action, hidden);
     }
     std::vector<OptionDescription> modifiers;

@@ -7,6 +7,8 @@ namespace tarv_3_3 {
 
 namespace {
 
+constexpr std::size_t usualLines = 2;
+
 std::string_view withoutLeadingBreaks(std::string_view text) {
     return text.substr(std::min(text.find_first_not_of(" \n"), text.size()));
 }
@@ -52,6 +54,7 @@ std::string_view takeChunk(std::string_view text, unsigned long available) {
 
 std::string paragraphString(std::string text, std::string lead, unsigned long indent, unsigned long width) {
     std::string output;
+    output.reserve(lead.size() + text.size() + usualLines * (indent + 1));
     std::string line = std::move(lead);
     std::string_view rest = text;
     while (!rest.empty()) {

@@ -6,6 +6,8 @@ namespace tarv_3_3 {
 
 namespace {
 
+constexpr std::size_t usualLength = 60;
+
 // A kind without a text form shows as nothing.
 std::string textOf(const OptionDescription& option, const variant_t& value) {
     const char* const text = option.toString(option.m_garbage, value);
@@ -46,6 +48,7 @@ void appendDefault(std::string& line, const OptionDescription& option) {
 
 std::string makeSynopsis(const OptionDescription& option) {
     std::string line;
+    line.reserve(usualLength);
     appendNames(line, option);
     if (option.m_type == vtBool) {
         appendNegatedForm(line, option);

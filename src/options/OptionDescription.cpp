@@ -8,16 +8,16 @@ namespace tarv_3_3 {
 
 OptionDescription::OptionDescription() = default;
 
-OptionDescription::OptionDescription(std::vector<std::string> names, std::set<std::string> tags,
-                                     const Topic& topic, const char* description, OptionKind kind,
-                                     das_variant_type_t type, Garbage* garbage)
-    : m_names(std::move(names)), m_tags(std::move(tags)), m_topic(topic), m_description(description),
-      m_kind(kind), m_type(type), m_garbage(garbage) {}
+OptionDescription::OptionDescription(Names names, std::set<std::string> tags, const Topic& topic,
+                                     const char* description, OptionKind kind, das_variant_type_t type,
+                                     Garbage* garbage, std::pmr::memory_resource* memory)
+    : m_names(std::move(names), memory), m_tags(std::move(tags)), m_topic(topic),
+      m_description(description, memory), m_kind(kind), m_type(type), m_garbage(garbage) {}
 
 OptionDescription::OptionDescription(const OptionDescription&) = default;
 OptionDescription::OptionDescription(OptionDescription&&) noexcept = default;
 OptionDescription& OptionDescription::operator=(const OptionDescription&) = default;
-OptionDescription& OptionDescription::operator=(OptionDescription&&) noexcept = default;
+OptionDescription& OptionDescription::operator=(OptionDescription&&) = default;
 OptionDescription::~OptionDescription() = default;
 
 IOption& OptionDescription::synonym(const char* name) {
@@ -64,13 +64,9 @@ void OptionDescription::insertTags(std::set<std::string>& tags, const char* word
     }
 }
 
-const std::string& OptionDescription::primaryName() const {
+const std::string& OptionDescription::noName() {
     static const std::string none;
-    return m_names.empty() ? none : m_names.front();
-}
-
-bool OptionDescription::operator<(const OptionDescription& other) const {
-    return primaryName() < other.primaryName();
+    return none;
 }
 
 } // namespace tarv_3_3

@@ -1,10 +1,12 @@
 #pragma once
 
+#include <memory_resource>
 #include <set>
 #include <string>
 #include <utility>
 #include <vector>
 
+#include "options/NameOrder.h"
 #include "tarv_3_3/IOption.h"
 #include "tarv_3_3/export.h"
 #include "tarv_3_3/variant.h"
@@ -24,17 +26,22 @@ enum OptionKind : int {
 /// A help topic: its name, which identifies it, and its title.
 using Topic = std::pair<std::string, std::string>;
 
+/// The names of one option, the primary one first.
+using Names = std::pmr::vector<std::string>;
+
 /// The record of one declared option, action or modifier. The registry owns all of them by value,
 /// and copies or moves them as its table grows; everybody else reads the fields.
 class TARV_API OptionDescription : public IOption {
 public:
     OptionDescription();
-    OptionDescription(std::vector<std::string> names, std::set<std::string> tags, const Topic& topic,
-                      const char* description, OptionKind kind, das_variant_type_t type, Garbage* garbage);
+    /// The record and what is moved from it keep names and description in `memory`; a copy does not.
+    OptionDescription(Names names, std::set<std::string> tags, const Topic& topic, const char* description,
+                      OptionKind kind, das_variant_type_t type, Garbage* garbage,
+                      std::pmr::memory_resource* memory);
     OptionDescription(const OptionDescription&);
     OptionDescription(OptionDescription&&) noexcept;
     OptionDescription& operator=(const OptionDescription&);
-    OptionDescription& operator=(OptionDescription&&) noexcept;
+    OptionDescription& operator=(OptionDescription&&);
 
     IOption& synonym(const char* name) override;
     IOption& allowValue(const variant_t& value) override;
@@ -49,7 +56,7 @@ public:
     static void insertTags(std::set<std::string>& tags, const char* words);
 
     /// The first name; empty when there is none.
-    const std::string& primaryName() const;
+    const std::string& primaryName() const { return m_names.empty() ? noName() : m_names.front(); }
 
     /// Converts `text` to the option's kind and checks it against the allowed values. An
     /// unambiguous prefix of an allowed text is completed in `text` and `value`. On failure returns
@@ -68,13 +75,15 @@ public:
     std::string getTypeName() const;
 
     /// Orders by primary name, bytewise; equal names are equivalent.
-    bool operator<(const OptionDescription& other) const;
+    bool operator<(const OptionDescription& other) const {
+        return NameOrder()(primaryName(), other.primaryName());
+    }
 
-    std::vector<std::string> m_names;
+    Names m_names;
     /// An action's own names, a modifier's actions, and whatever else was tagged.
     std::set<std::string> m_tags;
     Topic m_topic;
-    std::string m_description;
+    std::pmr::string m_description;
     bool m_positional = false;
     bool m_hasDefault = false;
     OptionKind m_kind = Invalid;
@@ -88,6 +97,7 @@ public:
     Garbage* m_garbage = nullptr;
 
 private:
+    static const std::string& noName();
     bool acceptAbbreviation(std::string& text, variant_t& value, std::string& message) const;
     std::string allowedValueList() const;
 };

@@ -1,5 +1,6 @@
 #include <charconv>
 #include <string_view>
+#include <utility>
 
 #include "options/OptionDescription.h"
 #include "options/conversions.h"
@@ -47,23 +48,23 @@ variant_t OptionDescription::fromString(const char* text, Garbage* garbage) cons
     switch (m_type) {
     case vtBool:
         operation.execute<bool>();
-        return operation.result;
+        return std::move(operation.result);
     case vtInt32:
         operation.execute<std::int32_t>();
-        return operation.result;
+        return std::move(operation.result);
     case vtUInt32:
         return convertedWholeText<std::uint32_t>(text);
     case vtInt64:
         operation.execute<std::int64_t>();
-        return operation.result;
+        return std::move(operation.result);
     case vtUInt64:
         operation.execute<std::uint64_t>();
-        return operation.result;
+        return std::move(operation.result);
     case vtDouble:
         return convertedWholeText<double>(text);
     case vtString:
         operation.execute<const char*>();
-        return operation.result;
+        return std::move(operation.result);
     case vtNull:
         break;
     }
@@ -121,7 +122,7 @@ std::string OptionDescription::getTypeName() const {
     case vtNull:
         break;
     }
-    return operation.result;
+    return std::move(operation.result);
 }
 
 bool OptionDescription::validate(std::string& text, variant_t& value, std::string& message) const {

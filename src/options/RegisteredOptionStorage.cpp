@@ -1,6 +1,7 @@
 #include "options/RegisteredOptionStorage.h"
 
 #include <algorithm>
+#include <cstring>
 
 #include "options/findOption.h"
 #include "options/messages.h"
@@ -21,6 +22,12 @@ constexpr std::size_t expectedOptions = 32;
 // And give them a name, or a name and a short form.
 constexpr std::size_t usualNames = 2;
 
+constexpr std::string_view negation = "no-";
+
+bool isNegated(std::string_view name) {
+    return name.size() >= negation.size() && std::memcmp(name.data(), negation.data(), negation.size()) == 0;
+}
+
 } // namespace
 
 RegisteredOptionStorage::RegisteredOptionStorage() = default;
@@ -34,14 +41,14 @@ IOption& RegisteredOptionStorage::option(const char* names, const char* tags, co
     if (names == nullptr) {
         return refuse();
     }
-    std::vector<std::string> nameList;
+    Names nameList(&m_memory);
     nameList.reserve(usualNames);
     split(names, nameList);
     if (validateName(nameList) != 0) {
         return refuse();
     }
-    unsigned long index = 0;
-    if (findOption(nameList, index, m_options) == 0) {
+    NameEntries entries{};
+    if (isTaken(nameList, entries)) {
         internal::writeLogLine(internal::messages::nameAlreadyRegistered, names);
         return refuse();
     }
@@ -53,9 +60,14 @@ IOption& RegisteredOptionStorage::option(const char* names, const char* tags, co
     }
     makeRoom();
     m_options.emplace_back(std::move(nameList), std::move(tagWords), registeredTopic, orEmpty(description),
-                           isAction ? Action : Option, type, m_garbage);
-    m_options.back().tokenize(m_defaultTokenizer);
-    return m_options.back();
+                           isAction ? Action : Option, type, m_garbage, &m_memory);
+    OptionDescription& declared = m_options.back();
+    declared.m_tokenizer = m_defaultTokenizer;
+    m_learntNames = declared.m_names.size();
+    for (std::size_t i = 0; i < m_learntNames; ++i) {
+        entries[i]->note = m_options.size();
+    }
+    return declared;
 }
 
 IOption& RegisteredOptionStorage::action(const char* names, const char* description, das_variant_type_t type,
@@ -77,6 +89,56 @@ const Topic& RegisteredOptionStorage::registerTopic(std::string_view topic) {
     }
     const std::string_view title = name.size() < topic.size() ? topic.substr(name.size() + 1) : "";
     return m_topics.emplace_back(name, title);
+}
+
+// Names of refused declarations get entries as well, which note nothing.
+bool RegisteredOptionStorage::isTaken(const Names& names, NameEntries& entries) {
+    learnSynonyms();
+    bool taken = false;
+    for (std::size_t i = 0; i < names.size(); ++i) {
+        entries[i] = &m_names.insert(names[i]);
+        taken = taken || noteFor(names[i], entries[i]->note) != 0;
+    }
+    unsigned long index = 0;
+    return taken || (m_sharesNames && findOption(names, index, m_options) == 0);
+}
+
+int RegisteredOptionStorage::find(const std::string& name, unsigned long& index) {
+    learnSynonyms();
+    if (m_sharesNames) {
+        return findOption(name, index, m_options);
+    }
+    const internal::TextSet::Entry* const entry = m_names.find(name);
+    const std::size_t note = noteFor(name, entry != nullptr ? entry->note : 0);
+    if (note == 0) {
+        return 1;
+    }
+    index = note - 1;
+    return 0;
+}
+
+// Of the record that has the name as it is, and the switch that has it behind "no-", the first one.
+std::size_t RegisteredOptionStorage::noteFor(std::string_view name, std::size_t plain) const {
+    if (!isNegated(name)) {
+        return plain;
+    }
+    const internal::TextSet::Entry* const entry = m_names.find(name.substr(negation.size()));
+    const std::size_t negated = entry != nullptr ? entry->note : 0;
+    const bool isSwitch = negated != 0 && m_options[negated - 1].m_type == vtBool;
+    return isSwitch && (plain == 0 || negated < plain) ? negated : plain;
+}
+
+// Its host may add synonyms to the last record until the next declaration. Nobody checks those.
+void RegisteredOptionStorage::learnSynonyms() {
+    if (m_options.empty()) {
+        return;
+    }
+    const Names& names = m_options.back().m_names;
+    for (; m_learntNames < names.size(); ++m_learntNames) {
+        std::size_t& note = m_names.insert(names[m_learntNames]).note;
+        m_sharesNames = m_sharesNames || note != 0;
+        note = note != 0 ? note : m_options.size();
+    }
 }
 
 void RegisteredOptionStorage::makeRoom() {
@@ -112,7 +174,7 @@ IOption& RegisteredOptionStorage::refuse() {
     return m_invalidOption;
 }
 
-int validateName(const std::vector<std::string>& names) {
+int validateName(const Names& names) {
     const bool tooMany = names.size() > 3;
     const bool longThirdName = names.size() == 3 && names[2].size() > 2;
     return tooMany || longThirdName ? 1 : 0;

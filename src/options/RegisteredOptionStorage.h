@@ -1,11 +1,14 @@
 #pragma once
 
-#include <string>
+#include <array>
+#include <cstddef>
+#include <memory_resource>
 #include <string_view>
 #include <vector>
 
 #include "options/OptionDescription.h"
 #include "tarv_3_3/export.h"
+#include "tarv_3_3/internal/TextSet.h"
 #include "tarv_3_3/variant.h"
 
 namespace tarv_3_3 {
@@ -38,6 +41,9 @@ public:
     virtual IOption& modifier(const char* names, const char* tags, const char* description,
                               das_variant_type_t type, const char* topic);
 
+    /// What `findOption` finds in the table, at a cost that does not grow with it.
+    int find(const std::string& name, unsigned long& index);
+
     /// Keeps the records where they are while somebody works on them: a parse, whose handlers may
     /// declare options. Pins nest.
     class Pin {
@@ -51,6 +57,11 @@ public:
         RegisteredOptionStorage& m_storage;
     };
 
+private:
+    /// Holds names and descriptions, which only go with the registry.
+    std::pmr::monotonic_buffer_resource m_memory;
+
+public:
     /// The list separator of new declarations.
     char m_defaultTokenizer = ',';
     std::vector<OptionDescription> m_options;
@@ -61,10 +72,22 @@ public:
     OptionDescription m_invalidOption;
 
 private:
+    static constexpr std::size_t mostNames = 3;
+    using NameEntries = std::array<internal::TextSet::Entry*, mostNames>;
+
+    bool isTaken(const Names& names, NameEntries& entries);
+    std::size_t noteFor(std::string_view name, std::size_t plain) const;
+    void learnSynonyms();
     void makeRoom();
     const Topic& registerTopic(std::string_view topic);
     IOption& refuse();
 
+    /// Every name with a note of the first record that has it: its place plus one, 0 for none. Of the
+    /// last record only the first `m_learntNames`.
+    internal::TextSet m_names;
+    std::size_t m_learntNames = 0;
+    /// Two records share a name: the notes do not say any more which switch is the first to have it.
+    bool m_sharesNames = false;
     int m_pins = 0;
     /// Tables that a larger one has replaced while they were pinned.
     std::vector<std::vector<OptionDescription>> m_outgrown;
@@ -72,6 +95,6 @@ private:
 
 /// Whether a declaration may have these names: 0 yes, 1 no. At most three, a third one at most two
 /// bytes long; nothing else is checked.
-TARV_API int validateName(const std::vector<std::string>& names);
+TARV_API int validateName(const Names& names);
 
 } // namespace tarv_3_3

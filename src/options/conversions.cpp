@@ -13,6 +13,8 @@
 
 namespace tarv_3_3 {
 
+using namespace std::string_literals;
+
 namespace {
 
 std::istringstream classicStream(const char* text) {
@@ -146,37 +148,37 @@ bool OperationToString::execute<const char*>() {
 
 template <>
 bool OperatorGetTypeName::execute<std::int32_t>() {
-    result = "integer";
+    result = "integer"s;
     return true;
 }
 
 template <>
 bool OperatorGetTypeName::execute<std::uint32_t>() {
-    result = "unsigned integer";
+    result = "unsigned integer"s;
     return true;
 }
 
 template <>
 bool OperatorGetTypeName::execute<std::int64_t>() {
-    result = "64 bit integer";
+    result = "64 bit integer"s;
     return true;
 }
 
 template <>
 bool OperatorGetTypeName::execute<std::uint64_t>() {
-    result = "unsigned 64 bit or hex";
+    result = "unsigned 64 bit or hex"s;
     return true;
 }
 
 template <>
 bool OperatorGetTypeName::execute<double>() {
-    result = "double";
+    result = "double"s;
     return true;
 }
 
 template <>
 bool OperatorGetTypeName::execute<const char*>() {
-    result = "string";
+    result = "string"s;
     return true;
 }
 

@@ -4,8 +4,6 @@
 #include <cstring>
 #include <string_view>
 
-#include "options/OptionDescription.h"
-
 namespace tarv_3_3 {
 
 namespace {
@@ -18,7 +16,7 @@ bool equal(const std::string& name, std::string_view wanted) {
            std::memcmp(name.data(), wanted.data(), wanted.size()) == 0;
 }
 
-bool contains(const std::vector<std::string>& names, std::string_view wanted) {
+bool contains(const Names& names, std::string_view wanted) {
     // A loop, since std::any_of is not inlined here: every look-up in the table would pay for its calls.
     // NOLINTNEXTLINE(readability-use-anyofallof)
     for (const std::string& name : names) {
@@ -60,8 +58,7 @@ int findOption(const std::string& name, unsigned long& index, const std::vector<
     return 0;
 }
 
-int findOption(const std::vector<std::string>& names, unsigned long& index,
-               const std::vector<OptionDescription>& options) {
+int findOption(const Names& names, unsigned long& index, const std::vector<OptionDescription>& options) {
     for (const std::string& name : names) {
         if (findOption(name, index, options) == 0) {
             return 0;

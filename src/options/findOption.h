@@ -3,11 +3,10 @@
 #include <string>
 #include <vector>
 
+#include "options/OptionDescription.h"
 #include "tarv_3_3/export.h"
 
 namespace tarv_3_3 {
-
-class OptionDescription;
 
 /// Finds the first record that has exactly the name `name`, or is a switch and has the name behind
 /// "no-". Returns 0 with its place in `index`, or 1 with `index` untouched.
@@ -15,7 +14,7 @@ TARV_API int findOption(const std::string& name, unsigned long& index,
                         const std::vector<OptionDescription>& options);
 
 /// The same for the first of `names` that is found; 1 when none is.
-TARV_API int findOption(const std::vector<std::string>& names, unsigned long& index,
+TARV_API int findOption(const Names& names, unsigned long& index,
                         const std::vector<OptionDescription>& options);
 
 } // namespace tarv_3_3

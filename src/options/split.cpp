@@ -1,5 +1,6 @@
 #include "options/split.h"
 
+#include <memory_resource>
 #include <utility>
 #include <vector>
 
@@ -10,19 +11,22 @@ result_t split(std::string text, Words& pieces) {
     std::size_t start = 0;
     std::size_t comma = text.find(',');
     while (comma != std::string::npos) {
-        pieces.push_back(text.substr(start, comma - start));
+        pieces.emplace_back(text, start, comma - start);
         start = comma + 1;
         comma = text.find(',', start + 1);
     }
     if (start == text.size() && !text.empty()) {
         pieces.push_back(std::string(1, '\0'));
-    } else if (start < text.size()) {
-        text.erase(0, start);
+    } else if (start > 0) {
+        pieces.emplace_back(text, start);
+    } else if (!text.empty()) {
         pieces.push_back(std::move(text));
     }
     return 0;
 }
 
 template result_t split<std::vector<std::string>>(std::string text, std::vector<std::string>& pieces);
+template result_t split<std::pmr::vector<std::string>>(std::string text,
+                                                       std::pmr::vector<std::string>& pieces);
 
 } // namespace tarv_3_3

@@ -48,7 +48,7 @@ bool BasicParser::isOptionDeclared(const char* name, bool isAction, const char* 
 bool BasicParser::isOptionDeclared(const char* name, bool isAction, const char* topic,
                                    const std::vector<OptionDescription>& options) const {
     return std::any_of(options.begin(), options.end(), [&](const OptionDescription& option) {
-        const std::vector<std::string>& names = option.m_names;
+        const Names& names = option.m_names;
         return (option.m_kind == Action) == isAction && (topic == nullptr || option.m_topic.first == topic) &&
                std::find(names.begin(), names.end(), name) != names.end();
     });

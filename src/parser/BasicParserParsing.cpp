@@ -1,7 +1,6 @@
 #include <algorithm>
 #include <exception>
 
-#include "options/findOption.h"
 #include "parser/BasicParser.h"
 #include "parser/messages.h"
 #include "recognition/AbbreviationParser.h"
@@ -184,7 +183,7 @@ int BasicParser::parse_phase_two(const std::string& /*endMarker*/, std::vector<s
     bool optionStored = false;
     for (const auto& entry : stored.entries()) {
         unsigned long index = 0;
-        const int status = findOption(entry.first, index, options);
+        const int status = m_registry.find(entry.first, index);
         if (status != 0) {
             return status;
         }
@@ -214,7 +213,7 @@ int BasicParser::checkModifiers(const OptionDescription& action, const ParseResu
     const std::vector<OptionDescription>& options = m_registry.m_options;
     for (const auto& [name, data] : result.entries()) {
         unsigned long index = 0;
-        const int status = findOption(name, index, options);
+        const int status = m_registry.find(name, index);
         if (status != 0) {
             return status;
         }

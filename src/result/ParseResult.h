@@ -1,13 +1,13 @@
 #pragma once
 
 #include <cstddef>
-#include <functional>
 #include <map>
 #include <string>
 #include <string_view>
 #include <utility>
 #include <vector>
 
+#include "options/NameOrder.h"
 #include "tarv_3_3/IParseResult.h"
 #include "tarv_3_3/export.h"
 #include "tarv_3_3/internal/Garbage.h"
@@ -26,7 +26,7 @@ class OptionDescription;
 /// go on iterating after one.
 class TARV_API ParseResult : public IParseResult, public IResultCollector {
 public:
-    using Entries = std::pmr::map<std::string, OptionData, std::less<>>;
+    using Entries = std::pmr::map<std::string, OptionData, NameOrder>;
 
     ParseResult();
     ~ParseResult() override;

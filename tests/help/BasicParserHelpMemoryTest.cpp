@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
 
+#include <string_view>
+
 #include "parser/BasicParser.h"
 #include "reliability/FailingAllocations.h"
 
@@ -27,6 +29,7 @@ TEST(HelpRenderer, YieldsTheLastErrorWhicheverAllocationFails) {
     const std::vector<OptionDescription> options = declared.getGlobalModifiers();
 
     long number = 1;
+    int survived = 0;
     for (bool failed = true; failed; ++number) {
         SCOPED_TRACE(number);
         BasicParser parser(0);
@@ -34,11 +37,14 @@ TEST(HelpRenderer, YieldsTheLastErrorWhicheverAllocationFails) {
         failing::arm(number, failing::Mode::once);
         const char* const text = parser.getDescription(std::move(given), options, false);
         failed = failing::disarm().failed != 0;
-        EXPECT_STREQ(text, failed ? "Unknown error handled." : help);
-        EXPECT_STREQ(parser.getErrorDesc(), failed ? "Unknown error handled." : "");
+        const bool reported = std::string_view(parser.getErrorDesc()) == "Unknown error handled.";
+        EXPECT_STREQ(text, reported ? "Unknown error handled." : help);
+        survived += failed && !reported ? 1 : 0;
         EXPECT_STREQ(parser.getDescription(topics(), options, false), help);
     }
     EXPECT_GT(number, 10);
+    // Sorting does without the buffer that it asks for.
+    EXPECT_EQ(survived, 1);
 }
 
 } // namespace

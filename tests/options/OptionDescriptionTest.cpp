@@ -14,7 +14,7 @@
 namespace tarv_3_3 {
 namespace {
 
-using Words = std::vector<std::string>;
+using Words = Names;
 using Tags = std::set<std::string>;
 using Values = std::vector<variant_t>;
 

@@ -10,7 +10,7 @@
 namespace tarv_3_3 {
 namespace {
 
-using Words = std::vector<std::string>;
+using Words = Names;
 
 class PinnedOptions : public testing::Test {
 protected:

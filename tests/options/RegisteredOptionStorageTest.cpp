@@ -17,7 +17,7 @@
 namespace tarv_3_3 {
 namespace {
 
-using Words = std::vector<std::string>;
+using Words = Names;
 using Tags = std::set<std::string>;
 using Topics = std::vector<Topic>;
 

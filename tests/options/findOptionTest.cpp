@@ -10,7 +10,7 @@
 namespace tarv_3_3 {
 namespace {
 
-OptionDescription record(std::vector<std::string> names, das_variant_type_t type) {
+OptionDescription record(Names names, das_variant_type_t type) {
     OptionDescription option;
     option.m_names = std::move(names);
     option.m_type = type;
@@ -91,7 +91,7 @@ TEST(FindOptionByList, YieldsTheFirstNameThatIsFound) {
     const std::vector<OptionDescription> options = {record({"first", "f"}, vtNull),
                                                     record({"second"}, vtBool), record({"third"}, vtString)};
     const struct {
-        std::vector<std::string> names;
+        Names names;
         int place;
     } rows[] = {
         {{"first"}, 0},

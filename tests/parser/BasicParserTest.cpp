@@ -18,7 +18,7 @@ TEST(BasicParser, DeclaresAnOptionWithoutTags) {
     BasicParser parser(0);
     const OptionDescription& option = record(parser.option("level,l", "How much.", vtInt32, "out:Output"));
     EXPECT_EQ(option.m_status, 0);
-    EXPECT_EQ(option.m_names, (std::vector<std::string>{"level", "l"}));
+    EXPECT_EQ(option.m_names, (Names{"level", "l"}));
     EXPECT_EQ(option.m_description, "How much.");
     EXPECT_EQ(option.m_type, vtInt32);
     EXPECT_EQ(option.m_topic, Topic("out", "Output"));
@@ -29,7 +29,7 @@ TEST(BasicParser, DeclaresAnOptionWithoutTags) {
 TEST(BasicParser, DeclaresAnActionTaggedWithItsNames) {
     BasicParser parser(0);
     const OptionDescription& action = record(parser.action("build,b", "Builds.", vtNull, "main"));
-    EXPECT_EQ(action.m_names, (std::vector<std::string>{"build", "b"}));
+    EXPECT_EQ(action.m_names, (Names{"build", "b"}));
     EXPECT_EQ(action.m_description, "Builds.");
     EXPECT_EQ(action.m_type, vtNull);
     EXPECT_EQ(action.m_topic, Topic("main", ""));
@@ -41,7 +41,7 @@ TEST(BasicParser, DeclaresAModifierTaggedWithItsActions) {
     BasicParser parser(0);
     const OptionDescription& modifier =
         record(parser.modifier("jobs,j", "build,test", "How many.", vtUInt32, "main"));
-    EXPECT_EQ(modifier.m_names, (std::vector<std::string>{"jobs", "j"}));
+    EXPECT_EQ(modifier.m_names, (Names{"jobs", "j"}));
     EXPECT_EQ(modifier.m_description, "How many.");
     EXPECT_EQ(modifier.m_type, vtUInt32);
     EXPECT_EQ(modifier.m_topic, Topic("main", ""));

@@ -14,7 +14,7 @@ protected:
     AbbreviationParser recognizer{nullptr, nullptr, 0};
 };
 
-OptionDescription named(std::vector<std::string> names, das_variant_type_t type) {
+OptionDescription named(Names names, das_variant_type_t type) {
     OptionDescription option;
     option.m_names = std::move(names);
     option.m_type = type;

@@ -23,8 +23,7 @@ class ParseResultStore : public ::testing::Test {
 protected:
     std::string entries() const { return entriesOf(result, positions); }
 
-    OptionDescription withDefault(std::vector<std::string> names, das_variant_type_t type,
-                                  const variant_t& value) {
+    OptionDescription withDefault(Names names, das_variant_type_t type, const variant_t& value) {
         OptionDescription option = optionNamed(std::move(names), type);
         option.m_garbage = &garbage;
         option.defaultValue(value);

@@ -9,7 +9,7 @@
 #include "tarv_3_3/Value.h"
 #include "tarv_3_3/internal/OptionData.h"
 
-inline tarv_3_3::OptionDescription optionNamed(std::vector<std::string> names,
+inline tarv_3_3::OptionDescription optionNamed(tarv_3_3::Names names,
                                                tarv_3_3::das_variant_type_t type = tarv_3_3::vtString) {
     tarv_3_3::OptionDescription option;
     option.m_names = std::move(names);

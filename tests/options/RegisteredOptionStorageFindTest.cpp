@@ -1,0 +1,117 @@
+#include <gtest/gtest.h>
+
+#include <string>
+
+#include "options/RegisteredOptionStorage.h"
+#include "tarv_3_3/internal/Garbage.h"
+
+namespace tarv_3_3 {
+namespace {
+
+class RegisteredOptionsFind : public testing::Test {
+protected:
+    RegisteredOptionsFind() { registry.m_garbage = &garbage; }
+
+    IOption& declare(const char* names, das_variant_type_t type = vtInt32) {
+        return registry.option(names, nullptr, "", false, type, "");
+    }
+
+    /// The place of the record that is found, -1 for none.
+    int place(const char* name) {
+        constexpr unsigned long untouched = 77;
+        unsigned long index = untouched;
+        const int status = registry.find(name, index);
+        EXPECT_EQ(status, index == untouched ? 1 : 0);
+        return index == untouched ? -1 : static_cast<int>(index);
+    }
+
+    Garbage garbage;
+    RegisteredOptionStorage registry;
+};
+
+TEST_F(RegisteredOptionsFind, FindsNothingInAnEmptyTable) {
+    EXPECT_EQ(place("name"), -1);
+    EXPECT_EQ(place("no-name"), -1);
+    EXPECT_EQ(place(""), -1);
+}
+
+TEST_F(RegisteredOptionsFind, FindsWholeNamesAndTheNegatedOnesOfSwitches) {
+    declare("verbose,v,ld");
+    declare("color,c", vtBool);
+    declare("Color", vtNull);
+    declare("no-log", vtBool);
+    const struct {
+        const char* name;
+        int place;
+    } rows[] = {
+        {"verbose", 0},    {"v", 0},         {"ld", 0},           {"color", 1},       {"c", 1},
+        {"no-color", 1},   {"no-c", 1},      {"Color", 2},        {"no-log", 3},      {"no-no-log", 3},
+        {"verbos", -1},    {"verbosee", -1}, {"Verbose", -1},     {"no-verbose", -1}, {"no-v", -1},
+        {"no-Color", -1},  {"log", -1},      {"no-no-color", -1}, {"nocolor", -1},    {"No-color", -1},
+        {"no-colo", -1},   {"no-", -1},      {"no", -1},          {"", -1},           {"--verbose", -1},
+        {"no-colors", -1}, {"no_color", -1},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.name);
+        EXPECT_EQ(place(row.name), row.place);
+    }
+}
+
+TEST_F(RegisteredOptionsFind, FindsTheFirstOfANameAndTheNegatedOneOfASwitch) {
+    declare("no-color");
+    declare("color", vtBool);
+    declare("log", vtBool).synonym("other");
+    declare("last").synonym("no-other");
+    EXPECT_EQ(place("no-color"), 0);
+    EXPECT_EQ(place("no-no-color"), -1);
+    EXPECT_EQ(place("no-other"), 2);
+}
+
+TEST_F(RegisteredOptionsFind, FindsASynonymThatCameAfterTheFirstLook) {
+    declare("first");
+    IOption& last = declare("last", vtBool);
+    EXPECT_EQ(place("late"), -1);
+    last.synonym("late");
+    EXPECT_EQ(place("late"), 1);
+    EXPECT_EQ(place("no-late"), 1);
+    last.synonym("later");
+    declare("behind");
+    EXPECT_EQ(place("later"), 1);
+    EXPECT_EQ(place("behind"), 2);
+}
+
+TEST_F(RegisteredOptionsFind, FindsTheFirstRecordOfANameThatSynonymsRepeat) {
+    declare("number").synonym("x");
+    declare("switch", vtBool).synonym("x");
+    declare("again", vtBool).synonym("number");
+    EXPECT_EQ(place("x"), 0);
+    EXPECT_EQ(place("no-x"), 1);
+    EXPECT_EQ(place("number"), 0);
+    EXPECT_EQ(place("no-number"), 2);
+    EXPECT_EQ(declare("no-x").m_status, 1);
+    EXPECT_EQ(declare("x").m_status, 1);
+    EXPECT_EQ(declare("y,number").m_status, 1);
+    EXPECT_EQ(declare("y").m_status, 0);
+    EXPECT_EQ(place("y"), 3);
+}
+
+TEST_F(RegisteredOptionsFind, FindsNoNameOfARefusedDeclarationUntilItIsDeclared) {
+    declare("taken");
+    EXPECT_EQ(declare("free,taken", vtBool).m_status, 1);
+    EXPECT_EQ(place("free"), -1);
+    EXPECT_EQ(place("no-free"), -1);
+    EXPECT_EQ(declare("free", vtBool).m_status, 0);
+    EXPECT_EQ(place("free"), 1);
+    EXPECT_EQ(place("no-free"), 1);
+}
+
+TEST_F(RegisteredOptionsFind, FindsTheSynonymsOfARecordWithoutNames) {
+    IOption& nameless = declare("");
+    EXPECT_EQ(place("named"), -1);
+    nameless.synonym("named");
+    EXPECT_EQ(place("named"), 0);
+    EXPECT_EQ(declare("named").m_status, 1);
+}
+
+} // namespace
+} // namespace tarv_3_3
