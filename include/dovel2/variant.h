@@ -48,7 +48,7 @@ struct variant_memory_t {
 class TARV_API variant_t {
 public:
     /// The null kind.
-    variant_t();
+    variant_t() noexcept : m_type(vtNull), m_value{} {}
     ///@{
     /// The kind that the type of `value` stands for; every integer type has one.
     variant_t(bool value);
@@ -66,14 +66,24 @@ public:
     variant_t(const void*) = delete;
 
     /// Shares a text with `other`.
-    variant_t(const variant_t& other) noexcept;
+    variant_t(const variant_t& other) noexcept : m_type(other.m_type), m_value(other.m_value) {
+        if (m_type == vtString) {
+            retain_text();
+        }
+    }
     /// Leaves `other` null.
-    variant_t(variant_t&& other) noexcept;
+    variant_t(variant_t&& other) noexcept : m_type(other.m_type), m_value(other.m_value) {
+        other.m_type = vtNull;
+    }
     /// Shares a text with `other`.
     variant_t& operator=(const variant_t& other) noexcept;
     /// Leaves the former value of this one in `other`.
     variant_t& operator=(variant_t&& other) noexcept;
-    ~variant_t();
+    ~variant_t() {
+        if (m_type == vtString) {
+            release_text();
+        }
+    }
 
     /// The kind.
     das_variant_type_t type() const noexcept { return m_type; }
@@ -103,6 +113,9 @@ public:
     static variant_memory_t m_mem;
 
 private:
+    void retain_text() const noexcept;
+    void release_text() noexcept;
+
     das_variant_type_t m_type;
     union {
         bool boolean;

@@ -21,15 +21,10 @@ struct TARV_API Value {
     variant_t value;
 
     /// An empty record: no text, `valueMissing`, `noPosition`, the null kind.
-    Value();
+    Value() : text(nullptr), status(valueMissing), position(noPosition) {}
     /// A found value; the pointer is stored as given.
-    Value(const char* text, const variant_t& value, int position);
-    ~Value();
-    ///@{
-    /// A copy of every field; the text behind `text` is not copied.
-    Value(const Value&) noexcept;
-    Value& operator=(const Value&) noexcept;
-    ///@}
+    Value(const char* textOfValue, const variant_t& typedValue, int positionIndex)
+        : text(textOfValue), status(valueFound), position(positionIndex), value(typedValue) {}
 
     /// `as<const char*>()`, the only one there is: the text when `status` is `valueFound`, else null.
     template <class T>

@@ -49,8 +49,6 @@ shared_text_t* makeSharedText(const char* text) {
 
 variant_memory_t variant_t::m_mem = {std::malloc, std::free};
 
-variant_t::variant_t() : m_type(vtNull), m_value{} {}
-
 variant_t::variant_t(bool value) : m_type(vtBool), m_value{} {
     m_value.boolean = value;
 }
@@ -83,14 +81,14 @@ variant_t::variant_t(const char* text) : m_type(vtString), m_value{} {
     m_value.text = internal::makeSharedText(text != nullptr ? text : "");
 }
 
-variant_t::variant_t(const variant_t& other) noexcept : m_type(other.m_type), m_value(other.m_value) {
-    if (m_type == vtString) {
-        internal::sync_inc(&m_value.text->references);
-    }
+void variant_t::retain_text() const noexcept {
+    internal::sync_inc(&m_value.text->references);
 }
 
-variant_t::variant_t(variant_t&& other) noexcept : m_type(other.m_type), m_value(other.m_value) {
-    other.m_type = vtNull;
+void variant_t::release_text() noexcept {
+    if (internal::sync_dec(&m_value.text->references) == 0) {
+        m_mem.release(m_value.text);
+    }
 }
 
 variant_t& variant_t::operator=(const variant_t& other) noexcept {
@@ -102,12 +100,6 @@ variant_t& variant_t::operator=(variant_t&& other) noexcept {
     std::swap(m_type, other.m_type);
     std::swap(m_value, other.m_value);
     return *this;
-}
-
-variant_t::~variant_t() {
-    if (m_type == vtString && internal::sync_dec(&m_value.text->references) == 0) {
-        m_mem.release(m_value.text);
-    }
 }
 
 // clang-format off
