@@ -21,10 +21,14 @@ TarvLog::~TarvLog() {
 
 std::ostream& TarvLog::discarding() {
     if (m_stream == nullptr) {
-        m_buffer = std::make_unique<basic_nullbuf<char, std::char_traits<char>>>();
-        m_stream = std::make_unique<std::ostream>(m_buffer.get());
+        open();
     }
     return *m_stream;
+}
+
+void TarvLog::open() {
+    m_buffer = std::make_unique<basic_nullbuf<char, std::char_traits<char>>>();
+    m_stream = std::make_unique<std::ostream>(m_buffer.get());
 }
 
 std::ostream& tarvLog() {
@@ -34,7 +38,7 @@ std::ostream& tarvLog() {
 
 std::ostream* workingLog() {
     std::ostream& log = tarvLog();
-    return log ? &log : nullptr;
+    return log.fail() ? nullptr : &log;
 }
 
 } // namespace tarv_3_3::internal

@@ -50,6 +50,9 @@ struct NameScore {
 
 // Goes through both names at once; at the end of each typed word skips what the candidate's has more.
 NameScore scoreName(std::string_view typed, std::string_view candidate) {
+    if (typed == candidate) {
+        return {true, 2 * static_cast<std::int32_t>(1 + std::count(typed.begin(), typed.end(), '-'))};
+    }
     std::int32_t score = 0;
     std::size_t place = 0;
     for (std::size_t i = 0; i <= typed.size(); ++i, ++place) {
@@ -101,10 +104,10 @@ int AbbreviationParser::recognize(std::vector<std::string>& args, std::vector<Op
     log(": recognizing argument '", argument, "'");
     m_optionIndex = -1;
     m_matches.clear();
-    const Token token = splitToken(argument, m_classifier);
-    if (argument.size() < 2 || token.dashes == 0) {
+    if (argument.size() < 2 || getDashLength(argument, 0) == 0) {
         return 1;
     }
+    const Token token = splitToken(argument, m_classifier);
     keepBest(token.name, options);
     const int outcome = findOutcome(err);
     if (outcome == 2) {
@@ -270,7 +273,7 @@ int AbbreviationParser::takeNextArgument(const OptionDescription& option, std::v
         return fail(err, messages::requiresValue(option.primaryName(), formatTokenMessage(args[0])));
     }
     value = args[1];
-    if (value.compare(0, 1, "-") == 0) {
+    if (beginsWithHyphen(value)) {
         return fail(err, messages::nextLooksLikeOption(option.primaryName(), value));
     }
     consumed = 2;

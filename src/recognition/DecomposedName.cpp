@@ -1,12 +1,17 @@
 #include "recognition/DecomposedName.h"
 
-#include <algorithm>
 #include <ostream>
 
 namespace tarv_3_3 {
 
+namespace {
+
+constexpr std::size_t usualWords = 3;
+
+} // namespace
+
 DecomposedName::DecomposedName(const std::string& name) {
-    m_words.reserve(1 + static_cast<std::size_t>(std::count(name.begin(), name.end(), '-')));
+    m_words.reserve(usualWords);
     std::size_t start = 0;
     for (std::size_t dash = name.find('-'); dash != std::string::npos; dash = name.find('-', start)) {
         m_words.emplace_back(name, start, dash - start);

@@ -14,6 +14,12 @@ namespace tarv_3_3 {
 
 namespace messages = internal::messages;
 
+namespace {
+
+constexpr std::size_t usualElements = 1;
+
+} // namespace
+
 int IArgumentParser::m_idx = 1;
 
 IArgumentParser::IArgumentParser(EventHandler* handler, Garbage* garbage, unsigned int flags)
@@ -40,6 +46,7 @@ int IArgumentParser::parseValueAndAddOption(std::string& value, std::string& err
     std::byte buffer[256];
     std::pmr::monotonic_buffer_resource arena(buffer, sizeof buffer);
     OptionData data(&arena);
+    data.positions.reserve(1);
     data.positions.push_back(getNewPositionIndex());
     if (!value.empty()) {
         log(": adding values to result container:");
@@ -59,6 +66,7 @@ int IArgumentParser::parseValueAndAddOption(std::string& value, std::string& err
 int IArgumentParser::bindSingleValue(std::string& value, std::string& err, const OptionDescription& option,
                                      const std::string& argument, OptionData& data) {
     log(": not using tokenizer");
+    data.values.reserve(1);
     return bindPiece(value, value, err, option, argument, data);
 }
 
@@ -72,6 +80,7 @@ int IArgumentParser::bindList(const std::string& value, std::string& err, const 
         log(": ", err);
         return parseFailed;
     }
+    data.values.reserve(usualElements);
     while (start != std::string::npos) {
         const std::size_t end = value.find(separator, start);
         std::string piece = value.substr(start, end - start);

@@ -4,6 +4,7 @@
 
 #include "options/OptionDescription.h"
 #include "recognition/ArgumentWindow.h"
+#include "recognition/tokenSyntax.h"
 #include "tarv_3_3/EventHandler.h"
 #include "tarv_3_3/IParser.h"
 
@@ -28,7 +29,7 @@ PositionalOptionsParser::~PositionalOptionsParser() = default;
 int PositionalOptionsParser::recognize(std::vector<std::string>& args,
                                        std::vector<OptionDescription>& options, std::string& /*err*/) {
     log(": recognizing argument '", args.at(0), "'");
-    if ((m_flags & flagDashIsNotPositional) != 0 && args[0].compare(0, 1, "-") == 0) {
+    if ((m_flags & flagDashIsNotPositional) != 0 && beginsWithHyphen(args[0])) {
         return 1;
     }
     return findPositional(options) != options.end() ? 0 : 1;

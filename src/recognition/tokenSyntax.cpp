@@ -36,17 +36,25 @@ std::array<ustring8, dashes.size()> makeDashTexts() {
     return texts;
 }
 
-unsigned long dashLength(std::string_view text, std::size_t pos) {
+unsigned long unicodeDashLength(std::string_view text) {
     static const auto dashTexts = makeDashTexts();
-    const std::string_view rest = text.substr(std::min(pos, text.size()));
-    if (!rest.empty()) {
-        for (const ustring8& dash : dashTexts) {
-            if (rest.front() == dash.front() && rest.substr(0, dash.size()) == dash) {
-                return dash.size();
-            }
+    for (const ustring8& dash : dashTexts) {
+        if (text.substr(0, dash.size()) == dash) {
+            return dash.size();
         }
     }
     return 0;
+}
+
+// Nearly every argument begins in ASCII, of which one character is a dash.
+unsigned long dashLength(std::string_view text, std::size_t pos) {
+    if (pos >= text.size()) {
+        return 0;
+    }
+    if (static_cast<unsigned char>(text[pos]) < 0x80) {
+        return text[pos] == '-' ? 1 : 0;
+    }
+    return unicodeDashLength(text.substr(pos));
 }
 
 } // namespace

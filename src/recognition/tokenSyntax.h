@@ -13,6 +13,11 @@ class SpaceClassifier;
 /// dash, the en dash, the em dash, the horizontal bar and the swung dash, 0 when there is none.
 TARV_API unsigned long getDashLength(const std::string& text, unsigned long pos);
 
+/// Whether a text begins with '-', which the other dashes are not.
+inline bool beginsWithHyphen(std::string_view text) {
+    return !text.empty() && text.front() == '-';
+}
+
 /// An argument cut into pieces, which point into it.
 struct Token {
     /// How many bytes of dashes stand in front.

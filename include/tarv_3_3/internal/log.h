@@ -34,6 +34,8 @@ public:
     std::ostream& discarding();
 
 private:
+    void open();
+
     std::unique_ptr<std::ostream> m_stream;
     std::unique_ptr<std::streambuf> m_buffer;
 };
