@@ -19,6 +19,9 @@ const char* orEmpty(const char* text) {
 // Most programs declare a few dozen options: their table is not to move over and over.
 constexpr std::size_t expectedOptions = 32;
 
+// Larger ones are moved seldom, since that costs as much as adding a record.
+constexpr std::size_t growth = 4;
+
 // And give them a name, or a name and a short form.
 constexpr std::size_t usualNames = 2;
 
@@ -145,7 +148,7 @@ void RegisteredOptionStorage::makeRoom() {
     if (m_options.size() < m_options.capacity()) {
         return;
     }
-    const std::size_t room = std::max(expectedOptions, 2 * m_options.capacity());
+    const std::size_t room = std::max(expectedOptions, growth * m_options.capacity());
     if (m_pins == 0) {
         m_options.reserve(room);
         return;
