@@ -1,24 +1,15 @@
 #include "recognition/IArgumentParser.h"
 
-#include <cstddef>
-#include <memory_resource>
 #include <utility>
 
 #include "options/OptionDescription.h"
 #include "recognition/messages.h"
 #include "tarv_3_3/EventHandler.h"
 #include "tarv_3_3/internal/IResultCollector.h"
-#include "tarv_3_3/internal/OptionData.h"
 
 namespace tarv_3_3 {
 
 namespace messages = internal::messages;
-
-namespace {
-
-constexpr std::size_t usualElements = 1;
-
-} // namespace
 
 int IArgumentParser::m_idx = 1;
 
@@ -42,36 +33,31 @@ int IArgumentParser::getNewPositionIndex() {
 int IArgumentParser::parseValueAndAddOption(std::string& value, std::string& err,
                                             const OptionDescription& option, std::vector<std::string>& args,
                                             IResultCollector* collector) {
-    // Enough for an occurrence with one value; a list takes more from the heap.
-    std::byte buffer[256];
-    std::pmr::monotonic_buffer_resource arena(buffer, sizeof buffer);
-    OptionData data(&arena);
-    data.positions.reserve(1);
-    data.positions.push_back(getNewPositionIndex());
+    m_occurrence.positions.assign(1, getNewPositionIndex());
+    m_occurrence.values.clear();
     if (!value.empty()) {
         log(": adding values to result container:");
-        const int status = option.m_tokenizer == 0 ? bindSingleValue(value, err, option, args[0], data)
-                                                   : bindList(value, err, option, args[0], data);
+        const int status = option.m_tokenizer == 0 ? bindSingleValue(value, err, option, args[0])
+                                                   : bindList(value, err, option, args[0]);
         if (status != parseOk) {
             return status;
         }
     }
     if (collector != nullptr) {
-        collector->store(option, data);
+        collector->store(option, m_occurrence);
     }
     log(": stored option to result container.");
     return parseOk;
 }
 
 int IArgumentParser::bindSingleValue(std::string& value, std::string& err, const OptionDescription& option,
-                                     const std::string& argument, OptionData& data) {
+                                     const std::string& argument) {
     log(": not using tokenizer");
-    data.values.reserve(1);
-    return bindPiece(value, value, err, option, argument, data);
+    return bindPiece(value, value, err, option, argument);
 }
 
 int IArgumentParser::bindList(const std::string& value, std::string& err, const OptionDescription& option,
-                              const std::string& argument, OptionData& data) {
+                              const std::string& argument) {
     const char separator = option.m_tokenizer;
     log(": using tokenizer on char: '", separator, "'");
     std::size_t start = value.find_first_not_of(separator);
@@ -80,25 +66,23 @@ int IArgumentParser::bindList(const std::string& value, std::string& err, const 
         log(": ", err);
         return parseFailed;
     }
-    data.values.reserve(usualElements);
     while (start != std::string::npos) {
         const std::size_t end = value.find(separator, start);
         std::string piece = value.substr(start, end - start);
         log(": value is: '", piece, "'");
-        const int status = bindPiece(piece, value, err, option, argument, data);
+        const int status = bindPiece(piece, value, err, option, argument);
         if (status != parseOk) {
             return status;
         }
         log(": sent event on value parsed, option: '", option.primaryName(), "', value: '",
-            data.values.back().text, "'");
+            m_occurrence.values.back().text, "'");
         start = value.find_first_not_of(separator, end);
     }
     return parseOk;
 }
 
 int IArgumentParser::bindPiece(std::string& piece, const std::string& value, std::string& err,
-                               const OptionDescription& option, const std::string& argument,
-                               OptionData& data) {
+                               const OptionDescription& option, const std::string& argument) {
     variant_t converted;
     if (!option.validate(piece, converted, err)) {
         err = messages::invalidValue(argument, err);
@@ -112,7 +96,7 @@ int IArgumentParser::bindPiece(std::string& piece, const std::string& value, std
         log(err, " One of the handler signaled the value is not valid.");
         return parseVetoed;
     }
-    data.values.push_back({piece, std::move(converted), position});
+    m_occurrence.values.push_back({piece, std::move(converted), position});
     return parseOk;
 }
 

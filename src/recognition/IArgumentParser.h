@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "tarv_3_3/export.h"
+#include "tarv_3_3/internal/OptionData.h"
 #include "tarv_3_3/internal/log.h"
 
 namespace tarv_3_3 {
@@ -12,7 +13,6 @@ class EventHandler;
 class Garbage;
 class IResultCollector;
 class OptionDescription;
-struct OptionData;
 
 /// A recognizer of arguments. The parse driver shows the argument at the front to every recognizer;
 /// of those that take it, the one with the highest priority parses it.
@@ -72,11 +72,14 @@ protected:
 
 private:
     int bindSingleValue(std::string& value, std::string& err, const OptionDescription& option,
-                        const std::string& argument, OptionData& data);
+                        const std::string& argument);
     int bindList(const std::string& value, std::string& err, const OptionDescription& option,
-                 const std::string& argument, OptionData& data);
+                 const std::string& argument);
     int bindPiece(std::string& piece, const std::string& value, std::string& err,
-                  const OptionDescription& option, const std::string& argument, OptionData& data);
+                  const OptionDescription& option, const std::string& argument);
+
+    /// The one being bound. It keeps its memory for the next one.
+    OptionData m_occurrence;
 };
 
 } // namespace tarv_3_3
