@@ -78,7 +78,7 @@ Token splitToken(std::string_view arg, const SpaceClassifier& classifier) {
             ++valueStart;
         }
     }
-    return {start, arg.substr(start, end - start), arg.substr(valueStart), end < arg.size()};
+    return {arg.substr(start, end - start), arg.substr(valueStart), end < arg.size()};
 }
 
 bool splitOptionValue(const std::string& arg, std::string* name, std::string* value) {

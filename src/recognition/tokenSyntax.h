@@ -20,8 +20,6 @@ inline bool beginsWithHyphen(std::string_view text) {
 
 /// An argument cut into pieces, which point into it.
 struct Token {
-    /// How many bytes of dashes stand in front.
-    std::size_t dashes;
     std::string_view name;
     /// Empty when there is none.
     std::string_view value;
