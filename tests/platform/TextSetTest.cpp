@@ -2,7 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include <functional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace tarv_3_3::internal {
@@ -78,6 +80,28 @@ TEST(TextSet, KeepsEveryEntryInItsPlaceAsItGrows) {
         ASSERT_EQ(entries[i]->note, i);
     }
     EXPECT_EQ(set.find(textOf(count)), nullptr);
+}
+
+// Whoever writes command lines can find texts with one hash; these were found for the one of libstdc++.
+TEST(TextSet, TellsTextsOfTheSameHashApart) {
+    const std::vector<std::string> texts = {
+        "the text\xA3\x3D\x60\x3D\x76\xC0\x96\xEA",
+        "another \x06\x10\xD2\x9B\x43\x17\x61\x4D",
+        "the text",
+    };
+    const std::hash<std::string_view> hash;
+    TextSet set;
+    std::vector<const TextSet::Entry*> entries;
+    for (const std::string& text : texts) {
+        ASSERT_EQ(hash(text), hash(texts[0]));
+        EXPECT_EQ(set.find(text), nullptr);
+        entries.push_back(&set.insert(text));
+    }
+    for (std::size_t i = 0; i < texts.size(); ++i) {
+        SCOPED_TRACE(i);
+        EXPECT_EQ(std::string(entries[i]->bytes(), entries[i]->size), texts[i]);
+        EXPECT_EQ(set.find(texts[i]), entries[i]);
+    }
 }
 
 } // namespace
