@@ -83,6 +83,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t siz
         if (std::string("oam").find(what) == std::string::npos) {
             if (last != nullptr && std::string("stkpdv").find(what) != std::string::npos) {
                 const std::string text = fields.until('\n').c_str();
+                parse.hasDefaultDouble = parse.hasDefaultDouble || (what == 'd' && kind == vtDouble);
                 refine(*last, kind, what, text);
                 continue;
             }

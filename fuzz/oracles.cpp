@@ -100,6 +100,16 @@ bool isWhatTheTextSays(const char* text, const variant_t& value) {
     return text != nullptr ? extracted(text, value.type()) == value : value.type() == vtNull;
 }
 
+bool isDoubleWrittenAs(const char* text, const variant_t& value) {
+    if (text == nullptr || !value.can_get<double>()) {
+        return false;
+    }
+    std::ostringstream stream;
+    stream.imbue(std::locale::classic());
+    stream << value.get<double>();
+    return stream.str() == text;
+}
+
 namespace {
 
 /// Takes the trace, which a command line may switch on, and drops it.
@@ -169,8 +179,9 @@ std::string Parse::dump(const std::vector<std::string>& names) const {
         text += name + (result->present(key) ? ":" : "-");
         Value last;
         for (Value value = result->get(key); value.status == valueFound; value = result->next(key)) {
-            require(isWhatTheTextSays(value.text, value.value), "a value is not what its text says",
-                    value.text != nullptr ? value.text : "(null)");
+            const bool isRounded = hasDefaultDouble && isDoubleWrittenAs(value.text, value.value);
+            require(isRounded || isWhatTheTextSays(value.text, value.value),
+                    "a value is not what its text says", value.text != nullptr ? value.text : "(null)");
             text += std::to_string(value.position - first) + "=" + (value.text != nullptr ? value.text : "") +
                     ";";
             last = value;

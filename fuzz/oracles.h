@@ -34,6 +34,8 @@ struct Parse {
     tarv_3_3::IParseResult* result = nullptr;
     /// An option declared with no name at all cannot be stored: then a parse may end as unidentified.
     bool hasNamelessOption = false;
+    /// The text of a default that is a double has six digits, the value may have more.
+    bool hasDefaultDouble = false;
 
 private:
     int checked(int status, const std::string& errorBefore) const;
@@ -45,6 +47,9 @@ void requireSameTwice(Parse& parse, const std::vector<std::string>& arguments,
 
 /// Whether `value` is what the standard extraction reads from the text, which was accepted.
 bool isWhatTheTextSays(const char* text, const tarv_3_3::variant_t& value);
+
+/// Whether `value` is a double, and the standard insertion writes it as `text`.
+bool isDoubleWrittenAs(const char* text, const tarv_3_3::variant_t& value);
 
 /// What the standard extraction yields for a text of the given kind; null when it refuses.
 tarv_3_3::variant_t extracted(const std::string& text, tarv_3_3::das_variant_type_t kind);
