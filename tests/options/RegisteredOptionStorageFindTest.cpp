@@ -3,6 +3,7 @@
 #include <string>
 
 #include "options/RegisteredOptionStorage.h"
+#include "options/WantedNames.h"
 #include "tarv_3_3/internal/Garbage.h"
 
 namespace tarv_3_3 {
@@ -40,18 +41,7 @@ TEST_F(RegisteredOptionsFind, FindsWholeNamesAndTheNegatedOnesOfSwitches) {
     declare("color,c", vtBool);
     declare("Color", vtNull);
     declare("no-log", vtBool);
-    const struct {
-        const char* name;
-        int place;
-    } rows[] = {
-        {"verbose", 0},    {"v", 0},         {"ld", 0},           {"color", 1},       {"c", 1},
-        {"no-color", 1},   {"no-c", 1},      {"Color", 2},        {"no-log", 3},      {"no-no-log", 3},
-        {"verbos", -1},    {"verbosee", -1}, {"Verbose", -1},     {"no-verbose", -1}, {"no-v", -1},
-        {"no-Color", -1},  {"log", -1},      {"no-no-color", -1}, {"nocolor", -1},    {"No-color", -1},
-        {"no-colo", -1},   {"no-", -1},      {"no", -1},          {"", -1},           {"--verbose", -1},
-        {"no-colors", -1}, {"no_color", -1},
-    };
-    for (const auto& row : rows) {
+    for (const WantedName& row : wantedNames) {
         SCOPED_TRACE(row.name);
         EXPECT_EQ(place(row.name), row.place);
     }

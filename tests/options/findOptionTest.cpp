@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "options/OptionDescription.h"
+#include "options/WantedNames.h"
 
 namespace tarv_3_3 {
 namespace {
@@ -32,23 +33,12 @@ int place(const Name& name, const std::vector<OptionDescription>& options) {
 
 TEST(FindOption, FindsWholeNamesAndTheNegatedOnesOfSwitches) {
     const std::vector<OptionDescription> options = {
-        record({"verbose", "v", "loud"}, vtInt32),
+        record({"verbose", "v", "ld"}, vtInt32),
         record({"color", "c"}, vtBool),
         record({"Color"}, vtNull),
         record({"no-log"}, vtBool),
     };
-    const struct {
-        const char* name;
-        int place;
-    } rows[] = {
-        {"verbose", 0},    {"v", 0},         {"loud", 0},         {"color", 1},       {"c", 1},
-        {"no-color", 1},   {"no-c", 1},      {"Color", 2},        {"no-log", 3},      {"no-no-log", 3},
-        {"verbos", -1},    {"verbosee", -1}, {"Verbose", -1},     {"no-verbose", -1}, {"no-v", -1},
-        {"no-Color", -1},  {"log", -1},      {"no-no-color", -1}, {"nocolor", -1},    {"No-color", -1},
-        {"no-colo", -1},   {"no-", -1},      {"no", -1},          {"", -1},           {"--verbose", -1},
-        {"no-colors", -1}, {"no_color", -1},
-    };
-    for (const auto& row : rows) {
+    for (const WantedName& row : wantedNames) {
         SCOPED_TRACE(row.name);
         EXPECT_EQ(place(std::string(row.name), options), row.place);
     }
