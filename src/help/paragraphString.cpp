@@ -54,6 +54,9 @@ std::string_view takeChunk(std::string_view text, unsigned long available) {
 
 std::string paragraphString(std::string text, std::string lead, unsigned long indent, unsigned long width) {
     std::string output;
+    if (text.empty()) {
+        return output;
+    }
     output.reserve(lead.size() + text.size() + usualLines * (indent + 1));
     std::string line = std::move(lead);
     std::string_view rest = text;

@@ -34,6 +34,7 @@ TEST(ParagraphString, DropsTheLeadOfAnEmptyText) {
         {4, 10, "", "", ""},
         {4, 10, "-v", "", ""},
         {4, 10, "-verbose", "", ""},
+        {1UL << 62, 10, "-v", "", ""},
     });
 }
 
