@@ -8,6 +8,8 @@ IParseResult::~IParseResult() = default;
 
 namespace {
 
+constexpr std::size_t firstBlock = 4096;
+
 // The cursor of plain arguments before they were asked for: past any end.
 constexpr auto notStarted = static_cast<std::size_t>(-1);
 
@@ -31,7 +33,9 @@ Value makeValue(int status, const char* text, const variant_t& value, int positi
 
 } // namespace
 
-ParseResult::ParseResult() : m_current(m_options.end()), m_freeArgumentCursor(notStarted) {}
+ParseResult::ParseResult()
+    : m_memory(firstBlock), m_options(&m_memory), m_current(m_options.end()),
+      m_freeArgumentCursor(notStarted) {}
 
 ParseResult::~ParseResult() = default;
 

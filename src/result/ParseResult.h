@@ -2,6 +2,7 @@
 
 #include <cstddef>
 #include <map>
+#include <memory_resource>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -12,7 +13,6 @@
 #include "tarv_3_3/export.h"
 #include "tarv_3_3/internal/Garbage.h"
 #include "tarv_3_3/internal/IResultCollector.h"
-#include "tarv_3_3/internal/InArena.h"
 #include "tarv_3_3/internal/OptionData.h"
 
 namespace tarv_3_3 {
@@ -70,7 +70,9 @@ private:
     static bool isDefaulted(const OptionData& data);
     char* keep(const std::string& text);
 
-    internal::InArena<Entries, 4096> m_options;
+    /// Holds the entries and their lists, which only go with the result.
+    std::pmr::monotonic_buffer_resource m_memory;
+    Entries m_options;
     /// Places in the lists of the current entry.
     std::size_t m_valuesCursor = 0;
     std::size_t m_positionsCursor = 0;
