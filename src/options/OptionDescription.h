@@ -34,7 +34,8 @@ using Names = std::pmr::vector<std::string>;
 class TARV_API OptionDescription : public IOption {
 public:
     OptionDescription();
-    /// The record and what is moved from it keep names and description in `memory`; a copy does not.
+    /// The record and what is moved from it keep the list of names and the description in `memory`,
+    /// and must not outlive it; a copy does not.
     OptionDescription(Names names, std::set<std::string> tags, const Topic& topic, const char* description,
                       OptionKind kind, das_variant_type_t type, Garbage* garbage,
                       std::pmr::memory_resource* memory);

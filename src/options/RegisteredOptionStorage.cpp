@@ -19,10 +19,10 @@ const char* orEmpty(const char* text) {
 // Most programs declare a few dozen options: their table is not to move over and over.
 constexpr std::size_t expectedOptions = 32;
 
-// Larger ones are moved seldom, since that costs as much as adding a record.
+// Larger tables move seldom, since to move a record costs about as much as to add one.
 constexpr std::size_t growth = 4;
 
-// And give them a name, or a name and a short form.
+// Most declarations have a name, or a name and a short form.
 constexpr std::size_t usualNames = 2;
 
 constexpr std::string_view negation = "no-";

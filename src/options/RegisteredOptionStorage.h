@@ -41,7 +41,8 @@ public:
     virtual IOption& modifier(const char* names, const char* tags, const char* description,
                               das_variant_type_t type, const char* topic);
 
-    /// What `findOption` finds in the table, at a cost that does not grow with it.
+    /// What `findOption` finds in the table, at a cost that does not grow with it unless a synonym
+    /// repeats a name. It knows the synonyms that a record was given before the next declaration.
     int find(const std::string& name, unsigned long& index);
 
     /// Keeps the records where they are while somebody works on them: a parse, whose handlers may
@@ -58,7 +59,7 @@ public:
     };
 
 private:
-    /// Holds names and descriptions, which only go with the registry.
+    /// Holds lists of names and descriptions, which only go with the registry.
     std::pmr::monotonic_buffer_resource m_memory;
 
 public:
@@ -86,7 +87,7 @@ private:
     /// last record only the first `m_learntNames`.
     internal::TextSet m_names;
     std::size_t m_learntNames = 0;
-    /// Two records share a name: the notes do not say any more which switch is the first to have it.
+    /// A synonym repeats a name: the notes do not say any more which switch is the first to have it.
     bool m_sharesNames = false;
     int m_pins = 0;
     /// Tables that a larger one has replaced while they were pinned.

@@ -78,7 +78,8 @@ private:
     int bindPiece(std::string& piece, const std::string& value, std::string& err,
                   const OptionDescription& option, const std::string& argument);
 
-    /// The one being bound. It keeps its memory for the next one.
+    /// The one being bound. It keeps its memory for the next one. A handler that starts a parse
+    /// meanwhile gets recognizers of its own there.
     OptionData m_occurrence;
 };
 

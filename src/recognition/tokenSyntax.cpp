@@ -1,6 +1,5 @@
 #include "recognition/tokenSyntax.h"
 
-#include <algorithm>
 #include <array>
 
 #include "platform/utf32_to_utf8.h"
