@@ -70,6 +70,13 @@ TEST_F(RegisteredOptionsFind, FindsASynonymThatCameAfterTheFirstLook) {
     EXPECT_EQ(place("behind"), 2);
 }
 
+TEST_F(RegisteredOptionsFind, FindsASynonymOfARecordWithFewerNamesThanTheOneBefore) {
+    declare("first,one,x");
+    declare("second").synonym("two");
+    EXPECT_EQ(place("two"), 1);
+    EXPECT_EQ(declare("two").m_status, 1);
+}
+
 TEST_F(RegisteredOptionsFind, FindsTheFirstRecordOfANameThatSynonymsRepeat) {
     declare("number").synonym("x");
     declare("switch", vtBool).synonym("x");
@@ -83,6 +90,15 @@ TEST_F(RegisteredOptionsFind, FindsTheFirstRecordOfANameThatSynonymsRepeat) {
     EXPECT_EQ(declare("y,number").m_status, 1);
     EXPECT_EQ(declare("y").m_status, 0);
     EXPECT_EQ(place("y"), 3);
+}
+
+TEST_F(RegisteredOptionsFind, FindsTheFirstRecordOfARepeatedNameBehindSynonymsOfTheirOwn) {
+    declare("number").synonym("x");
+    declare("switch", vtBool).synonym("x").synonym("own");
+    declare("last").synonym("another");
+    EXPECT_EQ(place("x"), 0);
+    EXPECT_EQ(place("no-x"), 1);
+    EXPECT_EQ(declare("no-x").m_status, 1);
 }
 
 TEST_F(RegisteredOptionsFind, FindsNoNameOfARefusedDeclarationUntilItIsDeclared) {

@@ -23,3 +23,8 @@ bool RememberingHandler::onOptionParse(const char* name) {
     names.emplace_back(name);
     return true;
 }
+
+bool DeclaringHandler::onOptionParse(const char*) {
+    parser->option("a-name-behind-the-last", "", tarv_3_3::vtString);
+    return true;
+}

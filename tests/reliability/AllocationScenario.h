@@ -25,6 +25,13 @@ struct RememberingHandler : tarv_3_3::EventHandler {
     std::vector<std::string> names;
 };
 
+/// A handler that declares an option when it is told of one.
+struct DeclaringHandler : tarv_3_3::EventHandler {
+    bool onOptionParse(const char* name) override;
+
+    tarv_3_3::IParser* parser = nullptr;
+};
+
 /// What a scenario works on.
 struct Subject : Session {
     /// The declaration that a builder works on.
@@ -33,6 +40,7 @@ struct Subject : Session {
     const char* text = nullptr;
     CountingHandler counting;
     RememberingHandler remembering;
+    DeclaringHandler declaring;
 };
 
 /// How a scenario may answer a failed allocation.

@@ -46,11 +46,18 @@ std::string growthKeepsTheFirst(Subject& session) {
                                     : "");
 }
 
-void declareEight(Subject& session) {
+// As many as the first table takes.
+void fillTheTable(Subject& session) {
     declareLevel(session);
-    for (const char* const name : {"one", "two", "three", "four", "five", "six", "seven"}) {
-        session.parser->option(name, "", vtString);
+    for (int i = 1; i < 32; ++i) {
+        session.parser->option(("option" + std::to_string(i)).c_str(), "", vtString);
     }
+}
+
+// The registry needs memory to learn it.
+void declareLongSynonym(Subject& session) {
+    declareLevel(session);
+    session.declaration->synonym(std::string(5000, 'x').c_str());
 }
 
 CountingHandler sharedHandler;
@@ -129,7 +136,10 @@ std::vector<Scenario> declarationScenarios() {
              return isNew && s.parser->addOptionFileOption("Reads more arguments.") ? 0 : 1;
          },
          0, help, "-option-file=<string>         Reads more arguments.\n\n"},
-        {"DeclarationThatMovesTheTable", Failure::throws, declareEight,
+        {"DeclarationBehindALongSynonym", Failure::throws, declareLongSynonym,
+         [](Subject& s) { return s.parser->option("another-name", "", vtString).m_status; }, 0,
+         [](Subject& s) { return parseAndShow(s, {"--level=lo"}, {"level"}); }, "0 level=lo"},
+        {"DeclarationThatMovesTheTable", Failure::throws, fillTheTable,
          [](Subject& s) { return s.parser->option("a-name-behind-the-last", "", vtString).m_status; }, 0,
          growthKeepsTheFirst, "0 level=lo and the last"},
         {"TextVariant", Failure::throws, nothing,

@@ -320,6 +320,22 @@ std::vector<Scenario> handlerScenarios() {
          },
          [](Subject& s) { return parse(s, {"--output-file=one,two"}); }, parseVetoed, error,
          "Value 'one,two' is not valid for option 'output-file' in argument '--output-file=one,two'"},
+        {"HandlerThatDeclaresIntoAFullTable", Failure::parse,
+         [](Subject& s) {
+             open(s);
+             // As many as the first table takes.
+             for (int i = 1; i <= 32; ++i) {
+                 s.parser->option(("option" + std::to_string(i)).c_str(), "", vtString);
+             }
+             s.declaring.parser = s.parser;
+             s.parser->addHandler(&s.declaring);
+         },
+         [](Subject& s) { return parse(s, {"--option32=x"}); }, parseOk,
+         [](Subject& s) {
+             return parseAndShow(s, {"--option1=y", "--a-name-behind-the-last=z"},
+                                 {"option1", "a-name-behind-the-last"});
+         },
+         "0 option1=y a-name-behind-the-last=z"},
         {"HandlerOfUnknownArguments", Failure::parse,
          [](Subject& s) {
              verbs(s);
