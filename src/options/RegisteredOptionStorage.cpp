@@ -140,7 +140,7 @@ void RegisteredOptionStorage::learnSynonyms() {
     for (; m_learntNames < names.size(); ++m_learntNames) {
         std::size_t& note = m_names.insert(names[m_learntNames]).note;
         m_sharesNames = m_sharesNames || note != 0;
-        note = note != 0 ? note : m_options.size();
+        note = m_options.size();
     }
 }
 

@@ -83,11 +83,11 @@ private:
     const Topic& registerTopic(std::string_view topic);
     IOption& refuse();
 
-    /// Every name with a note of the first record that has it: its place plus one, 0 for none. Of the
-    /// last record only the first `m_learntNames`.
+    /// Every name with a note of the record that has it: its place plus one, 0 for none. Of the last
+    /// record only the first `m_learntNames`.
     internal::TextSet m_names;
     std::size_t m_learntNames = 0;
-    /// A synonym repeats a name: the notes do not say any more which switch is the first to have it.
+    /// A synonym repeats a name: its note does not say any more which record is the first to have it.
     bool m_sharesNames = false;
     int m_pins = 0;
     /// Tables that a larger one has replaced while they were pinned.

@@ -158,7 +158,7 @@ void AbbreviationParser::keepBest(std::string_view typed, const std::vector<Opti
 void AbbreviationParser::keepIfBest(std::string_view typed, const std::string& name,
                                     std::int64_t optionIndex) {
     const NameScore found = scoreName(typed, name);
-    if (found.score != 0 && isBest(found.sameWordCount, found.score)) {
+    if (isBest(found.sameWordCount, found.score)) {
         m_matches.push_back({true, found.score, DecomposedName(name)});
         m_optionIndex = optionIndex;
     }

@@ -92,6 +92,13 @@ TEST_F(RegisteredOptionsFind, FindsTheFirstRecordOfANameThatSynonymsRepeat) {
     EXPECT_EQ(place("y"), 3);
 }
 
+TEST_F(RegisteredOptionsFind, RefusesTheNegatedNameOfASwitchWhoseSynonymAnotherRecordRepeats) {
+    declare("switch", vtBool).synonym("x");
+    declare("number").synonym("x");
+    EXPECT_EQ(place("no-x"), 0);
+    EXPECT_EQ(declare("no-x").m_status, 1);
+}
+
 TEST_F(RegisteredOptionsFind, FindsTheFirstRecordOfARepeatedNameBehindSynonymsOfTheirOwn) {
     declare("number").synonym("x");
     declare("switch", vtBool).synonym("x").synonym("own");
