@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <iostream>
+#include <memory_resource>
 #include <set>
 #include <sstream>
 #include <string>
@@ -337,6 +338,18 @@ TEST_F(RegisteredOptions, TakeANullDescriptionAndTopicForEmptyOnes) {
     EXPECT_EQ(registry.option("name", nullptr, nullptr, false, vtInt32, nullptr).m_status, 0);
     EXPECT_EQ(registry.m_options[0].m_description, "");
     EXPECT_EQ(registry.m_options[0].m_topic, Topic("", ""));
+}
+
+TEST_F(RegisteredOptions, AreCopiedOutOfTheMemoryOfTheRegistry) {
+    declare("level,l");
+    const OptionDescription& declaredOne = registry.m_options.front();
+    OptionDescription assigned;
+    assigned = declaredOne;
+    for (const OptionDescription& copy : {OptionDescription(declaredOne), assigned}) {
+        EXPECT_EQ(copy.m_names, (Words{"level", "l"}));
+        EXPECT_EQ(copy.m_names.get_allocator().resource(), std::pmr::get_default_resource());
+        EXPECT_EQ(copy.m_description.get_allocator().resource(), std::pmr::get_default_resource());
+    }
 }
 
 TEST_F(RegisteredOptions, DeclareActionsAndModifiersThroughTheVirtualOption) {
