@@ -173,6 +173,19 @@ TEST_F(HostileHandlers, ThatParseIntoAnotherResultLeaveThisOneAlone) {
     other->destroy();
 }
 
+TEST_F(HostileHandlers, ThatParseInTheMiddleOfAListLeaveItWhole) {
+    Session other;
+    session.parser->createResult(&other.result);
+    session.parser->addHandler(&handlers[0]);
+    handlers[0].atValue = [&] {
+        handlers[0].atValue = nullptr;
+        const char* const argv[] = {"host", "--name=x,y"};
+        EXPECT_EQ(session.parser->parseArgsVector(2, argv, other.result), parseOk);
+    };
+    EXPECT_EQ(parseAndShow(session, {"--name=a,b,c"}, {"name"}), "0 name=a,b,c");
+    EXPECT_EQ(stored(other, {"name"}), "name=x,y");
+}
+
 TEST_F(HostileHandlers, ThatParseWithAnotherParserAreUndisturbed) {
     Session other;
     open(other);
