@@ -50,8 +50,9 @@ unsigned long dashLength(std::string_view text, std::size_t pos) {
     if (pos >= text.size()) {
         return 0;
     }
-    if (static_cast<unsigned char>(text[pos]) < 0x80) {
-        return text[pos] == '-' ? 1 : 0;
+    const auto byte = static_cast<unsigned char>(text[pos]);
+    if (byte < 0x80) {
+        return byte == dashes.front() ? 1 : 0;
     }
     return unicodeDashLength(text.substr(pos));
 }
