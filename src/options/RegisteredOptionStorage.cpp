@@ -108,13 +108,11 @@ bool RegisteredOptionStorage::isTaken(const Names& names, NameEntries& entries) 
 
 int RegisteredOptionStorage::find(const std::string& name, unsigned long& index) {
     learnSynonyms();
-    if (m_sharesNames) {
-        return findOption(name, index, m_options);
-    }
     const internal::TextSet::Entry* const entry = m_names.find(name);
     const std::size_t note = noteFor(name, entry != nullptr ? entry->note : 0);
-    if (note == 0) {
-        return 1;
+    // A host that holds on to a reference for too long may have given a name unseen.
+    if (note == 0 || m_sharesNames) {
+        return findOption(name, index, m_options);
     }
     index = note - 1;
     return 0;

@@ -77,6 +77,15 @@ TEST_F(RegisteredOptionsFind, FindsASynonymOfARecordWithFewerNamesThanTheOneBefo
     EXPECT_EQ(declare("two").m_status, 1);
 }
 
+TEST_F(RegisteredOptionsFind, FindsEvenASynonymThatCameBehindTheNextDeclaration) {
+    IOption& first = declare("first", vtBool);
+    declare("second");
+    first.synonym("late");
+    EXPECT_EQ(place("late"), 0);
+    EXPECT_EQ(place("no-late"), 0);
+    EXPECT_EQ(place("later"), -1);
+}
+
 TEST_F(RegisteredOptionsFind, FindsTheFirstRecordOfANameThatSynonymsRepeat) {
     declare("number").synonym("x");
     declare("switch", vtBool).synonym("x");

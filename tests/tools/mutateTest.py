@@ -16,6 +16,12 @@ bool isSmall(const std::vector<int>& list) {
     return list.size() < 3;
 }
 
+constexpr std::size_t usualSize = 4;
+
+void makeRoom(std::vector<int>& list) {
+    list.reserve(2 * usualSize);
+}
+
 const char* describe(int& calls, bool loud) {
     ++calls;
     if (loud && calls != 0) {
@@ -135,7 +141,7 @@ class MutateTest(unittest.TestCase):
     def last_line(self, outcome):
         return outcome.stderr.rstrip().split("\n")[-1]
 
-    def test_changes_code_but_no_comments_texts_or_template_brackets(self):
+    def test_changes_code_but_no_comments_template_brackets_or_room_asked_for(self):
         self.assertEqual(sorted_blocks(self.mutate("--list").stdout), sorted_blocks(MUTANTS))
 
     def test_a_sample_depends_on_the_seed_and_stays_when_other_lines_change(self):
