@@ -24,7 +24,7 @@ int main(int argc, char** argv) {
     int status = parser->parseArgsVector(argc, argv, result);
     if (status == tarv::parseOk) {
         std::printf("%d %d %g %s\n", result->get("verbose").value.get<bool>(),
-                    result->get("jobs").value.get<int32_t>(), result->get("scale").value.get<double>(),
+                    result->get("jobs").value.get<int>(), result->get("scale").value.get<double>(),
                     result->get("output-file").text);
         printAll(result, "include-path");
         printAll(result, "input");

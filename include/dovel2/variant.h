@@ -1,11 +1,19 @@
 #pragma once
 
 #include <stddef.h>
-#include <stdint.h>
 
 #include "tarv_3_3/export.h"
 
 namespace dovel2 {
+
+///@{
+/// The types of <stdint.h>; a host that writes their names includes that or <cstdint>. They are not
+/// included here, since they would take as long to compile as all of this library's headers.
+using int32_t = __INT32_TYPE__;
+using uint32_t = __UINT32_TYPE__;
+using int64_t = __INT64_TYPE__;
+using uint64_t = __UINT64_TYPE__;
+///@}
 
 /// The kinds of value. The numbers are part of the binary interface.
 enum das_variant_type_t {

@@ -1,4 +1,5 @@
 // A whole host program: declares, parses, asks, prints.
+#include <stdint.h>
 #include <stdio.h>
 
 #include "tarv_3_3/tarv.h"

@@ -1,5 +1,6 @@
 #include "plugin.h"
 
+#include <stdint.h>
 #include <stdio.h>
 #include <string.h>
 
