@@ -17,7 +17,6 @@ OptionDescription::OptionDescription(Names names, std::set<std::string> tags, co
 OptionDescription::OptionDescription(const OptionDescription&) = default;
 OptionDescription::OptionDescription(OptionDescription&&) noexcept = default;
 OptionDescription& OptionDescription::operator=(const OptionDescription&) = default;
-OptionDescription& OptionDescription::operator=(OptionDescription&&) = default;
 OptionDescription::~OptionDescription() = default;
 
 IOption& OptionDescription::synonym(const char* name) {

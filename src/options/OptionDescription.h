@@ -42,7 +42,6 @@ public:
     OptionDescription(const OptionDescription&);
     OptionDescription(OptionDescription&&) noexcept;
     OptionDescription& operator=(const OptionDescription&);
-    OptionDescription& operator=(OptionDescription&&);
 
     IOption& synonym(const char* name) override;
     IOption& allowValue(const variant_t& value) override;

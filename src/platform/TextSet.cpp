@@ -68,7 +68,7 @@ void TextSet::grow() {
 TextSet::Entry* TextSet::makeEntry(std::string_view text, std::size_t hash) {
     void* const memory = m_memory.allocate(sizeof(Entry) + text.size() + 1, alignof(Entry));
     auto* const entry = new (memory) Entry{hash, text.size(), 0};
-    char* const bytes = static_cast<char*>(memory) + sizeof(Entry);
+    auto* const bytes = reinterpret_cast<char*>(entry + 1);
     std::memcpy(bytes, text.data(), text.size());
     bytes[text.size()] = '\0';
     return entry;
