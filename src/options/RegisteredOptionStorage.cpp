@@ -25,8 +25,6 @@ constexpr std::size_t growth = 4;
 // Most declarations have a name, or a name and a short form.
 constexpr std::size_t usualNames = 2;
 
-constexpr std::string_view negation = "no-";
-
 bool isNegated(std::string_view name) {
     return name.size() >= negation.size() && std::memcmp(name.data(), negation.data(), negation.size()) == 0;
 }
@@ -176,7 +174,7 @@ IOption& RegisteredOptionStorage::refuse() {
 }
 
 int validateName(const Names& names) {
-    const bool tooMany = names.size() > 3;
+    const bool tooMany = names.size() > mostNames;
     const bool longThirdName = names.size() == 3 && names[2].size() > 2;
     return tooMany || longThirdName ? 1 : 0;
 }

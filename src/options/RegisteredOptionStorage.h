@@ -15,6 +15,9 @@ namespace tarv_3_3 {
 
 class Garbage;
 
+/// How many names a declaration may have; synonyms do not count.
+inline constexpr std::size_t mostNames = 3;
+
 /// Everything that was declared on one parser, in declaration order, and the help topics in order
 /// of first use. Declarations are only ever added, so a record's place in `m_options` identifies it
 /// for the life of the parser; a reference to a record is good until the next declaration, or, while
@@ -73,7 +76,6 @@ public:
     OptionDescription m_invalidOption;
 
 private:
-    static constexpr std::size_t mostNames = 3;
     using NameEntries = std::array<internal::TextSet::Entry*, mostNames>;
 
     bool isTaken(const Names& names, NameEntries& entries);

@@ -2,13 +2,10 @@
 
 #include <algorithm>
 #include <cstring>
-#include <string_view>
 
 namespace tarv_3_3 {
 
 namespace {
-
-constexpr std::string_view negation = "no-";
 
 // Most names that are as long differ in their first byte.
 bool equal(const std::string& name, std::string_view wanted) {

@@ -1,12 +1,16 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "options/OptionDescription.h"
 #include "tarv_3_3/export.h"
 
 namespace tarv_3_3 {
+
+/// What stands before the name of a switch to turn it off.
+inline constexpr std::string_view negation = "no-";
 
 /// Finds the first record that has exactly the name `name`, or is a switch and has the name behind
 /// "no-". Returns 0 with its place in `index`, or 1 with `index` untouched.
