@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "options/OptionDescription.h"
+#include "options/findOption.h"
 #include "recognition/messages.h"
 #include "recognition/tokenSyntax.h"
 #include "tarv_3_3/EventHandler.h"
@@ -15,38 +16,10 @@ namespace messages = internal::messages;
 
 namespace {
 
-constexpr std::string_view negation = "no";
-
 std::string negate(const std::string& name) {
     std::string negated(negation);
-    return negated.append("-").append(name);
+    return negated.append(name);
 }
-
-bool isPrefix(std::string_view word, std::string_view whole) {
-    return whole.substr(0, word.size()) == word;
-}
-
-// Sorts out most names of a table at once: no word of a typed name is longer than the candidate's,
-// and the first ones begin alike.
-class QuickFilter {
-public:
-    explicit QuickFilter(std::string_view typed)
-        : m_size(typed.size()), m_first(typed.empty() ? '-' : typed.front()) {}
-
-    bool mayFit(const std::string& candidate) const {
-        return candidate.size() >= m_size && (m_first == '-' || candidate.front() == m_first);
-    }
-
-private:
-    std::size_t m_size;
-    char m_first;
-};
-
-struct NameScore {
-    bool sameWordCount;
-    // 0 when some word does not fit, or the typed name has more words.
-    std::int32_t score;
-};
 
 // Goes through both names at once; at the end of each typed word skips what the candidate's has more.
 NameScore scoreName(std::string_view typed, std::string_view candidate) {
@@ -74,13 +47,26 @@ NameScore scoreName(std::string_view typed, std::string_view candidate) {
     return {true, score};
 }
 
-std::string quotedNames(const std::vector<AbbreviationParser::NameMatch>& matches) {
+// Whether the first word of a typed name of several may stand for "no".
+bool beginsLikeNegation(std::string_view typed) {
+    const std::size_t firstDash = typed.find('-');
+    return firstDash < negation.size() && typed.compare(0, firstDash, negation, 0, firstDash) == 0;
+}
+
+// What scoreName would say of "no-" and a name that fits, for a typed name that begins like it.
+NameScore scoreNegated(std::string_view typed, std::string_view name) {
+    const std::size_t firstWord = typed.find('-');
+    const NameScore rest = scoreName(typed.substr(firstWord + 1), name);
+    return {rest.sameWordCount, rest.score + (firstWord + 1 == negation.size() ? 2 : 1)};
+}
+
+std::string quotedNames(const std::vector<std::string>& names) {
     std::string list;
-    for (const AbbreviationParser::NameMatch& match : matches) {
+    for (const std::string& name : names) {
         if (!list.empty()) {
             list += ", ";
         }
-        list.append("'").append(match.m_candidate.getName()).append("'");
+        list.append("'").append(name).append("'");
     }
     return list;
 }
@@ -103,21 +89,23 @@ int AbbreviationParser::recognize(std::vector<std::string>& args, std::vector<Op
     const std::string& argument = args.at(0);
     log(": recognizing argument '", argument, "'");
     m_optionIndex = -1;
-    m_matches.clear();
+    forgetBest();
     if (argument.size() < 2 || getDashLength(argument, 0) == 0) {
+        m_token = Token();
         return 1;
     }
-    const Token token = splitToken(argument, m_classifier);
-    keepBest(token.name, options);
+    m_token = splitToken(argument, m_classifier);
+    const std::string_view name = m_token.nameIn(argument);
+    keepBest(name, options);
     const int outcome = findOutcome(err);
     if (outcome == 2) {
         m_optionIndex = -1;
-        log(": failed to get best match for '", token.name, "' in argument '", argument, "':", err);
+        log(": failed to get best match for '", name, "' in argument '", argument, "':", err);
         return 0;
     }
     if (outcome == 0) {
-        log(": best match option for '", token.name, "' in argument '", argument, "' is '",
-            m_matches.front().m_candidate, "'");
+        log(": best match option for '", name, "' in argument '", argument, "' is '", m_bestNames.front(),
+            "'");
     }
     // The record that gave the one best name is also the one that a lookup of that name would find:
     // another one with the same name would have tied with it.
@@ -137,30 +125,37 @@ void AbbreviationParser::makeOptionNamesList(std::vector<OptionDescription>& opt
 }
 
 // What makeOptionNamesList, makeNameMatch and findBest do one after the other, in one pass over the
-// table: only the names that are kept are taken apart.
+// table. Most names are done with after their first byte.
 void AbbreviationParser::keepBest(std::string_view typed, const std::vector<OptionDescription>& options) {
-    const std::size_t firstDash = typed.find('-');
-    const std::string_view firstWord = typed.substr(0, firstDash);
-    const bool mayBeNegated = firstDash != std::string_view::npos && isPrefix(firstWord, negation);
-    const QuickFilter filter(typed);
-    for (const OptionDescription& option : options) {
-        for (const std::string& name : option.m_names) {
-            if (filter.mayFit(name)) {
-                keepIfBest(typed, name, &option - options.data());
-            }
-            if (mayBeNegated && option.m_type == vtBool) {
-                keepIfBest(typed, negate(name), &option - options.data());
+    const auto keepBestOf = [&](auto mayFit) {
+        for (const OptionDescription& option : options) {
+            for (const std::string& name : option.m_names) {
+                if (mayFit(name)) {
+                    keepIfBest(typed, name, option, options);
+                }
             }
         }
+    };
+    if (typed.empty() || typed.front() == '-' || beginsLikeNegation(typed)) {
+        keepBestOf([](const std::string&) { return true; });
+    } else {
+        keepBestOf([first = typed.front(), size = typed.size()](const std::string& name) {
+            return name[0] == first && name.size() >= size;
+        });
     }
 }
 
-void AbbreviationParser::keepIfBest(std::string_view typed, const std::string& name,
-                                    std::int64_t optionIndex) {
-    const NameScore found = scoreName(typed, name);
-    if (isBest(found.sameWordCount, found.score)) {
-        m_matches.push_back({true, found.score, DecomposedName(name)});
-        m_optionIndex = optionIndex;
+// Not inlined, so that the loop over the table has the registers to itself.
+[[gnu::noinline]] void AbbreviationParser::keepIfBest(std::string_view typed, const std::string& name,
+                                                      const OptionDescription& option,
+                                                      const std::vector<OptionDescription>& options) {
+    if (isBest(scoreName(typed, name))) {
+        m_bestNames.push_back(name);
+        m_optionIndex = &option - options.data();
+    }
+    if (option.m_type == vtBool && beginsLikeNegation(typed) && isBest(scoreNegated(typed, name))) {
+        m_bestNames.push_back(negate(name));
+        m_optionIndex = &option - options.data();
     }
 }
 
@@ -178,37 +173,42 @@ void AbbreviationParser::makeNameMatch(std::vector<NameMatch>& matches, const De
 
 int AbbreviationParser::findBest(const std::vector<NameMatch>& matches, DecomposedName& best,
                                  std::string& err) {
-    m_matches.clear();
+    forgetBest();
     for (const NameMatch& match : matches) {
-        if (isBest(match.m_sameWordCount, match.m_score)) {
-            m_matches.push_back(match);
+        if (isBest({match.m_sameWordCount, match.m_score})) {
+            m_bestNames.push_back(match.m_candidate.getName());
         }
     }
     const int outcome = findOutcome(err);
     if (outcome == 0) {
-        best = m_matches.front().m_candidate;
+        best = DecomposedName(m_bestNames.front());
     }
     return outcome;
 }
 
-// Whether a match is to be kept; drops those that it beats.
-bool AbbreviationParser::isBest(bool sameWordCount, std::int32_t score) {
-    const std::int32_t bestScore = m_matches.empty() ? 0 : m_matches.front().m_score;
-    if (!sameWordCount || score < bestScore) {
+void AbbreviationParser::forgetBest() {
+    m_bestNames.clear();
+    m_bestScore = 0;
+}
+
+// Whether a candidate is to be kept; drops those that it beats.
+bool AbbreviationParser::isBest(NameScore found) {
+    if (!found.sameWordCount || found.score < m_bestScore) {
         return false;
     }
-    if (score > bestScore) {
-        m_matches.clear();
+    if (found.score > m_bestScore) {
+        m_bestNames.clear();
+        m_bestScore = found.score;
     }
     return true;
 }
 
 int AbbreviationParser::findOutcome(std::string& err) const {
-    if (m_matches.size() > 1) {
-        err = messages::possibleOptions(quotedNames(m_matches));
+    if (m_bestNames.size() > 1) {
+        err = messages::possibleOptions(quotedNames(m_bestNames));
         return 2;
     }
-    return m_matches.empty() ? 1 : 0;
+    return m_bestNames.empty() ? 1 : 0;
 }
 
 int AbbreviationParser::parse(std::vector<std::string>& args, IResultCollector* collector,
@@ -216,18 +216,18 @@ int AbbreviationParser::parse(std::vector<std::string>& args, IResultCollector* 
                               std::string& err) {
     index = static_cast<unsigned long>(m_optionIndex);
     log(": parsing argument '", args.at(0), "'");
-    const Token token = splitToken(args[0], m_classifier);
-    if (token.name.empty() || token.name.front() == '-') {
+    const std::string_view name = m_token.nameIn(args[0]);
+    if (name.empty() || name.front() == '-') {
         return fail(err, messages::unknownOption(args[0]));
     }
-    if (m_matches.size() > 1) {
-        return fail(err, messages::ambiguousOption(std::string(token.name), formatTokenMessage(args[0]),
-                                                   quotedNames(m_matches)));
+    if (m_bestNames.size() > 1) {
+        return fail(err, messages::ambiguousOption(std::string(name), formatTokenMessage(args[0]),
+                                                   quotedNames(m_bestNames)));
     }
     const OptionDescription& option = options.at(index);
-    std::string value(token.value);
+    std::string value(m_token.valueIn(args[0]));
     log(": detected option: '", option.primaryName(), "'");
-    if (token.hasValue) {
+    if (m_token.hasValue) {
         log(": value from the same argument taken: '", value, "'");
     }
     std::size_t consumed = 1;
@@ -259,8 +259,7 @@ int AbbreviationParser::findValue(const OptionDescription& option, std::vector<s
         if (!value.empty()) {
             return fail(err, messages::isBoolean(option.primaryName(), formatTokenMessage(args[0])));
         }
-        const std::vector<std::string>& words = m_matches.front().m_candidate.m_words;
-        value.assign(1, words.size() > 1 && words.front() == negation ? '0' : '1');
+        value = m_bestNames.front().compare(0, negation.size(), negation) == 0 ? "0" : "1";
         return parseOk;
     }
     return value.empty() ? takeNextArgument(option, args, value, consumed, err) : static_cast<int>(parseOk);

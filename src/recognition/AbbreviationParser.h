@@ -6,8 +6,17 @@
 #include "recognition/DecomposedName.h"
 #include "recognition/IArgumentParser.h"
 #include "recognition/SpaceClassifier.h"
+#include "recognition/tokenSyntax.h"
 
 namespace tarv_3_3 {
+
+/// How well a candidate name fits a typed one.
+struct NameScore {
+    /// Whether both have the same number of words.
+    bool sameWordCount;
+    /// 0 when some word does not fit, or the typed name has more words.
+    std::int32_t score;
+};
 
 /// Recognizes named options, each word of a name abbreviated to any prefix.
 ///
@@ -54,9 +63,11 @@ public:
     int findBest(const std::vector<NameMatch>& matches, DecomposedName& best, std::string& err);
 
 private:
+    void forgetBest();
     void keepBest(std::string_view typed, const std::vector<OptionDescription>& options);
-    void keepIfBest(std::string_view typed, const std::string& name, std::int64_t optionIndex);
-    bool isBest(bool sameWordCount, std::int32_t score);
+    void keepIfBest(std::string_view typed, const std::string& name, const OptionDescription& option,
+                    const std::vector<OptionDescription>& options);
+    bool isBest(NameScore found);
     int findOutcome(std::string& err) const;
     int fail(std::string& err, std::string message) const;
     int findValue(const OptionDescription& option, std::vector<std::string>& args, std::string& value,
@@ -66,8 +77,11 @@ private:
 
     /// The place of the option that the last `recognize` found; -1 for none.
     std::int64_t m_optionIndex = -1;
-    /// The best matches of the last `recognize`, in the order of the candidates.
-    std::vector<NameMatch> m_matches;
+    /// The best candidates of the last `recognize`, in their order, and what each of them scored.
+    std::vector<std::string> m_bestNames;
+    std::int32_t m_bestScore = 0;
+    /// The argument that the last `recognize` looked at, cut into pieces.
+    Token m_token;
     SpaceClassifier m_classifier;
 };
 

@@ -78,14 +78,14 @@ Token splitToken(std::string_view arg, const SpaceClassifier& classifier) {
             ++valueStart;
         }
     }
-    return {arg.substr(start, end - start), arg.substr(valueStart), end < arg.size()};
+    return {start, end, valueStart, end < arg.size()};
 }
 
 bool splitOptionValue(const std::string& arg, std::string* name, std::string* value) {
     const Token token = splitToken(arg, SpaceClassifier());
-    name->assign(token.name);
+    name->assign(token.nameIn(arg));
     if (token.hasValue) {
-        value->assign(token.value);
+        value->assign(token.valueIn(arg));
     }
     return token.hasValue;
 }

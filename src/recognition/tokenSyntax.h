@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 
@@ -18,12 +19,19 @@ inline bool beginsWithHyphen(std::string_view text) {
     return !text.empty() && text.front() == '-';
 }
 
-/// An argument cut into pieces, which point into it.
+/// Where the pieces of an argument are, in bytes.
 struct Token {
-    std::string_view name;
-    /// Empty when there is none.
-    std::string_view value;
-    bool hasValue;
+    std::size_t nameStart = 0;
+    std::size_t nameEnd = 0;
+    /// The end of the argument when there is no value.
+    std::size_t valueStart = 0;
+    bool hasValue = false;
+
+    ///@{
+    /// The piece of `arg`, the argument that was cut; an empty name of a token that was never cut.
+    std::string_view nameIn(std::string_view arg) const { return arg.substr(nameStart, nameEnd - nameStart); }
+    std::string_view valueIn(std::string_view arg) const { return arg.substr(valueStart); }
+    ///@}
 };
 
 /// Cuts an argument into its name and its value. Up to two leading dashes are skipped; the first
