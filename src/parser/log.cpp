@@ -5,6 +5,7 @@
 namespace tarv_3_3::internal {
 
 bool tarvLogEnabled = false;
+bool discardingHasFailed = false;
 
 template <class Char, class Traits>
 basic_nullbuf<Char, Traits>::~basic_nullbuf() = default;
@@ -36,9 +37,13 @@ std::ostream& tarvLog() {
     return tarvLogEnabled ? MERO_2_16::strings::gh2::ucout() : holder.discarding();
 }
 
-std::ostream* workingLog() {
+std::ostream* findWorkingLog() {
     std::ostream& log = tarvLog();
-    return log.fail() ? nullptr : &log;
+    if (!log.fail()) {
+        return &log;
+    }
+    discardingHasFailed = !tarvLogEnabled;
+    return nullptr;
 }
 
 } // namespace tarv_3_3::internal

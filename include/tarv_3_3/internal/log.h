@@ -44,15 +44,31 @@ private:
 /// discards everything, always the same one. Write whole lines and end them with `std::endl`.
 TARV_API std::ostream& tarvLog();
 
+/// What follows is for the library's own code.
+
+/// Whether the discarding stream has failed, as it does at its first write.
+[[gnu::visibility("hidden")]] extern bool discardingHasFailed;
+
+/// What `workingLog` returns until that is known, and while the trace is on.
+std::ostream* findWorkingLog();
+
 /// `tarvLog()`, or null when that stream has failed.
-TARV_API std::ostream* workingLog();
+inline std::ostream* workingLog() {
+    return discardingHasFailed && !tarvLogEnabled ? nullptr : findWorkingLog();
+}
+
+/// Writes the parts to `log` as one line. Kept apart from the code that nearly always passes it by.
+template <class... Parts>
+[[gnu::cold, gnu::noinline]] void writeParts(std::ostream& log, const Parts&... parts) {
+    (log << ... << parts) << std::endl;
+}
 
 /// Writes the parts as one line. A stream that has failed takes nothing any more: then the parts
 /// are not even looked at.
 template <class... Parts>
 void writeLogLine(const Parts&... parts) {
     if (std::ostream* const log = workingLog()) {
-        (*log << ... << parts) << std::endl;
+        writeParts(*log, parts...);
     }
 }
 
