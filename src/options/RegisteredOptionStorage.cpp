@@ -16,6 +16,8 @@ const char* orEmpty(const char* text) {
     return text != nullptr ? text : "";
 }
 
+constexpr std::size_t firstBlock = 4096;
+
 // Most programs declare a few dozen options: their table is not to move over and over.
 constexpr std::size_t expectedOptions = 32;
 
@@ -31,7 +33,7 @@ bool isNegated(std::string_view name) {
 
 } // namespace
 
-RegisteredOptionStorage::RegisteredOptionStorage() = default;
+RegisteredOptionStorage::RegisteredOptionStorage() : m_memory(firstBlock), m_names(m_memory) {}
 
 RegisteredOptionStorage::~RegisteredOptionStorage() = default;
 
@@ -104,13 +106,13 @@ bool RegisteredOptionStorage::isTaken(const Names& names, NameEntries& entries) 
     return taken || (m_sharesNames && findOption(names, index, m_options) == 0);
 }
 
-int RegisteredOptionStorage::find(const std::string& name, unsigned long& index) {
+int RegisteredOptionStorage::find(const internal::HashedText& name, unsigned long& index) {
     learnSynonyms();
     const internal::TextSet::Entry* const entry = m_names.find(name);
-    const std::size_t note = noteFor(name, entry != nullptr ? entry->note : 0);
+    const std::size_t note = noteFor(name.text, entry != nullptr ? entry->note : 0);
     // A host that holds on to a reference for too long may have given a name unseen.
     if (note == 0 || m_sharesNames) {
-        return findOption(name, index, m_options);
+        return findOption(std::string(name.text), index, m_options);
     }
     index = note - 1;
     return 0;

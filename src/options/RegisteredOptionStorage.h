@@ -46,7 +46,7 @@ public:
 
     /// What `findOption` finds in the table, at a cost that does not grow with it unless a synonym
     /// repeats a name. It knows the synonyms that a record was given before the next declaration.
-    int find(const std::string& name, unsigned long& index);
+    int find(const internal::HashedText& name, unsigned long& index);
 
     /// Keeps the records where they are while somebody works on them: a parse, whose handlers may
     /// declare options. Pins nest.
@@ -62,7 +62,7 @@ public:
     };
 
 private:
-    /// Holds lists of names and descriptions, which only go with the registry.
+    /// Holds lists of names, descriptions and the index, which only go with the registry.
     std::pmr::monotonic_buffer_resource m_memory;
 
 public:

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "options/RegisteredOptionStorage.h"
+#include "result/ParseResult.h"
 #include "tarv_3_3/IParser.h"
 #include "tarv_3_3/export.h"
 #include "tarv_3_3/internal/Garbage.h"
@@ -12,7 +13,6 @@
 namespace tarv_3_3 {
 
 class IArgumentParser;
-class ParseResult;
 
 /// The one concrete parser. Its sources, by job: BasicParser.cpp (declarations, events, errors),
 /// BasicParserParsing.cpp (the road of a command line), BasicParserStreams.cpp (streams and option
@@ -98,7 +98,10 @@ private:
                         IParseResult* result);
     int dropUnknown(std::vector<std::string>& arguments, std::string& error);
     int parseAsPositional(const std::string& argument, ParseResult* result, std::string& error);
-    int checkModifiers(const OptionDescription& action, const ParseResult& result, std::string& error);
+    int checkDeclared(const ParseResult::Entries& entries);
+    int checkActions(const ParseResult::Entries& entries, std::string& error);
+    int checkModifiers(const OptionDescription& action, const ParseResult::Entries& entries,
+                       std::string& error);
     int readOptionFiles(const std::string& endMarker, IParseResult* result);
     const char* describeUnknown(const char* name, bool hidden);
 

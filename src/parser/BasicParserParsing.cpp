@@ -41,6 +41,10 @@ IArgumentParser* chooseRecognizer(const Recognizers& recognizers, std::vector<st
     return chosen;
 }
 
+bool isAction(const OptionDescription& option) {
+    return option.m_kind == Action;
+}
+
 } // namespace
 
 int BasicParser::parseArgsVector(int argc, const char* const* argv, IParseResult* result) {
@@ -179,16 +183,34 @@ int BasicParser::parse_phase_two(const std::string& /*endMarker*/, std::vector<s
     }
     const auto& stored = static_cast<const ParseResult&>(*result);
     const std::vector<OptionDescription>& options = m_registry.m_options;
+    const bool hasActions = std::any_of(options.begin(), options.end(), isAction);
+    // The order decides what is said of actions, and nothing else.
+    return hasActions ? checkActions(stored.entriesByName(), error) : checkDeclared(stored.entries());
+}
+
+int BasicParser::checkDeclared(const ParseResult::Entries& entries) {
+    for (const ParseResult::Entry& entry : entries) {
+        unsigned long index = 0;
+        const int status = m_registry.find(entry.name, index);
+        if (status != 0) {
+            return status;
+        }
+    }
+    return parseOk;
+}
+
+int BasicParser::checkActions(const ParseResult::Entries& entries, std::string& error) {
+    const std::vector<OptionDescription>& options = m_registry.m_options;
     const OptionDescription* action = nullptr;
     bool optionStored = false;
-    for (const auto& entry : stored.entries()) {
+    for (const ParseResult::Entry& entry : entries) {
         unsigned long index = 0;
-        const int status = m_registry.find(entry.first, index);
+        const int status = m_registry.find(entry.name, index);
         if (status != 0) {
             return status;
         }
         const OptionDescription& option = options[index];
-        if (option.m_kind != Action) {
+        if (!isAction(option)) {
             optionStored = true;
         } else if (action == nullptr) {
             action = &option;
@@ -199,27 +221,27 @@ int BasicParser::parse_phase_two(const std::string& /*endMarker*/, std::vector<s
         }
     }
     if (action != nullptr) {
-        return checkModifiers(*action, stored, error);
+        return checkModifiers(*action, entries, error);
     }
-    if (optionStored && !getGlobalActions().empty()) {
+    if (optionStored) {
         error = messages::noActionDefined;
         return parseFailed;
     }
     return parseOk;
 }
 
-int BasicParser::checkModifiers(const OptionDescription& action, const ParseResult& result,
+int BasicParser::checkModifiers(const OptionDescription& action, const ParseResult::Entries& entries,
                                 std::string& error) {
     const std::vector<OptionDescription>& options = m_registry.m_options;
-    for (const auto& [name, data] : result.entries()) {
+    for (const ParseResult::Entry& entry : entries) {
         unsigned long index = 0;
-        const int status = m_registry.find(name, index);
+        const int status = m_registry.find(entry.name, index);
         if (status != 0) {
             return status;
         }
         const OptionDescription& option = options[index];
-        const bool isTagged = option.m_kind != Action && !option.m_tags.empty();
-        const bool isGiven = !data.positions.empty();
+        const bool isTagged = !isAction(option) && !option.m_tags.empty();
+        const bool isGiven = !entry.data->positions.empty();
         if (isTagged && isGiven && !isIntersected(action.m_tags, option.m_tags)) {
             error = messages::optionNotAccepted(action.primaryName(), option.primaryName());
             return parseFailed;

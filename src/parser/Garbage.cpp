@@ -2,7 +2,13 @@
 
 namespace tarv_3_3 {
 
-Garbage::Garbage() = default;
+namespace {
+
+constexpr std::size_t firstBlock = 2048;
+
+} // namespace
+
+Garbage::Garbage() : m_memory(firstBlock), m_strings(m_memory) {}
 
 Garbage::~Garbage() = default;
 

@@ -2,54 +2,47 @@
 
 #include <algorithm>
 #include <cstring>
-#include <functional>
 #include <new>
 
 namespace tarv_3_3::internal {
 
 namespace {
 
-constexpr std::size_t firstBlock = 2048;
 constexpr std::size_t firstSlots = 64;
 
-std::size_t hashOf(std::string_view text) {
-    return std::hash<std::string_view>()(text);
-}
-
-bool isEntryOf(const TextSet::Entry& entry, std::string_view text, std::size_t hash) {
-    return entry.hash == hash && entry.size == text.size() &&
-           std::memcmp(entry.bytes(), text.data(), text.size()) == 0;
+bool isEntryOf(const TextSet::Entry& entry, const HashedText& text) {
+    return entry.hash == text.hash && entry.size == text.text.size() &&
+           std::memcmp(entry.bytes(), text.text.data(), text.text.size()) == 0;
 }
 
 } // namespace
 
-TextSet::TextSet() : m_memory(firstBlock), m_slots(&m_memory) {}
+TextSet::TextSet(std::pmr::monotonic_buffer_resource& memory) : m_memory(memory), m_slots(&memory) {}
 
 TextSet::~TextSet() = default;
 
-TextSet::Entry& TextSet::insert(std::string_view text) {
+TextSet::Entry& TextSet::insert(const HashedText& text) {
     // A quarter of the slots stays free, so that few entries are far from their place.
     if (4 * m_size >= 3 * m_slots.size()) {
         grow();
     }
-    const std::size_t hash = hashOf(text);
-    Entry*& slot = m_slots[placeOf(text, hash)];
+    Entry*& slot = m_slots[placeOf(text)];
     if (slot == nullptr) {
-        slot = makeEntry(text, hash);
+        slot = makeEntry(text);
         ++m_size;
     }
     return *slot;
 }
 
-const TextSet::Entry* TextSet::find(std::string_view text) const {
-    return m_size != 0 ? m_slots[placeOf(text, hashOf(text))] : nullptr;
+const TextSet::Entry* TextSet::find(const HashedText& text) const {
+    return m_size != 0 ? m_slots[placeOf(text)] : nullptr;
 }
 
 // Where the text is, or would be.
-std::size_t TextSet::placeOf(std::string_view text, std::size_t hash) const {
+std::size_t TextSet::placeOf(const HashedText& text) const {
     const std::size_t mask = m_slots.size() - 1;
-    std::size_t place = hash & mask;
-    while (m_slots[place] != nullptr && !isEntryOf(*m_slots[place], text, hash)) {
+    std::size_t place = text.hash & mask;
+    while (m_slots[place] != nullptr && !isEntryOf(*m_slots[place], text)) {
         place = (place + 1) & mask;
     }
     return place;
@@ -60,17 +53,18 @@ void TextSet::grow() {
     m_slots.swap(slots);
     for (Entry* const entry : slots) {
         if (entry != nullptr) {
-            m_slots[placeOf(std::string_view(entry->bytes(), entry->size), entry->hash)] = entry;
+            m_slots[placeOf(entry->text())] = entry;
         }
     }
 }
 
-TextSet::Entry* TextSet::makeEntry(std::string_view text, std::size_t hash) {
-    void* const memory = m_memory.allocate(sizeof(Entry) + text.size() + 1, alignof(Entry));
-    auto* const entry = new (memory) Entry{hash, text.size(), 0};
+TextSet::Entry* TextSet::makeEntry(const HashedText& text) {
+    const std::size_t size = text.text.size();
+    void* const memory = m_memory.allocate(sizeof(Entry) + size + 1, alignof(Entry));
+    auto* const entry = new (memory) Entry{text.hash, size, 0};
     auto* const bytes = reinterpret_cast<char*>(entry + 1);
-    std::memcpy(bytes, text.data(), text.size());
-    bytes[text.size()] = '\0';
+    std::memcpy(bytes, text.text.data(), size);
+    bytes[size] = '\0';
     return entry;
 }
 

@@ -8,7 +8,8 @@ IParseResult::~IParseResult() = default;
 
 namespace {
 
-constexpr std::size_t firstBlock = 4096;
+constexpr std::size_t firstBlock = 8192;
+constexpr std::size_t usualNames = 32;
 
 // The cursor of plain arguments before they were asked for: past any end.
 constexpr auto notStarted = static_cast<std::size_t>(-1);
@@ -34,8 +35,10 @@ Value makeValue(int status, const char* text, const variant_t& value, int positi
 } // namespace
 
 ParseResult::ParseResult()
-    : m_memory(firstBlock), m_options(&m_memory), m_current(m_options.end()),
-      m_freeArgumentCursor(notStarted) {}
+    : m_memory(firstBlock), m_options(&m_memory), m_data(&m_memory), m_names(m_memory),
+      m_freeArgumentCursor(notStarted) {
+    m_options.reserve(usualNames);
+}
 
 ParseResult::~ParseResult() = default;
 
@@ -50,7 +53,7 @@ bool ParseResult::present(const char* name, int lo, int hi) {
     variant_t value;
     int position = noPosition;
     const int status = statusOf([&] { return startIteration(name, nullptr, value, lo, hi, position); });
-    if (status == valueFound && isDefaulted(m_current->second)) {
+    if (status == valueFound && isDefaulted(current())) {
         m_lowerBound = noPosition;
         m_upperBound = noPosition;
     }
@@ -77,10 +80,10 @@ Value ParseResult::next(const char* /*name*/) {
 }
 
 int ParseResult::nextPosition() {
-    if (m_current == m_options.end() || m_positionsCursor >= m_current->second.positions.size()) {
+    if (m_current == noEntry || m_positionsCursor >= current().positions.size()) {
         return noPosition;
     }
-    return m_current->second.positions[m_positionsCursor++];
+    return current().positions[m_positionsCursor++];
 }
 
 int ParseResult::get(const std::string& name, char** text, variant_t& value, int lo, int hi, int& position) {
@@ -95,7 +98,7 @@ int ParseResult::startIteration(std::string_view name, char** text, variant_t& v
                                 int& position) {
     const int status = findFirst(name, text, value, lo, hi, position);
     if (status != valueFound) {
-        m_current = m_options.end();
+        m_current = noEntry;
     }
     return status;
 }
@@ -106,11 +109,11 @@ int ParseResult::findFirst(std::string_view name, char** text, variant_t& value,
     m_upperBound = hi;
     m_valuesCursor = 0;
     m_positionsCursor = 0;
-    m_current = m_options.find(name);
-    if (m_current == m_options.end()) {
+    m_current = placeOf(name);
+    if (m_current == noEntry) {
         return valueMissing;
     }
-    const OptionData& data = m_current->second;
+    const OptionData& data = current();
     if (data.positions.empty()) {
         if (!isDefaulted(data)) {
             return valueMissing;
@@ -128,10 +131,10 @@ int ParseResult::findFirst(std::string_view name, char** text, variant_t& value,
 }
 
 int ParseResult::continueIteration(char** text, variant_t& value, int& position) {
-    if (m_current == m_options.end()) {
+    if (m_current == noEntry) {
         return valueMissing;
     }
-    const OptionData& data = m_current->second;
+    const OptionData& data = current();
     if (isDefaulted(data)) {
         // The state that present() leaves, so that a default is yielded once behind it.
         if (m_lowerBound != noPosition || m_upperBound != noPosition) {

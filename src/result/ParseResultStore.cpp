@@ -1,3 +1,6 @@
+#include <algorithm>
+
+#include "options/NameOrder.h"
 #include "options/OptionDescription.h"
 #include "recognition/IArgumentParser.h"
 #include "result/ParseResult.h"
@@ -18,20 +21,79 @@ void append(OptionData& entry, const OptionData& data) {
 
 } // namespace
 
+// The first name alone decides whether this is the option's first occurrence.
 int ParseResult::store(const OptionDescription& option, const OptionData& data) {
-    // The first name alone decides whether this is the option's first occurrence.
-    const auto [first, isFirst] = m_options.try_emplace(option.m_names.at(0), data);
-    if (!isFirst) {
-        append(first->second, data);
-    }
-    for (auto name = option.m_names.begin() + 1; name != option.m_names.end(); ++name) {
-        if (isFirst) {
-            m_options.insert_or_assign(*name, data);
-        } else {
-            append(m_options[*name], data);
+    const Names& names = option.m_names;
+    const internal::HashedText firstName(names.at(0));
+    const std::size_t first = placeOf(firstName);
+    if (first == noEntry) {
+        storeFirst(firstName, names, data);
+    } else if (areTogether(first, names)) {
+        append(*m_options[first].data, data);
+    } else {
+        for (const std::string& name : names) {
+            append(ownData(name), data);
         }
     }
     return 0;
+}
+
+// Each name has data of its own, as far as anybody can see: names that are stored together from the
+// start to the end share it.
+void ParseResult::storeFirst(const internal::HashedText& firstName, const Names& names,
+                             const OptionData& data) {
+    const std::size_t first = m_options.size();
+    OptionData& shared = m_data.emplace_back(data);
+    addEntry(m_names.insert(firstName), shared, 1);
+    for (auto name = names.begin() + 1; name != names.end(); ++name) {
+        internal::TextSet::Entry& known = m_names.insert(*name);
+        if (known.note != 0) {
+            ownData(known.text()) = data;
+        } else {
+            addEntry(known, shared, 0);
+            ++m_options[first].together;
+        }
+    }
+}
+
+bool ParseResult::areTogether(std::size_t place, const Names& names) const {
+    if (m_options[place].together != names.size()) {
+        return false;
+    }
+    for (std::size_t i = 1; i < names.size(); ++i) {
+        if (m_options[place + i].name.text != names[i]) {
+            return false;
+        }
+    }
+    return true;
+}
+
+// One by one from the last: when memory runs out, those before it still share.
+void ParseResult::separate(std::size_t place) {
+    while (m_options[place].together == 0) {
+        --place;
+    }
+    Entry& first = m_options[place];
+    for (; first.together > 1; --first.together) {
+        Entry& last = m_options[place + first.together - 1];
+        last.data = &m_data.emplace_back(*last.data);
+        last.together = 1;
+    }
+}
+
+// What only the entry of `name` has, which is made if there is none.
+OptionData& ParseResult::ownData(const internal::HashedText& name) {
+    internal::TextSet::Entry& known = m_names.insert(name);
+    if (known.note == 0) {
+        addEntry(known, m_data.emplace_back(), 1);
+    }
+    separate(known.note - 1);
+    return *m_options[known.note - 1].data;
+}
+
+void ParseResult::addEntry(internal::TextSet::Entry& name, OptionData& data, std::size_t together) {
+    m_options.push_back({name.text(), &data, together});
+    name.note = m_options.size();
 }
 
 int ParseResult::applyDefault(std::vector<OptionDescription>& options, std::string& /*errorText*/) {
@@ -40,14 +102,32 @@ int ParseResult::applyDefault(std::vector<OptionDescription>& options, std::stri
             continue;
         }
         for (const std::string& name : option.m_names) {
-            OptionData& entry = m_options[name];
+            OptionData& data = ownData(name);
             // A kind that does not exist has no text.
-            entry.defaultText = m_garbage.init(option.toString(&m_garbage, option.m_default));
-            entry.defaultPosition = IArgumentParser::getNewPositionIndex();
-            entry.defaultValue = option.m_default;
+            data.defaultText = m_garbage.init(option.toString(&m_garbage, option.m_default));
+            data.defaultPosition = IArgumentParser::getNewPositionIndex();
+            data.defaultValue = option.m_default;
         }
     }
     return 0;
+}
+
+ParseResult::Entries ParseResult::entriesByName() const {
+    Entries entries(m_options);
+    std::sort(entries.begin(), entries.end(), [](const Entry& left, const Entry& right) {
+        return NameOrder()(left.name.text, right.name.text);
+    });
+    return entries;
+}
+
+std::size_t ParseResult::placeOf(const internal::HashedText& name) const {
+    const internal::TextSet::Entry* const known = m_names.find(name);
+    return known != nullptr && known->note != 0 ? known->note - 1 : noEntry;
+}
+
+const OptionData* ParseResult::find(std::string_view name) const {
+    const std::size_t place = placeOf(name);
+    return place != noEntry ? m_options[place].data : nullptr;
 }
 
 void ParseResult::storePlainArgument(const std::string& argument, int position) {

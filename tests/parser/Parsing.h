@@ -24,8 +24,8 @@ public:
     /// The entries of the result, in its order; see `describe`.
     std::string stored() const {
         std::string line;
-        for (const auto& [name, data] : result.entries()) {
-            line += (line.empty() ? "" : " ") + describe(name, data, positions);
+        for (const tarv_3_3::ParseResult::Entry& entry : result.entriesByName()) {
+            line += (line.empty() ? "" : " ") + describe(entry.name.text, *entry.data, positions);
         }
         return line;
     }

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <functional>
+#include <memory_resource>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -15,7 +16,8 @@ std::string textOf(std::size_t number) {
 }
 
 TEST(TextSet, KeepsACopyThatEndsInAZero) {
-    TextSet set;
+    std::pmr::monotonic_buffer_resource memory;
+    TextSet set(memory);
     std::string source = "text";
     const TextSet::Entry& entry = set.insert(source);
     source = "else";
@@ -25,7 +27,8 @@ TEST(TextSet, KeepsACopyThatEndsInAZero) {
 }
 
 TEST(TextSet, HasOneEntryForEqualTexts) {
-    TextSet set;
+    std::pmr::monotonic_buffer_resource memory;
+    TextSet set(memory);
     TextSet::Entry& entry = set.insert("text");
     entry.note = 7;
     EXPECT_EQ(&set.insert(std::string("text")), &entry);
@@ -34,7 +37,8 @@ TEST(TextSet, HasOneEntryForEqualTexts) {
 }
 
 TEST(TextSet, FindsNothingBeforeItIsInserted) {
-    TextSet set;
+    std::pmr::monotonic_buffer_resource memory;
+    TextSet set(memory);
     EXPECT_EQ(set.find(""), nullptr);
     EXPECT_EQ(set.find("text"), nullptr);
     set.insert("text");
@@ -50,7 +54,8 @@ TEST(TextSet, TellsTextsApartByEveryByte) {
                                             "ba",       std::string("a\0b", 3),
                                             "\xC3\xA4", "\xFF",
                                             "\x7F"};
-    TextSet set;
+    std::pmr::monotonic_buffer_resource memory;
+    TextSet set(memory);
     std::vector<const TextSet::Entry*> entries;
     for (const std::string& text : texts) {
         entries.push_back(&set.insert(text));
@@ -67,7 +72,8 @@ TEST(TextSet, TellsTextsApartByEveryByte) {
 
 TEST(TextSet, KeepsEveryEntryInItsPlaceAsItGrows) {
     constexpr std::size_t count = 5000;
-    TextSet set;
+    std::pmr::monotonic_buffer_resource memory;
+    TextSet set(memory);
     std::vector<const TextSet::Entry*> entries;
     for (std::size_t i = 0; i < count; ++i) {
         TextSet::Entry& entry = set.insert(textOf(i));
@@ -90,7 +96,8 @@ TEST(TextSet, TellsTextsOfTheSameHashApart) {
         "the text",
     };
     const std::hash<std::string_view> hash;
-    TextSet set;
+    std::pmr::monotonic_buffer_resource memory;
+    TextSet set(memory);
     std::vector<const TextSet::Entry*> entries;
     for (const std::string& text : texts) {
         ASSERT_EQ(hash(text), hash(texts[0]));

@@ -13,8 +13,8 @@ namespace {
 
 std::string entriesOf(const ParseResult& result, const RelativePositions& positions) {
     std::string line;
-    for (const auto& [name, data] : result.entries()) {
-        line += (line.empty() ? "" : " ") + ::describe(name, data, positions);
+    for (const ParseResult::Entry& entry : result.entriesByName()) {
+        line += (line.empty() ? "" : " ") + ::describe(entry.name.text, *entry.data, positions);
     }
     return line;
 }
@@ -81,7 +81,7 @@ TEST_F(ParseResultStore, TakesTheDefaultFieldsOfTheFirstOccurrenceOnly) {
     result.store(level, first);
     result.store(level, second);
     EXPECT_EQ(entries(), "level@1@4=\"5\"@2,\"6\"@5 default=\"first\"@3");
-    EXPECT_EQ(result.entries().at("level").defaultValue, variant_t("first"));
+    EXPECT_EQ(result.find("level")->defaultValue, variant_t("first"));
 }
 
 // Whether an option is new is asked of its first name alone.
@@ -97,6 +97,69 @@ TEST_F(ParseResultStore, AppendsToANameThatWasAddedAfterTheFirstOccurrence) {
     EXPECT_EQ(entries(), "depth@3=\"2\"@4 level@1@3=\"1\"@2,\"2\"@4");
 }
 
+TEST_F(ParseResultStore, AppendsUnderEveryNameAndUnderOneThatWasAdded) {
+    result.store(optionNamed({"level", "l"}), nextOccurrence({"1"}));
+    result.store(optionNamed({"level", "l", "depth"}), nextOccurrence({"2"}));
+    result.store(optionNamed({"level", "l", "depth"}), nextOccurrence());
+    EXPECT_EQ(entries(), "depth@3@5=\"2\"@4 l@1@3@5=\"1\"@2,\"2\"@4 level@1@3@5=\"1\"@2,\"2\"@4");
+}
+
+// Nobody stops two options from having the same synonym.
+TEST_F(ParseResultStore, KeepsTwoOptionsApartThatShareASynonym) {
+    const OptionDescription level = optionNamed({"level", "x"});
+    const OptionDescription depth = optionNamed({"depth", "x"});
+    result.store(level, nextOccurrence());
+    EXPECT_EQ(entries(), "level@1 x@1");
+    result.store(depth, nextOccurrence());
+    EXPECT_EQ(entries(), "depth@2 level@1 x@2");
+    result.store(level, nextOccurrence());
+    EXPECT_EQ(entries(), "depth@2 level@1@3 x@2@3");
+    result.store(depth, nextOccurrence());
+    EXPECT_EQ(entries(), "depth@2@4 level@1@3 x@2@3@4");
+}
+
+TEST_F(ParseResultStore, KeepsAnOptionApartFromOneThatHasItsNameAsASynonym) {
+    result.store(optionNamed({"b", "a"}), nextOccurrence());
+    result.store(optionNamed({"a", "x"}), nextOccurrence());
+    EXPECT_EQ(entries(), "a@1@2 b@1 x@2");
+    result.store(optionNamed({"b", "a"}), nextOccurrence());
+    EXPECT_EQ(entries(), "a@1@2@3 b@1@3 x@2");
+}
+
+TEST_F(ParseResultStore, AppendsUnderTheNamesOfTheRepetitionAlone) {
+    result.store(optionNamed({"a", "x", "y"}), nextOccurrence());
+    result.store(optionNamed({"a", "y", "z"}), nextOccurrence());
+    EXPECT_EQ(entries(), "a@1@2 x@1 y@1@2 z@2");
+    result.store(optionNamed({"a"}), nextOccurrence());
+    EXPECT_EQ(entries(), "a@1@2@3 x@1 y@1@2 z@2");
+}
+
+TEST_F(ParseResultStore, AppendsOnceForEveryTimeThatAnOptionHasAName) {
+    const OptionDescription twice = optionNamed({"a", "b", "a"});
+    result.store(twice, nextOccurrence());
+    EXPECT_EQ(entries(), "a@1 b@1");
+    result.store(twice, nextOccurrence());
+    EXPECT_EQ(entries(), "a@1@2@2 b@1@2");
+}
+
+TEST_F(ParseResultStore, ListsItsEntriesInTheOrderInWhichTheyCame) {
+    result.store(optionNamed({"level", "l"}), nextOccurrence());
+    result.store(optionNamed({"b"}), nextOccurrence());
+    result.store(optionNamed({"level", "l", "a"}), nextOccurrence());
+    std::string names;
+    for (const ParseResult::Entry& entry : result.entries()) {
+        names.append(entry.name.text).append(" ");
+    }
+    EXPECT_EQ(names, "level l b a ");
+}
+
+TEST_F(ParseResultStore, FindsWhatIsStoredUnderAName) {
+    EXPECT_EQ(result.find("level"), nullptr);
+    result.store(optionNamed({"level", "l"}), nextOccurrence());
+    EXPECT_EQ(positions(result.find("l")->positions.at(0)), 1);
+    EXPECT_EQ(result.find("leve"), nullptr);
+}
+
 TEST_F(ParseResultStore, RefusesAnOptionWithoutNames) {
     EXPECT_THROW(result.store(optionNamed({}), nextOccurrence()), std::out_of_range);
     EXPECT_EQ(entries(), "");
@@ -109,7 +172,7 @@ TEST_F(ParseResultStore, RecordsADefaultUnderEveryNameAtPositionsOfTheirOwn) {
     EXPECT_EQ(entries(), "depth default=\"7\"@3 l default=\"7\"@2 level default=\"7\"@1");
     EXPECT_EQ(positions.taken(), 3);
     EXPECT_EQ(message, "untouched");
-    EXPECT_EQ(result.entries().at("l").defaultValue, variant_t(std::int32_t(7)));
+    EXPECT_EQ(result.find("l")->defaultValue, variant_t(std::int32_t(7)));
 }
 
 TEST_F(ParseResultStore, RendersDefaultsOfEveryKind) {
@@ -160,6 +223,17 @@ TEST_F(ParseResultStore, KeepsOccurrencesWhenDefaultsAreAppliedAgain) {
     result.store(options[0], nextOccurrence({"5"}));
     result.applyDefault(options, message);
     EXPECT_EQ(entries(), "level@2=\"5\"@3 default=\"7\"@4");
+}
+
+TEST_F(ParseResultStore, RecordsDefaultsBesideOccurrencesUnderEveryName) {
+    const OptionDescription plain = optionNamed({"level", "l"});
+    result.store(plain, nextOccurrence({"5"}));
+    std::vector<OptionDescription> options = {withDefault({"level", "l"}, vtString, "7")};
+    std::string message;
+    result.applyDefault(options, message);
+    EXPECT_EQ(entries(), "l@1=\"5\"@2 default=\"7\"@4 level@1=\"5\"@2 default=\"7\"@3");
+    result.store(plain, nextOccurrence());
+    EXPECT_EQ(entries(), "l@1@5=\"5\"@2 default=\"7\"@4 level@1@5=\"5\"@2 default=\"7\"@3");
 }
 
 // A host can only make such a kind with a cast; it has no text.

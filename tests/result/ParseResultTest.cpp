@@ -64,6 +64,16 @@ TEST_F(ParseResultQueries, FindAnOptionByAnyOfItsNamesExactly) {
     }
 }
 
+TEST_F(ParseResultQueries, GoOnWithWhatIsStoredUnderTheirNameMeanwhile) {
+    EXPECT_EQ(get("l"), "\"a\"@11");
+    result.store(optionNamed({"level"}), occurrences({60}, {{"d", 61}}));
+    result.store(optionNamed({"other", "l2"}), occurrences({70}, {{"f", 71}}));
+    result.store(optionNamed({"level", "l"}), occurrences({80}, {{"e", 81}}));
+    EXPECT_EQ(rest(), "\"b\"@12 \"c\"@21 \"e\"@81");
+    EXPECT_EQ(get("level"), "\"a\"@11");
+    EXPECT_EQ(rest(), "\"b\"@12 \"c\"@21 \"d\"@61 \"e\"@81");
+}
+
 TEST_F(ParseResultQueries, FindNothingUnderANullName) {
     EXPECT_EQ(get(nullptr), "missing");
     EXPECT_FALSE(result.present(nullptr, 0, end));

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 
 #include "support/RelativePositions.h"
 #include "tarv_3_3/internal/OptionData.h"
@@ -8,9 +9,9 @@
 /// Stored data as one line: `level@1="5"@2` is an occurrence at 1 with the value "5" at 2,
 /// `verbose@1` one without a value, `files@1@4="a"@2,"b"@3,"c"@5` two occurrences with three values
 /// in all. A default follows as `default="7"@6`.
-inline std::string describe(const std::string& name, const tarv_3_3::OptionData& data,
+inline std::string describe(std::string_view name, const tarv_3_3::OptionData& data,
                             const RelativePositions& relative) {
-    std::string line = name;
+    std::string line(name);
     for (const int position : data.positions) {
         line += "@" + std::to_string(relative(position));
     }

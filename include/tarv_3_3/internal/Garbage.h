@@ -1,5 +1,7 @@
 #pragma once
 
+#include <memory_resource>
+
 #include "tarv_3_3/export.h"
 #include "tarv_3_3/internal/TextSet.h"
 
@@ -19,6 +21,7 @@ public:
     virtual const char* init(const char* text);
 
 private:
+    std::pmr::monotonic_buffer_resource m_memory;
     internal::TextSet m_strings;
 };
 

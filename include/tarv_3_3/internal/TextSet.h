@@ -7,11 +7,22 @@
 
 namespace tarv_3_3::internal {
 
-/// A set of texts that only grows, and keeps them where they are until its end. To look one up costs
-/// the same however many there are.
+/// A text and its hash, which every set may be asked with.
+struct HashedText {
+    template <class Text>
+    HashedText(const Text& plainText) : text(plainText), hash(std::hash<std::string_view>()(text)) {}
+    HashedText(std::string_view knownText, std::size_t knownHash) : text(knownText), hash(knownHash) {}
+
+    std::string_view text;
+    std::size_t hash;
+};
+
+/// A set of texts that only grows, and keeps them where they are. To look one up costs the same however
+/// many there are.
 class TextSet {
 public:
-    TextSet();
+    /// The entries go with `memory`, which takes nothing back before.
+    explicit TextSet(std::pmr::monotonic_buffer_resource& memory);
     TextSet(const TextSet&) = delete;
     TextSet& operator=(const TextSet&) = delete;
     ~TextSet();
@@ -24,20 +35,22 @@ public:
 
         /// The text and a terminating zero.
         const char* bytes() const { return reinterpret_cast<const char*>(this + 1); }
+
+        HashedText text() const { return {std::string_view(bytes(), size), hash}; }
     };
 
     /// The entry of `text`, made if there is none.
-    Entry& insert(std::string_view text);
+    Entry& insert(const HashedText& text);
 
     /// Null when there is none.
-    const Entry* find(std::string_view text) const;
+    const Entry* find(const HashedText& text) const;
 
 private:
-    std::size_t placeOf(std::string_view text, std::size_t hash) const;
+    std::size_t placeOf(const HashedText& text) const;
     void grow();
-    Entry* makeEntry(std::string_view text, std::size_t hash);
+    Entry* makeEntry(const HashedText& text);
 
-    std::pmr::monotonic_buffer_resource m_memory;
+    std::pmr::memory_resource& m_memory;
     /// A power of two of them, null while they are free. An entry is where its hash says, or, if that
     /// was taken, in the first free one behind.
     std::pmr::vector<Entry*> m_slots;
