@@ -49,8 +49,12 @@ NameScore scoreName(std::string_view typed, std::string_view candidate) {
 
 // Whether the first word of a typed name of several may stand for "no".
 bool beginsLikeNegation(std::string_view typed) {
-    const std::size_t firstDash = typed.find('-');
-    return firstDash < negation.size() && typed.compare(0, firstDash, negation, 0, firstDash) == 0;
+    for (std::size_t i = 0; i < std::min(typed.size(), negation.size()); ++i) {
+        if (typed[i] == '-' || typed[i] != negation[i]) {
+            return typed[i] == '-';
+        }
+    }
+    return false;
 }
 
 // What scoreName would say of "no-" and a name that fits, for a typed name that begins like it.
@@ -90,7 +94,7 @@ int AbbreviationParser::recognize(std::vector<std::string>& args, std::vector<Op
     log(": recognizing argument '", argument, "'");
     m_optionIndex = -1;
     forgetBest();
-    if (argument.size() < 2 || getDashLength(argument, 0) == 0) {
+    if (argument.size() < 2 || dashLength(argument) == 0) {
         m_token = Token();
         return 1;
     }
@@ -136,7 +140,7 @@ void AbbreviationParser::keepBest(std::string_view typed, const std::vector<Opti
             }
         }
     };
-    if (typed.empty() || typed.front() == '-' || beginsLikeNegation(typed)) {
+    if (typed.empty() || beginsLikeNegation(typed)) {
         keepBestOf([](const std::string&) { return true; });
     } else {
         keepBestOf([first = typed.front(), size = typed.size()](const std::string& name) {
@@ -241,10 +245,11 @@ int AbbreviationParser::parse(std::vector<std::string>& args, IResultCollector* 
     if (status != parseOk) {
         return status;
     }
-    for (; consumed > 0; --consumed) {
-        log(": removing argument: '", args[0], "'");
-        args.erase(args.begin());
+    const auto firstLeft = args.begin() + static_cast<std::ptrdiff_t>(consumed);
+    for (auto argument = args.begin(); argument != firstLeft; ++argument) {
+        log(": removing argument: '", *argument, "'");
     }
+    args.erase(args.begin(), firstLeft);
     return parseOk;
 }
 
@@ -259,7 +264,7 @@ int AbbreviationParser::findValue(const OptionDescription& option, std::vector<s
         if (!value.empty()) {
             return fail(err, messages::isBoolean(option.primaryName(), formatTokenMessage(args[0])));
         }
-        value = m_bestNames.front().compare(0, negation.size(), negation) == 0 ? "0" : "1";
+        value += m_bestNames.front().compare(0, negation.size(), negation) == 0 ? '0' : '1';
         return parseOk;
     }
     return value.empty() ? takeNextArgument(option, args, value, consumed, err) : static_cast<int>(parseOk);

@@ -1,7 +1,7 @@
 #include "recognition/ArgumentWindow.h"
 
 #include <algorithm>
-#include <iterator>
+#include <utility>
 
 namespace tarv_3_3 {
 
@@ -38,10 +38,10 @@ void ArgumentWindow::fillWithRest() {
 }
 
 void ArgumentWindow::take(std::size_t count) {
-    const auto first = at(m_arguments, m_taken);
-    m_front.insert(m_front.end(), std::make_move_iterator(first),
-                   std::make_move_iterator(first + static_cast<std::ptrdiff_t>(count)));
-    m_taken += count;
+    for (; count > 0; --count) {
+        m_front.push_back(std::move(m_arguments[m_taken]));
+        ++m_taken;
+    }
 }
 
 } // namespace tarv_3_3

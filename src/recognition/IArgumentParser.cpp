@@ -33,7 +33,8 @@ int IArgumentParser::getNewPositionIndex() {
 int IArgumentParser::parseValueAndAddOption(std::string& value, std::string& err,
                                             const OptionDescription& option, std::vector<std::string>& args,
                                             IResultCollector* collector) {
-    m_occurrence.positions.assign(1, getNewPositionIndex());
+    m_occurrence.positions.clear();
+    m_occurrence.positions.push_back(getNewPositionIndex());
     m_occurrence.values.clear();
     if (!value.empty()) {
         log(": adding values to result container:");
@@ -53,7 +54,10 @@ int IArgumentParser::parseValueAndAddOption(std::string& value, std::string& err
 int IArgumentParser::bindSingleValue(std::string& value, std::string& err, const OptionDescription& option,
                                      const std::string& argument) {
     log(": not using tokenizer");
-    return bindPiece(value, value, err, option, argument);
+    OptionValue& bound = m_occurrence.values.emplace_back();
+    const int status = bindText(value, bound, value, err, option, argument);
+    bound.text = value;
+    return status;
 }
 
 int IArgumentParser::bindList(const std::string& value, std::string& err, const OptionDescription& option,
@@ -68,35 +72,34 @@ int IArgumentParser::bindList(const std::string& value, std::string& err, const 
     }
     while (start != std::string::npos) {
         const std::size_t end = value.find(separator, start);
-        std::string piece = value.substr(start, end - start);
-        log(": value is: '", piece, "'");
-        const int status = bindPiece(piece, value, err, option, argument);
+        OptionValue& bound = m_occurrence.values.emplace_back();
+        bound.text.assign(value, start, end - start);
+        log(": value is: '", bound.text, "'");
+        const int status = bindText(bound.text, bound, value, err, option, argument);
         if (status != parseOk) {
             return status;
         }
-        log(": sent event on value parsed, option: '", option.primaryName(), "', value: '",
-            m_occurrence.values.back().text, "'");
+        log(": sent event on value parsed, option: '", option.primaryName(), "', value: '", bound.text, "'");
         start = value.find_first_not_of(separator, end);
     }
     return parseOk;
 }
 
-int IArgumentParser::bindPiece(std::string& piece, const std::string& value, std::string& err,
-                               const OptionDescription& option, const std::string& argument) {
-    variant_t converted;
-    if (!option.validate(piece, converted, err)) {
+int IArgumentParser::bindText(std::string& text, OptionValue& bound, const std::string& value,
+                              std::string& err, const OptionDescription& option,
+                              const std::string& argument) {
+    if (!option.validate(text, bound.value, err)) {
         err = messages::invalidValue(argument, err);
         log(": ", err);
         return parseFailed;
     }
-    const int position = getNewPositionIndex();
-    const Value shown(piece.c_str(), converted, position);
+    bound.position = getNewPositionIndex();
+    const Value shown(text.c_str(), bound.value, bound.position);
     if (!m_handler->onValueParse(option.primaryName().c_str(), shown)) {
         err = messages::vetoedValue(value, option.primaryName(), argument);
         log(err, " One of the handler signaled the value is not valid.");
         return parseVetoed;
     }
-    m_occurrence.values.push_back({piece, std::move(converted), position});
     return parseOk;
 }
 

@@ -1,5 +1,8 @@
 #pragma once
 
+#include <array>
+#include <cstddef>
+#include <memory_resource>
 #include <string>
 #include <vector>
 
@@ -75,12 +78,15 @@ private:
                         const std::string& argument);
     int bindList(const std::string& value, std::string& err, const OptionDescription& option,
                  const std::string& argument);
-    int bindPiece(std::string& piece, const std::string& value, std::string& err,
-                  const OptionDescription& option, const std::string& argument);
+    int bindText(std::string& text, OptionValue& bound, const std::string& value, std::string& err,
+                 const OptionDescription& option, const std::string& argument);
 
+    /// Room for an option with a few values.
+    std::array<std::byte, 512> m_room;
+    std::pmr::monotonic_buffer_resource m_memory{m_room.data(), m_room.size()};
     /// The one being bound. It keeps its memory for the next one. A handler that starts a parse
     /// meanwhile gets recognizers of its own there.
-    OptionData m_occurrence;
+    OptionData m_occurrence{&m_memory};
 };
 
 } // namespace tarv_3_3

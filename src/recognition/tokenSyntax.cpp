@@ -35,6 +35,8 @@ std::array<ustring8, dashes.size()> makeDashTexts() {
     return texts;
 }
 
+} // namespace
+
 unsigned long unicodeDashLength(std::string_view text) {
     static const auto dashTexts = makeDashTexts();
     for (const ustring8& dash : dashTexts) {
@@ -45,27 +47,13 @@ unsigned long unicodeDashLength(std::string_view text) {
     return 0;
 }
 
-// Nearly every argument begins in ASCII, of which one character is a dash.
-unsigned long dashLength(std::string_view text, std::size_t pos) {
-    if (pos >= text.size()) {
-        return 0;
-    }
-    const auto byte = static_cast<unsigned char>(text[pos]);
-    if (byte < 0x80) {
-        return byte == dashes.front() ? 1 : 0;
-    }
-    return unicodeDashLength(text.substr(pos));
-}
-
-} // namespace
-
 unsigned long getDashLength(const std::string& text, unsigned long pos) {
-    return dashLength(text, pos);
+    return pos < text.size() ? dashLength(std::string_view(text).substr(pos)) : 0;
 }
 
 Token splitToken(std::string_view arg, const SpaceClassifier& classifier) {
-    const std::size_t firstDash = dashLength(arg, 0);
-    const std::size_t start = firstDash + dashLength(arg, firstDash);
+    const std::size_t firstDash = dashLength(arg);
+    const std::size_t start = firstDash + dashLength(arg.substr(firstDash));
     std::size_t end = start;
     while (end < arg.size() && arg[end] != '=' && !classifier.isSpace(arg[end])) {
         ++end;

@@ -14,6 +14,19 @@ class SpaceClassifier;
 /// dash, the en dash, the em dash, the horizontal bar and the swung dash, 0 when there is none.
 TARV_API unsigned long getDashLength(const std::string& text, unsigned long pos);
 
+/// The same at the beginning of a text that does not begin in ASCII.
+unsigned long unicodeDashLength(std::string_view text);
+
+/// The same at the beginning of any text. Nearly every argument begins in ASCII, of which one character
+/// is a dash.
+inline unsigned long dashLength(std::string_view text) {
+    if (text.empty()) {
+        return 0;
+    }
+    const bool isAscii = static_cast<unsigned char>(text.front()) < 0x80;
+    return isAscii ? static_cast<unsigned long>(text.front() == '-') : unicodeDashLength(text);
+}
+
 /// Whether a text begins with '-', which the other dashes are not.
 inline bool beginsWithHyphen(std::string_view text) {
     return !text.empty() && text.front() == '-';
