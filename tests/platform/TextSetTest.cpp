@@ -2,8 +2,8 @@
 
 #include <gtest/gtest.h>
 
-#include <functional>
 #include <memory_resource>
+#include <set>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -88,19 +88,18 @@ TEST(TextSet, KeepsEveryEntryInItsPlaceAsItGrows) {
     EXPECT_EQ(set.find(textOf(count)), nullptr);
 }
 
-// Whoever writes command lines can find texts with one hash; these were found for the one of libstdc++.
+// Whoever writes command lines can find texts with one hash.
 TEST(TextSet, TellsTextsOfTheSameHashApart) {
     const std::vector<std::string> texts = {
-        "the text\xA3\x3D\x60\x3D\x76\xC0\x96\xEA",
-        "another \x06\x10\xD2\x9B\x43\x17\x61\x4D",
+        "the text\x40\x36\x7F\x6B\x3D\x1C\x40\x78",
+        "another \x80\x01\x20\x74\x43\xD5\x02\x1C",
         "the text",
     };
-    const std::hash<std::string_view> hash;
     std::pmr::monotonic_buffer_resource memory;
     TextSet set(memory);
     std::vector<const TextSet::Entry*> entries;
     for (const std::string& text : texts) {
-        ASSERT_EQ(hash(text), hash(texts[0]));
+        ASSERT_EQ(hashOf(text), hashOf(texts[0]));
         EXPECT_EQ(set.find(text), nullptr);
         entries.push_back(&set.insert(text));
     }
@@ -109,6 +108,41 @@ TEST(TextSet, TellsTextsOfTheSameHashApart) {
         EXPECT_EQ(std::string(entries[i]->bytes(), entries[i]->size), texts[i]);
         EXPECT_EQ(set.find(texts[i]), entries[i]);
     }
+}
+
+/// In how many of the first `slots` places of a table the texts begin to look for theirs.
+std::size_t placesOf(const std::vector<std::string>& texts, std::size_t slots) {
+    std::set<std::size_t> places;
+    for (const std::string& text : texts) {
+        places.insert(hashOf(text) % slots);
+    }
+    return places.size();
+}
+
+// By chance 1024 texts would begin in about 647 of 1024 places.
+TEST(HashOf, SpreadsTextsThatDifferInOneOrTwoBytesAnywhere) {
+    for (const std::size_t size : {2U, 3U, 4U, 7U, 8U, 9U, 12U, 16U, 17U, 40U}) {
+        for (std::size_t place = 0; place + 2 <= size; ++place) {
+            SCOPED_TRACE(std::to_string(size) + " bytes, differing at " + std::to_string(place));
+            std::vector<std::string> texts;
+            for (int i = 0; i < 1024; ++i) {
+                std::string text(size, 'x');
+                text[place] = static_cast<char>('A' + i / 32);
+                text[place + 1] = static_cast<char>('A' + i % 32);
+                texts.push_back(text);
+            }
+            EXPECT_GT(placesOf(texts, 1024), 512U);
+        }
+    }
+}
+
+TEST(HashOf, TellsTextsOfOneByteRepeatedApart) {
+    std::vector<std::string> texts;
+    for (std::size_t size = 0; size < 64; ++size) {
+        texts.emplace_back(size, '\0');
+        texts.emplace_back(size, 'x');
+    }
+    EXPECT_GT(placesOf(texts, std::size_t(1) << 32), 126U);
 }
 
 } // namespace
