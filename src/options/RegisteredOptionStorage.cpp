@@ -96,7 +96,9 @@ const Topic& RegisteredOptionStorage::registerTopic(std::string_view topic) {
 
 // Names of refused declarations get entries as well, which note nothing.
 bool RegisteredOptionStorage::isTaken(const Names& names, NameEntries& entries) {
-    learnSynonyms();
+    if (hasNewSynonyms()) {
+        learnSynonyms();
+    }
     bool taken = false;
     for (std::size_t i = 0; i < names.size(); ++i) {
         entries[i] = &m_names.insert(names[i]);
@@ -107,7 +109,9 @@ bool RegisteredOptionStorage::isTaken(const Names& names, NameEntries& entries) 
 }
 
 int RegisteredOptionStorage::find(const internal::HashedText& name, unsigned long& index) {
-    learnSynonyms();
+    if (hasNewSynonyms()) {
+        learnSynonyms();
+    }
     const internal::TextSet::Entry* const entry = m_names.find(name);
     const std::size_t note = noteFor(name.text, entry != nullptr ? entry->note : 0);
     // A host that holds on to a reference for too long may have given a name unseen.
@@ -129,11 +133,13 @@ std::size_t RegisteredOptionStorage::noteFor(std::string_view name, std::size_t 
     return isSwitch && (plain == 0 || negated < plain) ? negated : plain;
 }
 
-// Its host may add synonyms to the last record until the next declaration. Nobody checks those.
+// Its host may add synonyms to the last record until the next declaration.
+bool RegisteredOptionStorage::hasNewSynonyms() const {
+    return !m_options.empty() && m_learntNames < m_options.back().m_names.size();
+}
+
+// Nobody checks synonyms.
 void RegisteredOptionStorage::learnSynonyms() {
-    if (m_options.empty()) {
-        return;
-    }
     const Names& names = m_options.back().m_names;
     for (; m_learntNames < names.size(); ++m_learntNames) {
         std::size_t& note = m_names.insert(names[m_learntNames]).note;

@@ -80,6 +80,7 @@ private:
 
     bool isTaken(const Names& names, NameEntries& entries);
     std::size_t noteFor(std::string_view name, std::size_t plain) const;
+    bool hasNewSynonyms() const;
     void learnSynonyms();
     void makeRoom();
     const Topic& registerTopic(std::string_view topic);
