@@ -8,7 +8,7 @@ namespace tarv_3_3 {
 
 OptionDescription::OptionDescription() = default;
 
-OptionDescription::OptionDescription(Names names, std::set<std::string> tags, const Topic& topic,
+OptionDescription::OptionDescription(Names&& names, std::set<std::string>&& tags, const Topic& topic,
                                      const char* description, OptionKind kind, das_variant_type_t type,
                                      Garbage* garbage, std::pmr::memory_resource* memory)
     : m_names(std::move(names), memory), m_tags(std::move(tags)), m_topic(topic),

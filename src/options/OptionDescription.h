@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "options/NameOrder.h"
+#include "options/Names.h"
 #include "tarv_3_3/IOption.h"
 #include "tarv_3_3/export.h"
 #include "tarv_3_3/variant.h"
@@ -26,9 +27,6 @@ enum OptionKind : int {
 /// A help topic: its name, which identifies it, and its title.
 using Topic = std::pair<std::string, std::string>;
 
-/// The names of one option, the primary one first.
-using Names = std::pmr::vector<std::string>;
-
 /// The record of one declared option, action or modifier. The registry owns all of them by value,
 /// and copies or moves them as its table grows; everybody else reads the fields.
 class TARV_API OptionDescription : public IOption {
@@ -36,8 +34,8 @@ public:
     OptionDescription();
     /// The record and what is moved from it keep the list of names and the description in `memory`,
     /// and must not outlive it; a copy does not.
-    OptionDescription(Names names, std::set<std::string> tags, const Topic& topic, const char* description,
-                      OptionKind kind, das_variant_type_t type, Garbage* garbage,
+    OptionDescription(Names&& names, std::set<std::string>&& tags, const Topic& topic,
+                      const char* description, OptionKind kind, das_variant_type_t type, Garbage* garbage,
                       std::pmr::memory_resource* memory);
     OptionDescription(const OptionDescription&);
     OptionDescription(OptionDescription&&) noexcept;

@@ -1,8 +1,9 @@
 #include "options/split.h"
 
-#include <memory_resource>
 #include <utility>
 #include <vector>
+
+#include "options/Names.h"
 
 namespace tarv_3_3 {
 
@@ -16,17 +17,16 @@ result_t split(std::string text, Words& pieces) {
         comma = text.find(',', start + 1);
     }
     if (start == text.size() && !text.empty()) {
-        pieces.push_back(std::string(1, '\0'));
+        pieces.emplace_back(1, '\0');
     } else if (start > 0) {
         pieces.emplace_back(text, start);
     } else if (!text.empty()) {
-        pieces.push_back(std::move(text));
+        pieces.emplace_back(std::move(text));
     }
     return 0;
 }
 
 template result_t split<std::vector<std::string>>(std::string text, std::vector<std::string>& pieces);
-template result_t split<std::pmr::vector<std::string>>(std::string text,
-                                                       std::pmr::vector<std::string>& pieces);
+template result_t split<Names>(std::string text, Names& pieces);
 
 } // namespace tarv_3_3

@@ -9,8 +9,8 @@ namespace tarv_3_3 {
 /// Outcome of an operation; 0 is success.
 using result_t = int;
 
-/// Splits a comma-separated list and appends its words to `pieces`, a `std::vector` or a
-/// `std::pmr::vector` of strings. Always returns 0.
+/// Splits a comma-separated list and appends its words to `pieces`, a `std::vector` of
+/// strings or `Names`. Always returns 0.
 ///
 /// The character behind a comma is never a separator: "a,,b" is "a" and ",b". Hence a text that
 /// ends in a comma has a last word of one character, the terminating zero. An empty text has no

@@ -129,23 +129,16 @@ void AbbreviationParser::makeOptionNamesList(std::vector<OptionDescription>& opt
 }
 
 // What makeOptionNamesList, makeNameMatch and findBest do one after the other, in one pass over the
-// table. Most names are done with after their first byte.
+// table. Most records are done with after the first byte of the typed name.
 void AbbreviationParser::keepBest(std::string_view typed, const std::vector<OptionDescription>& options) {
-    const auto keepBestOf = [&](auto mayFit) {
-        for (const OptionDescription& option : options) {
+    const bool anyMayFit = typed.empty() || beginsLikeNegation(typed);
+    const std::uint64_t firstByte = anyMayFit ? ~std::uint64_t(0) : Names::bitOf(typed.front());
+    for (const OptionDescription& option : options) {
+        if ((option.m_names.firstBytes() & firstByte) != 0) {
             for (const std::string& name : option.m_names) {
-                if (mayFit(name)) {
-                    keepIfBest(typed, name, option, options);
-                }
+                keepIfBest(typed, name, option, options);
             }
         }
-    };
-    if (typed.empty() || beginsLikeNegation(typed)) {
-        keepBestOf([](const std::string&) { return true; });
-    } else {
-        keepBestOf([first = typed.front(), size = typed.size()](const std::string& name) {
-            return name[0] == first && name.size() >= size;
-        });
     }
 }
 
@@ -153,7 +146,7 @@ void AbbreviationParser::keepBest(std::string_view typed, const std::vector<Opti
 [[gnu::noinline]] void AbbreviationParser::keepIfBest(std::string_view typed, const std::string& name,
                                                       const OptionDescription& option,
                                                       const std::vector<OptionDescription>& options) {
-    if (isBest(scoreName(typed, name))) {
+    if (name.size() >= typed.size() && isBest(scoreName(typed, name))) {
         m_bestNames.push_back(name);
         m_optionIndex = &option - options.data();
     }

@@ -65,12 +65,12 @@ TEST_F(PinnedOptions, LeaveNoOldTableBehindTheLastPin) {
 
 TEST_F(PinnedOptions, MoveToALargerTableOnceNothingPinsThem) {
     declareMany("first", 1);
-    const std::string* const names = registry.m_options.front().m_names.data();
+    const std::string* const names = &registry.m_options.front().m_names.front();
     declareMany("early", 100);
-    EXPECT_EQ(registry.m_options.front().m_names.data(), names);
+    EXPECT_EQ(&registry.m_options.front().m_names.front(), names);
     { const RegisteredOptionStorage::Pin pin(registry); }
     declareMany("late", 400);
-    EXPECT_EQ(registry.m_options.front().m_names.data(), names);
+    EXPECT_EQ(&registry.m_options.front().m_names.front(), names);
 }
 
 } // namespace
