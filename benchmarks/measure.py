@@ -123,10 +123,12 @@ def argument_order(program, phase, sizes):
     return f"{order(costs, phase, 1000):.2f}" + largest
 
 
-def argument_rows(table, sizes):
+def argument_rows(table, sizes, keeping):
     for size in sizes:
         table.row(f"W2, {size:,} arguments: parse, per argument",
                   lambda each: per_argument(each, size, "parse", sizes))
+    table.row("W2, 10,000 arguments: keeping alone, per argument",
+              lambda each: per_argument(keeping, 10000, "parse", [10000]) if each.name == "tarv" else None)
     table.row("W2, order of parse, 1,000 to 100,000 arguments", lambda each: argument_order(each, "parse", sizes))
     table.row("W2, 10,000 arguments: read, per argument", lambda each: per_argument(each, 10000, "read", sizes))
     table.row("W2, order of read", lambda each: argument_order(each, "read", sizes))
@@ -235,15 +237,16 @@ def print_circumstances(build):
 
 def measure_all(build, data):
     programs = [Program(build, name) for name in LIBRARIES]
+    keeping = Program(build, "keeping")
     hosts = [Host(build, name) for name in LIBRARIES]
-    check_answers(programs)
+    check_answers([*programs, keeping])
     check_help(programs)
     check_hosts(hosts)
     print_circumstances(build)
     table = Table(programs)
     table.head([program.title for program in programs])
     everyday_rows(table)
-    argument_rows(table, ARGUMENTS)
+    argument_rows(table, ARGUMENTS, keeping)
     option_rows(table, OPTIONS)
     help_rows(table)
     compilation_rows(Table(hosts))
@@ -271,11 +274,12 @@ def write_data(programs, folder):
 
 def measure_tarv(build):
     tarv = Program(build, "tarv")
-    check_answers([Program(build, "handwritten"), tarv])
+    keeping = Program(build, "keeping")
+    check_answers([Program(build, "handwritten"), keeping, tarv])
     table = Table([tarv])
     table.head(["tarv"])
     everyday_rows(table)
-    argument_rows(table, [1000, 10000, 100000])
+    argument_rows(table, [1000, 10000, 100000], keeping)
     option_rows(table, [100, 1000, 3000])
     help_rows(table)
     host_rows(Table([Host(build, "tarv")]))

@@ -12,6 +12,7 @@ extern const Candidate cxxoptsCandidate;
 extern const Candidate getoptCandidate;
 extern const Candidate gflagsCandidate;
 extern const Candidate handwrittenCandidate;
+extern const Candidate keepingCandidate;
 extern const Candidate llvmCandidate;
 extern const Candidate poptCandidate;
 extern const Candidate tarvCandidate;
