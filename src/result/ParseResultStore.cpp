@@ -39,7 +39,7 @@ int ParseResult::store(const OptionDescription& option, const OptionData& data) 
 }
 
 // Each name has data of its own, as far as anybody can see: names that are stored together from the
-// start to the end share it.
+// start to the end share it. A name that the option has twice shares it already.
 void ParseResult::storeFirst(const internal::HashedText& firstName, const Names& names,
                              const OptionData& data) {
     const std::size_t first = m_options.size();
@@ -47,11 +47,11 @@ void ParseResult::storeFirst(const internal::HashedText& firstName, const Names&
     addEntry(m_names.insert(firstName), shared, 1);
     for (auto name = names.begin() + 1; name != names.end(); ++name) {
         internal::TextSet::Entry& known = m_names.insert(*name);
-        if (known.note != 0) {
-            ownData(known.text()) = data;
-        } else {
+        if (known.note == 0) {
             addEntry(known, shared, 0);
             ++m_options[first].together;
+        } else if (known.note <= first) {
+            ownData(known.text()) = data;
         }
     }
 }

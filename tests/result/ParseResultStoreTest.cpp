@@ -142,6 +142,16 @@ TEST_F(ParseResultStore, AppendsOnceForEveryTimeThatAnOptionHasAName) {
     EXPECT_EQ(entries(), "a@1@2@2 b@1@2");
 }
 
+TEST_F(ParseResultStore, KeepsNamesApartOfWhichOneStandsTwiceBeforeAnother) {
+    const OptionDescription twice = optionNamed({"a", "b", "a", "c"});
+    result.store(twice, nextOccurrence());
+    EXPECT_EQ(entries(), "a@1 b@1 c@1");
+    result.store(optionNamed({"a"}), nextOccurrence());
+    EXPECT_EQ(entries(), "a@1@2 b@1 c@1");
+    result.store(twice, nextOccurrence());
+    EXPECT_EQ(entries(), "a@1@2@3@3 b@1@3 c@1@3");
+}
+
 TEST_F(ParseResultStore, ListsItsEntriesInTheOrderInWhichTheyCame) {
     result.store(optionNamed({"level", "l"}), nextOccurrence());
     result.store(optionNamed({"b"}), nextOccurrence());
