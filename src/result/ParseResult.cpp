@@ -164,7 +164,7 @@ int ParseResult::nextValue(const OptionData& data, char** text, variant_t& value
         ++m_valuesCursor;
     }
     // The upper bound is inclusive here, exclusive where an iteration starts.
-    if (m_valuesCursor == data.values.size() || data.values[m_valuesCursor].position > m_upperBound) {
+    if (m_valuesCursor >= data.values.size() || data.values[m_valuesCursor].position > m_upperBound) {
         return valueMissing;
     }
     const OptionValue& found = data.values[m_valuesCursor];
@@ -176,7 +176,7 @@ int ParseResult::nextValue(const OptionData& data, char** text, variant_t& value
 }
 
 int ParseResult::nextOccurrence(const OptionData& data, int& position) {
-    if (m_positionsCursor == data.positions.size()) {
+    if (m_positionsCursor >= data.positions.size()) {
         return valueMissing;
     }
     position = data.positions[m_positionsCursor];

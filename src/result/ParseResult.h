@@ -22,7 +22,8 @@ namespace tarv_3_3 {
 /// ever removed. Hosts query it through `IParseResult`.
 ///
 /// The cursors of an iteration are places in lists that a further parse may lengthen, so a host may
-/// go on iterating after one.
+/// go on iterating after one. A parse may also replace a list by a shorter one, where two options share
+/// a name: a cursor may lie behind its end.
 class TARV_API ParseResult : public IParseResult, public IResultCollector {
 public:
     /// What is stored under one name. Both lie in the result.

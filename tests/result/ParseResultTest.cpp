@@ -246,6 +246,20 @@ TEST_F(ParseResultQueries, GoOnIntoWhatIsStoredMeanwhile) {
     EXPECT_EQ(rest(), "\"b\"@12 \"c\"@21 \"d\"@71");
 }
 
+// The first occurrence of another option that has the name as well replaces what is stored under it.
+TEST_F(ParseResultQueries, EndWhereTheirListsWereReplacedByShorterOnesMeanwhile) {
+    EXPECT_EQ(get("l"), "\"a\"@11");
+    EXPECT_EQ(next(), "\"b\"@12");
+    EXPECT_EQ(next(), "\"c\"@21");
+    result.store(optionNamed({"last", "l"}), occurrences({60}, {{"d", 61}}));
+    EXPECT_EQ(next(), "missing");
+    EXPECT_EQ(get("quiet"), "@30");
+    EXPECT_EQ(next(), "@40");
+    result.store(optionNamed({"silent", "quiet"}), occurrences({70}));
+    EXPECT_EQ(next(), "missing");
+    EXPECT_EQ(result.nextPosition(), end);
+}
+
 TEST_F(ParseResultQueries, CountPositionsFromTheOccurrenceFoundWithoutBounds) {
     EXPECT_EQ(get("level", 0, 11), "\"a\"@11");
     EXPECT_EQ(result.nextPosition(), 10);
