@@ -8,11 +8,13 @@
 #include <utility>
 #include <vector>
 
+#include "tarv_3_3/export.h"
+
 namespace tarv_3_3 {
 
 /// The names of one option, the primary one first. Knows with which bytes they begin: whoever looks for
 /// a name in a large table need not look at each.
-class Names {
+class TARV_API Names {
 public:
     using allocator_type = std::pmr::polymorphic_allocator<std::string>;
     using List = std::pmr::vector<std::string>;

@@ -113,11 +113,11 @@ int ParseResult::applyDefault(std::vector<OptionDescription>& options, std::stri
 }
 
 ParseResult::Entries ParseResult::entriesByName() const {
-    Entries entries(m_options);
-    std::sort(entries.begin(), entries.end(), [](const Entry& left, const Entry& right) {
+    Entries ordered(m_options);
+    std::sort(ordered.begin(), ordered.end(), [](const Entry& left, const Entry& right) {
         return NameOrder()(left.name.text, right.name.text);
     });
-    return entries;
+    return ordered;
 }
 
 std::size_t ParseResult::placeOf(const internal::HashedText& name) const {
