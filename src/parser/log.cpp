@@ -32,13 +32,22 @@ void TarvLog::open() {
     m_stream = std::make_unique<std::ostream>(m_buffer.get());
 }
 
-std::ostream& tarvLog() {
+namespace {
+
+std::ostream& currentLog() {
     static TarvLog holder;
     return tarvLogEnabled ? MERO_2_16::strings::gh2::ucout() : holder.discarding();
 }
 
+} // namespace
+
+std::ostream& tarvLog() {
+    discardingHasFailed = false;
+    return currentLog();
+}
+
 std::ostream* findWorkingLog() {
-    std::ostream& log = tarvLog();
+    std::ostream& log = currentLog();
     if (!log.fail()) {
         return &log;
     }

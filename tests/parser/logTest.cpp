@@ -96,6 +96,45 @@ TEST(WriteLogLine, WritesNothingWhileTheTraceIsOff) {
     EXPECT_EQ(output.text(), "");
 }
 
+// Once it is known to have failed nobody looks at it, unless it was asked for since.
+TEST(WriteLogLine, WritesToADiscardingStreamThatAHostGaveABuffer) {
+    tarvLogEnabled = false;
+    writeLogLine("first");
+    writeLogLine("second");
+    std::ostringstream text;
+    std::streambuf* const own = tarvLog().rdbuf(text.rdbuf());
+    writeLogLine("third");
+    writeLogLine("fourth");
+    EXPECT_EQ(text.str(), "third\nfourth\n");
+    tarvLog().rdbuf(own);
+    writeLogLine("fifth");
+    EXPECT_TRUE(tarvLog().fail());
+    EXPECT_EQ(text.str(), "third\nfourth\n");
+}
+
+// The switch is looked at for every line, whatever was found out at the one before.
+TEST(WriteLogLine, FollowsTheSwitchFromLineToLine) {
+    const CapturedLog log;
+    writeLogLine("on");
+    for (int i = 0; i < 3; ++i) {
+        tarvLogEnabled = false;
+        writeLogLine("off");
+        writeLogLine("off");
+        tarvLogEnabled = true;
+        writeLogLine("on again");
+    }
+    EXPECT_EQ(log.text(), "on\non again\non again\non again\n");
+}
+
+TEST(WriteLogLine, GoesOnWhereStandardOutputWorksAgain) {
+    const CapturedLog log;
+    std::cout.setstate(std::ios::failbit);
+    writeLogLine("lost");
+    std::cout.clear();
+    writeLogLine("written");
+    EXPECT_EQ(log.text(), "written\n");
+}
+
 TEST(LogSwitch, HoldsUntilTheNextParse) {
     struct Destroyer {
         void operator()(IParser* parser) const { parser->destroy(); }

@@ -46,7 +46,8 @@ TARV_API std::ostream& tarvLog();
 
 /// What follows is for the library's own code.
 
-/// Whether the discarding stream has failed, as it does at its first write.
+/// Whether the discarding stream is known to have failed, as it does at its first write. Whoever asks
+/// for it with `tarvLog` may clear its state, so that is forgotten then.
 [[gnu::visibility("hidden")]] extern bool discardingHasFailed;
 
 /// What `workingLog` returns until that is known, and while the trace is on.
