@@ -164,6 +164,48 @@ TEST_F(PhaseTwo, EndsAtAnEntryThatThisParserDoesNotKnow) {
     EXPECT_EQ(parsing.error(), "earlier");
 }
 
+TEST(PhaseTwoNames, MustBeKnownWhereNoActionIsDeclaredEither) {
+    BasicParser stranger(0);
+    stranger.option("strange", "", vtNull, "");
+    Parsing parsing;
+    parsing.parser.option("level", "", vtNull, "");
+    const char* const argv[] = {"program", "--strange"};
+    EXPECT_EQ(stranger.parseArgsVector(2, argv, &parsing.result), 0);
+    parsing.parser.setLastError("earlier");
+    EXPECT_EQ(parsing.parse({"--level"}), 1);
+    EXPECT_EQ(parsing.error(), "earlier");
+    EXPECT_EQ(parsing.stored(), "level@2 strange@1");
+    stranger.option("level", "", vtNull, "");
+    EXPECT_EQ(stranger.parseArgsVector(2, argv, &parsing.result), 0);
+}
+
+// Unknown names are met in the order of all names as well: "c" comes before the second action.
+TEST(PhaseTwoNames, EndWhereTheFirstUnknownOneOrSecondActionIs) {
+    const struct {
+        const char* option;
+        int status;
+        const char* error;
+    } rows[] = {
+        {"a", 1, "earlier"},
+        {"c", 1, "earlier"},
+        {"e", 2, "Action '-d' and action '-b' were defined, but only one action possible."},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.option);
+        BasicParser stranger(0);
+        stranger.option(row.option, "", vtNull, "").synonym("strange");
+        Parsing parsing;
+        parsing.parser.option("strange", "", vtNull, "");
+        parsing.parser.action("d", "", vtNull, "");
+        parsing.parser.action("b", "", vtNull, "");
+        const char* const argv[] = {"program", "--strange"};
+        EXPECT_EQ(stranger.parseArgsVector(2, argv, &parsing.result), 0);
+        parsing.parser.setLastError("earlier");
+        EXPECT_EQ(parsing.parse({"-d", "-b"}), row.status);
+        EXPECT_EQ(parsing.error(), row.error);
+    }
+}
+
 TEST_F(PhaseTwo, ReadsTheResultAlone) {
     EXPECT_EQ(parsing.parse({"--build"}), 0);
     std::vector<std::string> arguments = {"--clean=all", "--"};

@@ -96,6 +96,25 @@ TEST(WriteLogLine, WritesNothingWhileTheTraceIsOff) {
     EXPECT_EQ(output.text(), "");
 }
 
+TEST(WriteLogLine, FlushesEveryLine) {
+    struct FlushCounter : std::stringbuf {
+        int sync() override {
+            ++flushes;
+            return 0;
+        }
+        int flushes = 0;
+    };
+    const CapturedLog log;
+    FlushCounter buffer;
+    std::streambuf* const captured = std::cout.rdbuf(&buffer);
+    writeLogLine("one");
+    EXPECT_EQ(buffer.flushes, 1);
+    writeLogLine("two");
+    EXPECT_EQ(buffer.flushes, 2);
+    EXPECT_EQ(buffer.str(), "one\ntwo\n");
+    std::cout.rdbuf(captured);
+}
+
 // Once it is known to have failed nobody looks at it, unless it was asked for since.
 TEST(WriteLogLine, WritesToADiscardingStreamThatAHostGaveABuffer) {
     tarvLogEnabled = false;

@@ -88,6 +88,15 @@ TEST(TextSet, KeepsEveryEntryInItsPlaceAsItGrows) {
     EXPECT_EQ(set.find(textOf(count)), nullptr);
 }
 
+TEST(TextSet, FindsNothingHoweverManyEntriesItHas) {
+    std::pmr::monotonic_buffer_resource memory;
+    TextSet set(memory);
+    for (std::size_t i = 0; i < 1030; ++i) {
+        set.insert(textOf(i));
+        ASSERT_EQ(set.find("another"), nullptr) << i;
+    }
+}
+
 // Whoever writes command lines can find texts with one hash.
 TEST(TextSet, TellsTextsOfTheSameHashApart) {
     const std::vector<std::string> texts = {

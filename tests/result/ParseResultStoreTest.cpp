@@ -134,6 +134,12 @@ TEST_F(ParseResultStore, AppendsUnderTheNamesOfTheRepetitionAlone) {
     EXPECT_EQ(entries(), "a@1@2@3 x@1 y@1@2 z@2");
 }
 
+TEST_F(ParseResultStore, TellsRepetitionsApartWhoseLastNamesDiffer) {
+    result.store(optionNamed({"a", "x"}), nextOccurrence());
+    result.store(optionNamed({"a", "y"}), nextOccurrence());
+    EXPECT_EQ(entries(), "a@1@2 x@1 y@2");
+}
+
 TEST_F(ParseResultStore, AppendsOnceForEveryTimeThatAnOptionHasAName) {
     const OptionDescription twice = optionNamed({"a", "b", "a"});
     result.store(twice, nextOccurrence());
