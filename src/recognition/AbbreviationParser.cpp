@@ -129,7 +129,8 @@ void AbbreviationParser::makeOptionNamesList(std::vector<OptionDescription>& opt
 }
 
 // What makeOptionNamesList, makeNameMatch and findBest do one after the other, in one pass over the
-// table. Most records are done with after the first byte of the typed name.
+// table. Most records are done with after the first byte of the typed name, unless its first word is
+// empty, as which every name begins, or may stand for the "no" of a switch.
 void AbbreviationParser::keepBest(std::string_view typed, const std::vector<OptionDescription>& options) {
     const bool anyMayFit = typed.empty() || beginsLikeNegation(typed);
     const std::uint64_t firstByte = anyMayFit ? ~std::uint64_t(0) : Names::bitOf(typed.front());

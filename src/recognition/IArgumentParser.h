@@ -84,8 +84,8 @@ private:
     /// Room for an option with a few values.
     std::array<std::byte, 512> m_room;
     std::pmr::monotonic_buffer_resource m_memory{m_room.data(), m_room.size()};
-    /// The one being bound. It keeps its memory for the next one. A handler that starts a parse
-    /// meanwhile gets recognizers of its own there.
+    /// The one being bound. It keeps its memory for the next one. A parse that a handler starts
+    /// meanwhile has recognizers of its own, so it does not get in the way.
     OptionData m_occurrence{&m_memory};
 };
 

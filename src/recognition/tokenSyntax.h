@@ -41,7 +41,8 @@ struct Token {
     bool hasValue = false;
 
     ///@{
-    /// The piece of `arg`, the argument that was cut; an empty name of a token that was never cut.
+    /// The piece of `arg`, the argument that was cut; of a token that was never cut, an empty name.
+    /// Throws `std::out_of_range` when `arg` is a shorter one that ends before the piece.
     std::string_view nameIn(std::string_view arg) const { return arg.substr(nameStart, nameEnd - nameStart); }
     std::string_view valueIn(std::string_view arg) const { return arg.substr(valueStart); }
     ///@}
