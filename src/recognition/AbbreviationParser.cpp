@@ -258,7 +258,7 @@ int AbbreviationParser::findValue(const OptionDescription& option, std::vector<s
         if (!value.empty()) {
             return fail(err, messages::isBoolean(option.primaryName(), formatTokenMessage(args[0])));
         }
-        value += m_bestNames.front().compare(0, negation.size(), negation) == 0 ? '0' : '1';
+        value += m_bestNames.at(0).compare(0, negation.size(), negation) == 0 ? '0' : '1';
         return parseOk;
     }
     return value.empty() ? takeNextArgument(option, args, value, consumed, err) : static_cast<int>(parseOk);

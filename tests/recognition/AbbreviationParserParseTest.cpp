@@ -195,6 +195,10 @@ TEST(AbbreviationParserSwitch, WhoseNameBeginsWithNoStoresZeroUnderItsOwnName) {
         });
     expectOutcomes("normal", vtBool,
                    {{{"--normal"}, "0: normal@1=\"1\"@2", "option normal; value normal=\"1\"@2"}});
+    expectOutcomes("piano-no-lid", vtBool,
+                   {{{"--piano-no-lid"},
+                     "0: piano-no-lid@1=\"1\"@2",
+                     "option piano-no-lid; value piano-no-lid=\"1\"@2"}});
     expectOutcomes("color,no-colour", vtBool,
                    {{{"--no-colour"}, "0: color@1=\"0\"@2", "option color; value color=\"0\"@2"}});
 }
@@ -215,6 +219,37 @@ TEST(AbbreviationParserNullKind, TakesNoValue) {
 TEST(AbbreviationParserParse, NamesTheFirstNameWhicheverWasTyped) {
     expectOutcomes("level,l", vtInt32,
                    {{{"-l", "3"}, "0: level@1=\"3\"@2", "option level; value level=\"3\"@2"}});
+}
+
+TEST(AbbreviationParserParse, KnowsNoOptionBeforeAnythingWasRecognized) {
+    Recognition<AbbreviationParser> one;
+    one.declare("level", vtInt32);
+    for (const auto& [argument, outcome] :
+         {std::pair{"--level=3", "2: Unknown option '--level=3' |--level=3"},
+          std::pair{"level=3", "2: Unknown option 'level=3' |level=3"},
+          std::pair{"", "2: Unknown option '' |"}}) {
+        SCOPED_TRACE(argument);
+        one.args = {argument};
+        EXPECT_EQ(one.parse(), outcome);
+        EXPECT_EQ(one.index, static_cast<unsigned long>(-1));
+    }
+}
+
+TEST(AbbreviationParserParse, ThrowsWhereItLacksWhatRecognizeFound) {
+    Recognition<AbbreviationParser> one;
+    one.declare("verbose", vtBool);
+    ASSERT_EQ(one.recognize({"--verbose"}), 0);
+    one.args = {"-"};
+    EXPECT_THROW(one.parse(), std::out_of_range) << "a shorter argument";
+    one.args = {"--verbose"};
+    std::vector<OptionDescription> none;
+    EXPECT_THROW(one.recognizer.parse(one.args, &one.collector, none, one.index, one.err), std::out_of_range)
+        << "a shorter table";
+    DecomposedName best("");
+    ASSERT_EQ(one.recognizer.findBest({}, best, one.err), 1);
+    EXPECT_THROW(one.parse(), std::out_of_range) << "no candidates";
+    EXPECT_EQ(one.collector.stored, "");
+    EXPECT_EQ(one.handler.events, "");
 }
 
 TEST(AbbreviationParserParse, PassesTheFailuresOfBindingOnAndRemovesNothing) {
