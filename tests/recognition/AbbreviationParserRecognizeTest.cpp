@@ -144,6 +144,18 @@ TEST_F(AbbreviationParserRecognize, ForgetsTheOptionItFoundBeforeWhenItFindsNone
     EXPECT_EQ(index, static_cast<unsigned long>(-1));
 }
 
+TEST_F(AbbreviationParserRecognize, ForgetsTheArgumentThatItTookBeforeWhenItRefusesOneUncut) {
+    declare("level", vtInt32);
+    for (const auto& [argument, outcome] :
+         {std::pair{"level=3", "2: Unknown option 'level=3' |level=3"},
+          std::pair{"-", "2: Unknown option '-' |-"}, std::pair{"", "2: Unknown option '' |"}}) {
+        SCOPED_TRACE(argument);
+        EXPECT_EQ(recognize({"--level=3"}), 0);
+        EXPECT_EQ(recognize({argument}), 1);
+        EXPECT_EQ(parse(), outcome);
+    }
+}
+
 TEST_F(AbbreviationParserRecognize, SeesWhatWasDeclaredSinceTheLastArgument) {
     IOption& level = declare("level", vtInt32);
     EXPECT_EQ(recognize({"--degree"}), 1);
@@ -162,6 +174,38 @@ TEST_F(AbbreviationParserRecognize, LooksAtTheTableThatItIsGiven) {
     EXPECT_EQ(recognize({"--level"}), 0);
     EXPECT_EQ(recognizer.recognize(args, other.registry.m_options, err), 1);
     EXPECT_EQ(recognizer.recognize(args, registry.m_options, err), 0);
+}
+
+TEST(AbbreviationParserFirstByte, OfANameMayBeAnyThatANameCanHave) {
+    const std::string noName = " \t\n\v\f\r=,-";
+    for (int byte = 1; byte < 256; ++byte) {
+        if (noName.find(static_cast<char>(byte)) != std::string::npos) {
+            continue;
+        }
+        SCOPED_TRACE(byte);
+        const std::string name = std::string(1, static_cast<char>(byte)) + "xy";
+        Recognition<AbbreviationParser> one;
+        one.declare(name.c_str(), vtBool);
+        EXPECT_EQ(one.run({"--" + name.substr(0, 1)}), "0: " + name + "@1=\"1\"@2");
+        one.collector.stored.clear();
+        EXPECT_EQ(one.run({"--no-" + name}), "0: " + name + "@3=\"0\"@4");
+        EXPECT_EQ(one.run({"--="}), "2: " + name + "@3=\"0\"@4Unknown option '--=' |--=");
+    }
+}
+
+TEST(AbbreviationParserFirstByte, IsLookedForInSynonymsToo) {
+    Recognition<AbbreviationParser> one;
+    one.declare("level,d", vtInt32).synonym("grade");
+    EXPECT_EQ(one.run({"-d=1"}), "0: level@1=\"1\"@2");
+    EXPECT_EQ(one.run({"--gr=2"}), "0: level@1=\"1\"@2 level@3=\"2\"@4");
+}
+
+TEST(AbbreviationParserFirstByte, MayBelongToADashThatIsNotAscii) {
+    Recognition<AbbreviationParser> one;
+    one.declare("\u2013level", vtInt32);
+    EXPECT_EQ(one.run({"--\u2013level=3"}), "0: \u2013level@1=\"3\"@2");
+    EXPECT_EQ(one.run({"-\u2014\u2013l=4"}), "0: \u2013level@1=\"3\"@2 \u2013level@3=\"4\"@4");
+    EXPECT_EQ(one.run({"-\u2013level=5"}), "not taken");
 }
 
 struct NamedRow {
