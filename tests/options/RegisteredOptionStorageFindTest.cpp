@@ -127,6 +127,15 @@ TEST_F(RegisteredOptionsFind, FindsNoNameOfARefusedDeclarationUntilItIsDeclared)
     EXPECT_EQ(place("no-free"), 1);
 }
 
+TEST_F(RegisteredOptionsFind, RefusesTheNegationOfASwitchWithAnEmptyName) {
+    declare(",x", vtBool);
+    EXPECT_EQ(place(""), 0);
+    EXPECT_EQ(place("no-"), 0);
+    EXPECT_EQ(place("no"), -1);
+    EXPECT_EQ(declare("no-").m_status, 1);
+    EXPECT_EQ(declare("no").m_status, 0);
+}
+
 TEST_F(RegisteredOptionsFind, FindsTheSynonymsOfARecordWithoutNames) {
     IOption& nameless = declare("");
     EXPECT_EQ(place("named"), -1);
