@@ -138,6 +138,9 @@ TEST_F(ParseResultStore, TellsRepetitionsApartWhoseLastNamesDiffer) {
     result.store(optionNamed({"a", "x"}), nextOccurrence());
     result.store(optionNamed({"a", "y"}), nextOccurrence());
     EXPECT_EQ(entries(), "a@1@2 x@1 y@2");
+    result.store(optionNamed({"b", "c", "p"}), nextOccurrence());
+    result.store(optionNamed({"b", "c", "q"}), nextOccurrence());
+    EXPECT_EQ(entries(), "a@1@2 b@3@4 c@3@4 p@3 q@4 x@1 y@2");
 }
 
 TEST_F(ParseResultStore, AppendsOnceForEveryTimeThatAnOptionHasAName) {
