@@ -145,6 +145,17 @@ TEST(HashOf, SpreadsTextsThatDifferInOneOrTwoBytesAnywhere) {
     }
 }
 
+TEST(HashOf, LooksAtNoByteInFrontOfATextOrBehindIt) {
+    for (std::size_t size = 0; size <= 24; ++size) {
+        SCOPED_TRACE(size);
+        const std::string text(size, 'x');
+        const std::string one = "12345678" + text + "12345678";
+        const std::string other = "abcdefgh" + text + "abcdefgh";
+        EXPECT_EQ(hashOf(std::string_view(one).substr(8, size)),
+                  hashOf(std::string_view(other).substr(8, size)));
+    }
+}
+
 TEST(HashOf, TellsTextsOfOneByteRepeatedApart) {
     std::vector<std::string> texts;
     for (std::size_t size = 0; size < 64; ++size) {
