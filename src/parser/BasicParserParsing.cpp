@@ -105,6 +105,10 @@ int BasicParser::parse_phase_one(const std::string& endMarker, std::vector<std::
     PositionalOptionsParser positional(this, &m_garbage, flags);
     AbbreviationParser abbreviation(this, &m_garbage, flags);
     IArgumentParser* const recognizers[] = {&positional, &abbreviation};
+    if (m_handlers.empty()) {
+        positional.expectNoHandlers();
+        abbreviation.expectNoHandlers();
+    }
     IResultCollector* const collector = static_cast<ParseResult*>(result);
     std::vector<OptionDescription>& options = m_registry.m_options;
     ArgumentWindow window(arguments);
@@ -164,6 +168,9 @@ int BasicParser::parseAsPositional(const std::string& argument, ParseResult* res
     const RegisteredOptionStorage::Pin pin(m_registry);
     PositionalOptionsParser recognizer(this, &m_garbage,
                                        static_cast<unsigned int>(m_flags & ~flagDashIsNotPositional));
+    if (m_handlers.empty()) {
+        recognizer.expectNoHandlers();
+    }
     std::vector<std::string> arguments(1, argument);
     int status = recognizer.recognize(arguments, m_registry.m_options, error);
     internal::writeLogLine("collectNonparsingArguments: recognize result: ", status, ", message: ", error);

@@ -98,6 +98,9 @@ int AbbreviationParser::recognize(std::vector<std::string>& args, std::vector<Op
         m_token = Token();
         return 1;
     }
+    if (m_hasHandlers) {
+        m_classifier = SpaceClassifier();
+    }
     m_token = splitToken(argument, m_classifier);
     const std::string_view name = m_token.nameIn(argument);
     keepBest(name, options);
@@ -222,7 +225,7 @@ int AbbreviationParser::parse(std::vector<std::string>& args, IResultCollector* 
         return fail(err, messages::ambiguousOption(std::string(name), formatTokenMessage(args[0]),
                                                    quotedNames(m_bestNames)));
     }
-    const OptionDescription& option = options.at(index);
+    const OptionDescription& option = recordToBind(options.at(index));
     std::string value(m_token.valueIn(args[0]));
     log(": detected option: '", option.primaryName(), "'");
     if (m_token.hasValue) {

@@ -30,6 +30,14 @@ int IArgumentParser::getNewPositionIndex() {
     return index;
 }
 
+const OptionDescription& IArgumentParser::recordToBind(const OptionDescription& record) {
+    if (!m_hasHandlers) {
+        return record;
+    }
+    m_copy = std::make_unique<OptionDescription>(record);
+    return *m_copy;
+}
+
 int IArgumentParser::parseValueAndAddOption(std::string& value, std::string& err,
                                             const OptionDescription& option, std::vector<std::string>& args,
                                             IResultCollector* collector) {

@@ -2,6 +2,7 @@
 
 #include <array>
 #include <cstddef>
+#include <memory>
 #include <memory_resource>
 #include <string>
 #include <vector>
@@ -44,6 +45,10 @@ public:
     virtual int parse(std::vector<std::string>& args, IResultCollector* collector,
                       std::vector<OptionDescription>& options, unsigned long& index, std::string& err) = 0;
 
+    /// Promises that no handler runs while this recognizer is in use: nobody changes what is declared,
+    /// or the global locale, in the middle of an argument.
+    void expectNoHandlers() { m_hasHandlers = false; }
+
     /// The end of a message: in which argument the error was found.
     virtual std::string formatTokenMessage(std::string& token);
 
@@ -62,6 +67,10 @@ protected:
     int parseValueAndAddOption(std::string& value, std::string& err, const OptionDescription& option,
                                std::vector<std::string>& args, IResultCollector* collector);
 
+    /// The record to bind an argument to: `record`, or, since a handler may refine it when it is told,
+    /// a copy as it is now.
+    const OptionDescription& recordToBind(const OptionDescription& record);
+
     /// Traces one line: the recognizer's name, then the parts.
     template <class... Parts>
     void log(const Parts&... parts) const {
@@ -72,6 +81,7 @@ protected:
     std::string m_name = "UndefinedParser";
     Garbage* m_garbage;
     unsigned int m_flags;
+    bool m_hasHandlers = true;
 
 private:
     int bindSingleValue(std::string& value, std::string& err, const OptionDescription& option,
@@ -81,6 +91,7 @@ private:
     int bindText(std::string& text, OptionValue& bound, const std::string& value, std::string& err,
                  const OptionDescription& option, const std::string& argument);
 
+    std::unique_ptr<OptionDescription> m_copy;
     /// Room for an option with a few values.
     std::array<std::byte, 512> m_room;
     std::pmr::monotonic_buffer_resource m_memory{m_room.data(), m_room.size()};

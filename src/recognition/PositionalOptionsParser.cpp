@@ -40,7 +40,7 @@ int PositionalOptionsParser::parse(std::vector<std::string>& args, IResultCollec
                                    std::string& err) {
     log(": parsing argument '", args.at(0), "'");
     index = static_cast<unsigned long>(findPositional(options) - options.begin());
-    const OptionDescription& option = options.at(index);
+    const OptionDescription& option = recordToBind(options.at(index));
     // The trace and the event name the first declaration, whichever option takes the argument.
     log(": option is '", options.front().primaryName(), "'");
     if ((m_flags & flagPositionalTakesRest) == 0) {

@@ -8,13 +8,13 @@ namespace tarv_3_3 {
 /// than splitting an argument, so ask once for many.
 class SpaceClassifier {
 public:
-    SpaceClassifier() : m_classes(std::use_facet<std::ctype<char>>(m_locale)) {}
+    SpaceClassifier() : m_classes(&std::use_facet<std::ctype<char>>(m_locale)) {}
 
-    bool isSpace(char character) const { return m_classes.is(std::ctype_base::space, character); }
+    bool isSpace(char character) const { return m_classes->is(std::ctype_base::space, character); }
 
 private:
     std::locale m_locale;
-    const std::ctype<char>& m_classes;
+    const std::ctype<char>* m_classes;
 };
 
 } // namespace tarv_3_3

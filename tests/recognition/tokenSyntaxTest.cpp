@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include <locale>
+#include "support/GlobalLocale.h"
 
 namespace tarv_3_3 {
 namespace {
@@ -137,35 +137,11 @@ TEST(SplitOptionValue, KeepsCaseAndEveryOtherByteOfTheName) {
     });
 }
 
-/// A classification in which '_' is the only white space.
-class UnderscoreIsSpace : public std::ctype<char> {
-public:
-    UnderscoreIsSpace() : std::ctype<char>(onlyUnderscore()) {}
-
-private:
-    static const mask* onlyUnderscore() {
-        static mask table[table_size] = {};
-        table[static_cast<unsigned char>('_')] = space;
-        return table;
-    }
-};
-
-class GlobalLocale {
-public:
-    explicit GlobalLocale(const std::locale& locale) : m_former(std::locale::global(locale)) {}
-    GlobalLocale(const GlobalLocale&) = delete;
-    GlobalLocale& operator=(const GlobalLocale&) = delete;
-    ~GlobalLocale() { std::locale::global(m_former); }
-
-private:
-    std::locale m_former;
-};
-
 TEST(SplitOptionValue, AsksTheGlobalLocaleWhatWhiteSpaceIs) {
     const SplitRow classic[] = {{"--a__b c", true, "a__b", "c"}};
     expectSplit(classic);
     {
-        const GlobalLocale underscore{std::locale(std::locale::classic(), new UnderscoreIsSpace)};
+        const GlobalLocale underscore(UnderscoreIsSpace::locale());
         expectSplit({{"--a__b c", true, "a", "b c"}, {"--a b", false, "a b", "untouched"}});
     }
     expectSplit(classic);
