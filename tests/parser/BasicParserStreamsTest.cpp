@@ -4,6 +4,7 @@
 #include <stdexcept>
 
 #include "parser/Parsing.h"
+#include "support/GlobalLocale.h"
 
 namespace tarv_3_3 {
 namespace {
@@ -95,9 +96,9 @@ TEST(ParseStreamToArgs, AppendsToTheArguments) {
 }
 
 /// Takes the underscore for a blank, and the carriage return for none.
-class UnderscoreIsSpace : public std::ctype<char> {
+class UnderscoreIsMoreSpace : public std::ctype<char> {
 public:
-    UnderscoreIsSpace() : std::ctype<char>(makeTable(), true) {}
+    UnderscoreIsMoreSpace() : std::ctype<char>(makeTable(), true) {}
 
 private:
     static const mask* makeTable() {
@@ -110,10 +111,10 @@ private:
 };
 
 TEST(ParseStreamToArgs, SkipsWhatTheGlobalLocaleCallsSpaceInFrontOfALine) {
-    const std::locale before = std::locale::global(std::locale(std::locale(), new UnderscoreIsSpace));
-    const Arguments arguments = argumentsOf("__a_\n _#b\n___\n\r\r\n\ra\r\n");
-    std::locale::global(before);
-    EXPECT_EQ(arguments, (Arguments{"a_", "\ra"}));
+    {
+        const GlobalLocale locale(std::locale(std::locale(), new UnderscoreIsMoreSpace));
+        EXPECT_EQ(argumentsOf("__a_\n _#b\n___\n\r\r\n\ra\r\n"), (Arguments{"a_", "\ra"}));
+    }
     EXPECT_EQ(argumentsOf("_a"), (Arguments{"_a"}));
 }
 

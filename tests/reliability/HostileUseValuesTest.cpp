@@ -4,6 +4,7 @@
 #include <locale>
 
 #include "reliability/Session.h"
+#include "support/GlobalLocale.h"
 
 namespace {
 
@@ -28,18 +29,6 @@ protected:
     char do_decimal_point() const override { return ','; }
     char do_thousands_sep() const override { return '.'; }
     std::string do_grouping() const override { return "\3"; }
-};
-
-/// Makes `locale` the global one for as long as it lives.
-class GlobalLocale {
-public:
-    explicit GlobalLocale(const std::locale& locale) : m_before(std::locale::global(locale)) {}
-    GlobalLocale(const GlobalLocale&) = delete;
-    GlobalLocale& operator=(const GlobalLocale&) = delete;
-    ~GlobalLocale() { std::locale::global(m_before); }
-
-private:
-    std::locale m_before;
 };
 
 TEST(HostileNumbers, AtEveryLimitAreAccepted) {
