@@ -98,10 +98,9 @@ private:
                         IParseResult* result);
     int dropUnknown(std::vector<std::string>& arguments, std::string& error);
     int parseAsPositional(const std::string& argument, ParseResult* result, std::string& error);
-    int checkDeclared(const ParseResult::Entries& entries);
-    int checkActions(const ParseResult::Entries& entries, std::string& error);
-    int checkModifiers(const OptionDescription& action, const ParseResult::Entries& entries,
-                       std::string& error);
+    int checkDeclared(const Entries::List& entries);
+    int checkActions(const Entries::List& entries, std::string& error);
+    int checkModifiers(const OptionDescription& action, const Entries::List& entries, std::string& error);
     int readOptionFiles(const std::string& endMarker, IParseResult* result);
     const char* describeUnknown(const char* name, bool hidden);
 

@@ -192,11 +192,12 @@ int BasicParser::parse_phase_two(const std::string& /*endMarker*/, std::vector<s
     const std::vector<OptionDescription>& options = m_registry.m_options;
     const bool hasActions = std::any_of(options.begin(), options.end(), isAction);
     // The order decides what is said of actions, and nothing else.
-    return hasActions ? checkActions(stored.entriesByName(), error) : checkDeclared(stored.entries());
+    return hasActions ? checkActions(stored.entries().listByName(), error)
+                      : checkDeclared(stored.entries().list());
 }
 
-int BasicParser::checkDeclared(const ParseResult::Entries& entries) {
-    for (const ParseResult::Entry& entry : entries) {
+int BasicParser::checkDeclared(const Entries::List& entries) {
+    for (const Entries::Entry& entry : entries) {
         unsigned long index = 0;
         const int status = m_registry.find(entry.name, index);
         if (status != 0) {
@@ -206,11 +207,11 @@ int BasicParser::checkDeclared(const ParseResult::Entries& entries) {
     return parseOk;
 }
 
-int BasicParser::checkActions(const ParseResult::Entries& entries, std::string& error) {
+int BasicParser::checkActions(const Entries::List& entries, std::string& error) {
     const std::vector<OptionDescription>& options = m_registry.m_options;
     const OptionDescription* action = nullptr;
     bool optionStored = false;
-    for (const ParseResult::Entry& entry : entries) {
+    for (const Entries::Entry& entry : entries) {
         unsigned long index = 0;
         const int status = m_registry.find(entry.name, index);
         if (status != 0) {
@@ -237,10 +238,10 @@ int BasicParser::checkActions(const ParseResult::Entries& entries, std::string& 
     return parseOk;
 }
 
-int BasicParser::checkModifiers(const OptionDescription& action, const ParseResult::Entries& entries,
+int BasicParser::checkModifiers(const OptionDescription& action, const Entries::List& entries,
                                 std::string& error) {
     const std::vector<OptionDescription>& options = m_registry.m_options;
-    for (const ParseResult::Entry& entry : entries) {
+    for (const Entries::Entry& entry : entries) {
         unsigned long index = 0;
         const int status = m_registry.find(entry.name, index);
         if (status != 0) {

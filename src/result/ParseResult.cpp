@@ -9,7 +9,6 @@ IParseResult::~IParseResult() = default;
 namespace {
 
 constexpr std::size_t firstBlock = 8192;
-constexpr std::size_t usualNames = 32;
 
 // The cursor of plain arguments before they were asked for: past any end.
 constexpr auto notStarted = static_cast<std::size_t>(-1);
@@ -34,11 +33,7 @@ Value makeValue(int status, const char* text, const variant_t& value, int positi
 
 } // namespace
 
-ParseResult::ParseResult()
-    : m_memory(firstBlock), m_options(&m_memory), m_data(&m_memory), m_names(m_memory),
-      m_freeArgumentCursor(notStarted) {
-    m_options.reserve(usualNames);
-}
+ParseResult::ParseResult() : m_memory(firstBlock), m_entries(m_memory), m_freeArgumentCursor(notStarted) {}
 
 ParseResult::~ParseResult() = default;
 
@@ -80,7 +75,7 @@ Value ParseResult::next(const char* /*name*/) {
 }
 
 int ParseResult::nextPosition() {
-    if (m_current == noEntry || m_positionsCursor >= current().positions.size()) {
+    if (m_current == Entries::nowhere || m_positionsCursor >= current().positions.size()) {
         return noPosition;
     }
     return current().positions[m_positionsCursor++];
@@ -98,7 +93,7 @@ int ParseResult::startIteration(std::string_view name, char** text, variant_t& v
                                 int& position) {
     const int status = findFirst(name, text, value, lo, hi, position);
     if (status != valueFound) {
-        m_current = noEntry;
+        m_current = Entries::nowhere;
     }
     return status;
 }
@@ -109,8 +104,8 @@ int ParseResult::findFirst(std::string_view name, char** text, variant_t& value,
     m_upperBound = hi;
     m_valuesCursor = 0;
     m_positionsCursor = 0;
-    m_current = placeOf(name);
-    if (m_current == noEntry) {
+    m_current = m_entries.placeOf(name);
+    if (m_current == Entries::nowhere) {
         return valueMissing;
     }
     const OptionData& data = current();
@@ -131,7 +126,7 @@ int ParseResult::findFirst(std::string_view name, char** text, variant_t& value,
 }
 
 int ParseResult::continueIteration(char** text, variant_t& value, int& position) {
-    if (m_current == noEntry) {
+    if (m_current == Entries::nowhere) {
         return valueMissing;
     }
     const OptionData& data = current();

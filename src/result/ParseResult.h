@@ -1,20 +1,18 @@
 #pragma once
 
 #include <cstddef>
-#include <deque>
 #include <memory_resource>
 #include <string>
 #include <string_view>
 #include <utility>
 #include <vector>
 
-#include "options/OptionDescription.h"
+#include "result/Entries.h"
 #include "tarv_3_3/IParseResult.h"
 #include "tarv_3_3/export.h"
 #include "tarv_3_3/internal/Garbage.h"
 #include "tarv_3_3/internal/IResultCollector.h"
 #include "tarv_3_3/internal/OptionData.h"
-#include "tarv_3_3/internal/TextSet.h"
 
 namespace tarv_3_3 {
 
@@ -26,17 +24,6 @@ namespace tarv_3_3 {
 /// a name: a cursor may lie behind its end.
 class TARV_API ParseResult : public IParseResult, public IResultCollector {
 public:
-    /// What is stored under one name. Both lie in the result.
-    struct Entry {
-        internal::HashedText name;
-        /// Several entries that follow each other may share it: see `together`.
-        OptionData* data;
-        /// How many entries were made by the same occurrence and share their data since: this one and
-        /// those behind it, which say 0.
-        std::size_t together;
-    };
-    using Entries = std::pmr::vector<Entry>;
-
     ParseResult();
     ~ParseResult() override;
 
@@ -50,14 +37,8 @@ public:
     /// Adds an argument that stood behind "--".
     void storePlainArgument(const std::string& argument, int position);
 
-    /// What is stored, in the order in which the names came.
-    const Entries& entries() const { return m_options; }
-
-    /// The same, ordered by the bytes of the names.
-    Entries entriesByName() const;
-
-    /// What is stored under `name`, null for nothing.
-    const OptionData* find(std::string_view name) const;
+    /// What is stored, apart from plain arguments.
+    const Entries& entries() const { return m_entries; }
 
     void destroy() override;
     bool present(const char* name, int lo, int hi) override;
@@ -76,37 +57,26 @@ public:
     int getNextArgument(std::string& text);
 
 private:
-    static constexpr auto noEntry = static_cast<std::size_t>(-1);
-
     int startIteration(std::string_view name, char** text, variant_t& value, int lo, int hi, int& position);
     int findFirst(std::string_view name, char** text, variant_t& value, int lo, int hi, int& position);
     int continueIteration(char** text, variant_t& value, int& position);
-    void storeFirst(const internal::HashedText& firstName, const Names& names, const OptionData& data);
-    bool areTogether(std::size_t place, const Names& names) const;
-    void separate(std::size_t place);
-    OptionData& ownData(const internal::HashedText& name);
-    void addEntry(internal::TextSet::Entry& name, OptionData& data, std::size_t together);
-    std::size_t placeOf(const internal::HashedText& name) const;
-    const OptionData& current() const { return *m_options[m_current].data; }
+    const OptionData& current() const { return m_entries[m_current]; }
     void yieldDefault(const OptionData& data, char** text, variant_t& value, int& position);
     int nextValue(const OptionData& data, char** text, variant_t& value, int& position);
     int nextOccurrence(const OptionData& data, int& position);
     static bool isDefaulted(const OptionData& data);
     char* keep(const std::string& text);
 
-    /// Holds the entries, their data and its lists, which only go with the result.
+    /// Holds the entries and their lists, which only go with the result.
     std::pmr::monotonic_buffer_resource m_memory;
-    Entries m_options;
-    std::pmr::deque<OptionData> m_data;
-    /// Every name that was stored, with its place in `m_options` plus one.
-    internal::TextSet m_names;
+    Entries m_entries;
     /// Places in the lists of the current entry.
     std::size_t m_valuesCursor = 0;
     std::size_t m_positionsCursor = 0;
     int m_lowerBound = 0;
     int m_upperBound = noPosition;
-    /// The place of the current entry; `noEntry` when the last query found nothing.
-    std::size_t m_current = noEntry;
+    /// The place of the current entry; `nowhere` when the last query found nothing.
+    std::size_t m_current = Entries::nowhere;
     Garbage m_garbage;
     /// What stood behind "--", with its position indices.
     std::vector<std::pair<std::string, int>> m_freeArguments;

@@ -24,7 +24,7 @@ public:
     /// The entries of the result, in its order; see `describe`.
     std::string stored() const {
         std::string line;
-        for (const tarv_3_3::ParseResult::Entry& entry : result.entriesByName()) {
+        for (const tarv_3_3::Entries::Entry& entry : result.entries().listByName()) {
             line += (line.empty() ? "" : " ") + describe(entry.name.text, *entry.data, positions);
         }
         return line;

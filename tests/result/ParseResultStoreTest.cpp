@@ -13,7 +13,7 @@ namespace {
 
 std::string entriesOf(const ParseResult& result, const RelativePositions& positions) {
     std::string line;
-    for (const ParseResult::Entry& entry : result.entriesByName()) {
+    for (const Entries::Entry& entry : result.entries().listByName()) {
         line += (line.empty() ? "" : " ") + ::describe(entry.name.text, *entry.data, positions);
     }
     return line;
@@ -81,7 +81,7 @@ TEST_F(ParseResultStore, TakesTheDefaultFieldsOfTheFirstOccurrenceOnly) {
     result.store(level, first);
     result.store(level, second);
     EXPECT_EQ(entries(), "level@1@4=\"5\"@2,\"6\"@5 default=\"first\"@3");
-    EXPECT_EQ(result.find("level")->defaultValue, variant_t("first"));
+    EXPECT_EQ(result.entries().find("level")->defaultValue, variant_t("first"));
 }
 
 // Whether an option is new is asked of its first name alone.
@@ -161,24 +161,6 @@ TEST_F(ParseResultStore, KeepsNamesApartOfWhichOneStandsTwiceBeforeAnother) {
     EXPECT_EQ(entries(), "a@1@2@3@3 b@1@3 c@1@3");
 }
 
-TEST_F(ParseResultStore, ListsItsEntriesInTheOrderInWhichTheyCame) {
-    result.store(optionNamed({"level", "l"}), nextOccurrence());
-    result.store(optionNamed({"b"}), nextOccurrence());
-    result.store(optionNamed({"level", "l", "a"}), nextOccurrence());
-    std::string names;
-    for (const ParseResult::Entry& entry : result.entries()) {
-        names.append(entry.name.text).append(" ");
-    }
-    EXPECT_EQ(names, "level l b a ");
-}
-
-TEST_F(ParseResultStore, FindsWhatIsStoredUnderAName) {
-    EXPECT_EQ(result.find("level"), nullptr);
-    result.store(optionNamed({"level", "l"}), nextOccurrence());
-    EXPECT_EQ(positions(result.find("l")->positions.at(0)), 1);
-    EXPECT_EQ(result.find("leve"), nullptr);
-}
-
 TEST_F(ParseResultStore, RefusesAnOptionWithoutNames) {
     EXPECT_THROW(result.store(optionNamed({}), nextOccurrence()), std::out_of_range);
     EXPECT_EQ(entries(), "");
@@ -191,7 +173,7 @@ TEST_F(ParseResultStore, RecordsADefaultUnderEveryNameAtPositionsOfTheirOwn) {
     EXPECT_EQ(entries(), "depth default=\"7\"@3 l default=\"7\"@2 level default=\"7\"@1");
     EXPECT_EQ(positions.taken(), 3);
     EXPECT_EQ(message, "untouched");
-    EXPECT_EQ(result.find("l")->defaultValue, variant_t(std::int32_t(7)));
+    EXPECT_EQ(result.entries().find("l")->defaultValue, variant_t(std::int32_t(7)));
 }
 
 TEST_F(ParseResultStore, RendersDefaultsOfEveryKind) {

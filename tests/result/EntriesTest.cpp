@@ -1,0 +1,131 @@
+#include "result/Entries.h"
+
+#include <gtest/gtest.h>
+
+#include <stdexcept>
+#include <string>
+
+#include "result/StoredOptions.h"
+
+namespace tarv_3_3 {
+namespace {
+
+class StoredEntries : public ::testing::Test {
+protected:
+    /// The names of a list in its order, one character each; a '+' behind those that share the data
+    /// of the one before.
+    static std::string describe(const Entries::List& list) {
+        std::string line;
+        const OptionData* before = nullptr;
+        for (const Entries::Entry& entry : list) {
+            line.append(entry.name.text);
+            line += entry.data == before ? "+" : "";
+            before = entry.data;
+        }
+        return line;
+    }
+
+    std::string inOrder() const { return describe(entries.list()); }
+
+    std::pmr::monotonic_buffer_resource memory;
+    Entries entries{memory};
+};
+
+TEST_F(StoredEntries, AreNowhereAtFirst) {
+    EXPECT_EQ(inOrder(), "");
+    EXPECT_EQ(entries.find("a"), nullptr);
+    EXPECT_EQ(entries.placeOf("a"), Entries::nowhere);
+}
+
+TEST_F(StoredEntries, HaveTheirPlacesInTheOrderInWhichTheyCame) {
+    entries.store({"z", "b"}, occurrences({1}));
+    entries.store({"a"}, occurrences({2}));
+    entries.store({"z", "b", "c"}, occurrences({3}));
+    EXPECT_EQ(entries.placeOf("z"), 0U);
+    EXPECT_EQ(entries.placeOf("b"), 1U);
+    EXPECT_EQ(entries.placeOf("a"), 2U);
+    EXPECT_EQ(entries.placeOf("c"), 3U);
+    EXPECT_EQ(entries.placeOf("d"), Entries::nowhere);
+    EXPECT_EQ(inOrder(), "zbac");
+    EXPECT_EQ(describe(entries.listByName()), "abcz");
+}
+
+TEST_F(StoredEntries, AreFoundByPlaceAndByName) {
+    entries.store({"a", "b"}, occurrences({1}));
+    entries.store({"c"}, occurrences({2}));
+    EXPECT_EQ(entries[2].positions.at(0), 2);
+    EXPECT_EQ(entries.find("c"), &entries[2]);
+    EXPECT_EQ(entries.find("b"), &entries[1]);
+    EXPECT_EQ(entries.find(""), nullptr);
+}
+
+TEST_F(StoredEntries, ShareWhatWasAlwaysStoredTogether) {
+    const Names level = {"a", "b", "c"};
+    entries.store(level, occurrences({1}));
+    EXPECT_EQ(inOrder(), "ab+c+");
+    entries.store(level, occurrences({2}));
+    EXPECT_EQ(inOrder(), "ab+c+");
+    EXPECT_EQ(entries[0].positions.size(), 2U);
+    entries.store({"d"}, occurrences({3}));
+    EXPECT_EQ(inOrder(), "ab+c+d");
+}
+
+TEST_F(StoredEntries, ShareNothingOnceTheyWereStoredApart) {
+    const struct {
+        Names names;
+        const char* list;
+    } rows[] = {
+        {{"a"}, "abc"},
+        {{"a", "b"}, "abc"},
+        {{"a", "c", "b"}, "abc"},
+        {{"a", "b", "d"}, "abcd"},
+        {{"a", "b", "c", "d"}, "abcd"},
+        {{"d", "c"}, "abcd"},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.list);
+        Entries fresh(memory);
+        fresh.store({"a", "b", "c"}, occurrences({1}));
+        fresh.store(row.names, occurrences({2}));
+        EXPECT_EQ(describe(fresh.list()), row.list);
+    }
+}
+
+TEST_F(StoredEntries, HaveDataOfTheirOwnWhereTheyAreAskedForIt) {
+    entries.store({"a", "b", "c"}, occurrences({1}));
+    OptionData& own = entries.ownData("b");
+    EXPECT_EQ(&own, entries.find("b"));
+    EXPECT_EQ(own.positions.at(0), 1);
+    EXPECT_EQ(inOrder(), "abc");
+    own.positions.push_back(2);
+    EXPECT_EQ(entries[0].positions.size(), 1U);
+    EXPECT_EQ(entries[2].positions.size(), 1U);
+    EXPECT_EQ(&entries.ownData("b"), &own);
+}
+
+TEST_F(StoredEntries, AreMadeWhereDataIsAskedForUnderANewName) {
+    const OptionData& data = entries.ownData("a");
+    EXPECT_EQ(entries.find("a"), &data);
+    EXPECT_TRUE(data.positions.empty());
+    EXPECT_EQ(data.defaultPosition, 0);
+}
+
+TEST_F(StoredEntries, NeedAName) {
+    EXPECT_THROW(entries.store(Names(), occurrences({1})), std::out_of_range);
+    EXPECT_EQ(inOrder(), "");
+}
+
+// The list has room for 32 at first.
+TEST_F(StoredEntries, KeepTheirPlacesAsTheyGrow) {
+    for (int i = 0; i < 1000; ++i) {
+        entries.store({std::to_string(i), "x" + std::to_string(i)}, occurrences({i}));
+    }
+    for (int i = 0; i < 1000; ++i) {
+        const std::size_t place = entries.placeOf("x" + std::to_string(i));
+        ASSERT_EQ(place, 2 * static_cast<std::size_t>(i) + 1);
+        ASSERT_EQ(entries[place].positions.at(0), i);
+    }
+}
+
+} // namespace
+} // namespace tarv_3_3
