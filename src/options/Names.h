@@ -26,9 +26,9 @@ public:
     explicit Names(const allocator_type& allocator) : m_names(allocator) {}
     Names(Names&& other, const allocator_type& allocator)
         : m_names(std::move(other.m_names), allocator), m_firstBytes(other.m_firstBytes) {}
-    Names(std::initializer_list<std::string> names) {
+    Names(std::initializer_list<std::string> names) : m_names(names) {
         for (const std::string& name : names) {
-            emplace_back(name);
+            m_firstBytes |= bitOf(name[0]);
         }
     }
 

@@ -1,7 +1,5 @@
 #include "recognition/DecomposedName.h"
 
-#include <ostream>
-
 namespace tarv_3_3 {
 
 namespace {
@@ -32,10 +30,6 @@ std::string DecomposedName::getName() const {
         name.append("-").append(m_words[i]);
     }
     return name;
-}
-
-std::ostream& operator<<(std::ostream& stream, const DecomposedName& name) {
-    return stream << name.getName();
 }
 
 } // namespace tarv_3_3

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <iosfwd>
 #include <string>
 #include <vector>
 
@@ -24,8 +23,5 @@ public:
 
     std::vector<std::string> m_words;
 };
-
-/// Writes `getName()`.
-std::ostream& operator<<(std::ostream& stream, const DecomposedName& name);
 
 } // namespace tarv_3_3

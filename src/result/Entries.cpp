@@ -106,9 +106,10 @@ Entries::List Entries::listByName() const {
     return ordered;
 }
 
+// A name that is known and has no entry, since memory ran out, has a note of 0.
 std::size_t Entries::placeOf(const internal::HashedText& name) const {
     const internal::TextSet::Entry* const known = m_names.find(name);
-    return known != nullptr && known->note != 0 ? known->note - 1 : nowhere;
+    return (known != nullptr ? known->note : 0) - 1;
 }
 
 const OptionData* Entries::find(std::string_view name) const {

@@ -28,7 +28,7 @@ public:
     };
     using List = std::pmr::vector<Entry>;
 
-    /// The place of a name that has no entry.
+    /// The place of a name that has no entry: one before the first.
     static constexpr auto nowhere = static_cast<std::size_t>(-1);
 
     /// Everything goes with `memory`, which takes nothing back before.

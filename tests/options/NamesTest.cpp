@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <memory_resource>
+#include <new>
 #include <stdexcept>
 #include <utility>
 
@@ -55,6 +57,12 @@ TEST(Names, HaveABitForEveryByte) {
         SCOPED_TRACE(letter);
         EXPECT_NE(Names::bitOf(letter), Names::bitOf(static_cast<char>(letter + 1)));
     }
+}
+
+TEST(Names, NeedMemory) {
+    std::pmr::memory_resource* const usual = std::pmr::set_default_resource(std::pmr::null_memory_resource());
+    EXPECT_THROW(Names({"a"}), std::bad_alloc);
+    std::pmr::set_default_resource(usual);
 }
 
 TEST(Names, TakeTheirBitsAlongWhenTheyAreCopiedOrMoved) {

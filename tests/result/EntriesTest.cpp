@@ -2,8 +2,12 @@
 
 #include <gtest/gtest.h>
 
+#include <cstddef>
+#include <memory_resource>
+#include <new>
 #include <stdexcept>
 #include <string>
+#include <vector>
 
 #include "result/StoredOptions.h"
 
@@ -124,6 +128,36 @@ TEST_F(StoredEntries, KeepTheirPlacesAsTheyGrow) {
         const std::size_t place = entries.placeOf("x" + std::to_string(i));
         ASSERT_EQ(place, 2 * static_cast<std::size_t>(i) + 1);
         ASSERT_EQ(entries[place].positions.at(0), i);
+    }
+}
+
+// Wherever it runs out: in the set of names, the list, the data or its lists.
+TEST_F(StoredEntries, AreWholeOrNowhereWhenMemoryRunsOut) {
+    const OptionData data = occurrences({1}, {{"a", 2}});
+    for (std::size_t size = 2048; size < 12288; size += 8) {
+        SCOPED_TRACE(size);
+        std::vector<std::byte> room(size);
+        std::pmr::monotonic_buffer_resource little(room.data(), room.size(),
+                                                   std::pmr::null_memory_resource());
+        Entries few(little);
+        std::size_t stored = 0;
+        try {
+            for (;; ++stored) {
+                few.store({"a" + std::to_string(stored), "b" + std::to_string(stored)}, data);
+            }
+        } catch (const std::bad_alloc&) {
+            // Now for what is left behind.
+        }
+        ASSERT_GE(few.list().size(), 2 * stored);
+        ASSERT_LE(few.list().size(), 2 * stored + 1);
+        for (const Entries::Entry& entry : few.list()) {
+            ASSERT_EQ(few.find(entry.name.text), entry.data);
+            ASSERT_EQ(entry.data->positions.size(), 1U);
+            ASSERT_EQ(entry.data->values.size(), 1U);
+        }
+        const bool hasFirstName = few.list().size() > 2 * stored;
+        ASSERT_EQ(few.find("a" + std::to_string(stored)) != nullptr, hasFirstName);
+        ASSERT_EQ(few.find("b" + std::to_string(stored)), nullptr);
     }
 }
 
