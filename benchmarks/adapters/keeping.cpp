@@ -12,8 +12,10 @@
 #include "tarv_3_3/internal/OptionData.h"
 #include "tarv_3_3/internal/TextSet.h"
 
+#include <algorithm>
 #include <deque>
 #include <memory>
+#include <memory_resource>
 
 namespace bench {
 

@@ -11,8 +11,8 @@ namespace tarv_3_3 {
 /// The object stays the host's and must live until it is removed or the parser is destroyed; it is
 /// never deleted through this class. Names and arguments are kept by the parser: the pointers stay
 /// valid until the parser is destroyed. A handler may add or remove handlers, itself included; one
-/// that was removed is not called any more. It may declare options and refine the last one: that
-/// counts from the next argument on. When a handler throws, an exception derived from
+/// that was removed is not called any more. It may declare options and refine the last one: arguments
+/// that are recognised later are bound so. When a handler throws, an exception derived from
 /// `std::exception` ends the parse with `parseUnidentified`, any other reaches the caller of the
 /// parse; the parser stays usable.
 class TARV_API EventHandler {

@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "options/RegisteredOptionStorage.h"
-#include "result/ParseResult.h"
+#include "result/Entries.h"
 #include "tarv_3_3/IParser.h"
 #include "tarv_3_3/export.h"
 #include "tarv_3_3/internal/Garbage.h"
@@ -13,6 +13,7 @@
 namespace tarv_3_3 {
 
 class IArgumentParser;
+class ParseResult;
 
 /// The one concrete parser. Its sources, by job: BasicParser.cpp (declarations, events, errors),
 /// BasicParserParsing.cpp (the road of a command line), BasicParserStreams.cpp (streams and option

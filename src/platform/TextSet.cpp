@@ -13,7 +13,8 @@ constexpr std::size_t firstSlots = 64;
 
 __extension__ using DoubleWord = unsigned __int128;
 
-// Every bit of `word` comes to bear upon every bit of the result.
+// A table looks at the low bits. The high half of the product, folded in, brings the high bits of `word`
+// there.
 std::uint64_t mix(std::uint64_t word) {
     constexpr std::uint64_t oddAndIrregular = 0x9E3779B97F4A7C15;
     const DoubleWord product = DoubleWord(word) * oddAndIrregular;

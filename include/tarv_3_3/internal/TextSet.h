@@ -7,7 +7,7 @@
 
 namespace tarv_3_3::internal {
 
-/// Tells most texts apart. Command lines are no place for an attack on it; see SECURITY.md.
+/// The same for equal texts, and seldom for others. It is no secret: texts can be made to collide.
 std::size_t hashOf(std::string_view text);
 
 /// A text and its hash, which every set may be asked with.
