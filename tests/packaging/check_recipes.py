@@ -1,4 +1,5 @@
 """The recipes under packaging/ parse, and agree with the project about version, license and options.
+The changelogs name no version as released that is not.
 
     check_recipes.py SOURCE_DIR VERSION
 """
@@ -7,6 +8,7 @@ import ast
 import json
 import pathlib
 import re
+import subprocess
 import sys
 
 source = pathlib.Path(sys.argv[1])
@@ -52,8 +54,21 @@ options = set(re.findall(r"^option\((TARV_\w+)", (source / "CMakeLists.txt").rea
 used = set(re.findall(r"-D(TARV_\w+)=", (source / "packaging/vcpkg/portfile.cmake").read_text()))
 expect(used and used <= options, f"portfile.cmake: no such options: {sorted(used - options)}")
 
-changes = (source / "CHANGELOG.md").read_text()
-expect(f"\n## [{version}]" in changes, f"CHANGELOG.md: no section for {version}")
+sections = re.findall(r"^## \[(.*?)\]", (source / "CHANGELOG.md").read_text(), re.MULTILINE)
+expect(sections[:1] == ["Unreleased"], "CHANGELOG.md: the first section is not [Unreleased]")
+released = sections[1:]
+
+# A copy of the sources without their history knows no tags.
+if (source / ".git").exists():
+    listed = subprocess.run(["git", "-C", source, "tag"], capture_output=True, text=True, check=True)
+    tags = listed.stdout.split()
+    for section in released:
+        expect(f"v{section}" in tags, f"CHANGELOG.md: {section} is not released: there is no tag v{section}")
+
+entry = (source / "packaging/changelog").read_text().splitlines()[0]
+distribution = "unstable" if version in released else "UNRELEASED"
+expected_entry = f"tarv ({version}) {distribution}; urgency=medium"
+expect(entry == expected_entry, f"packaging/changelog: begins with '{entry}', not '{expected_entry}'")
 
 for failure in failures:
     print(failure)
