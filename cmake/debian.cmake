@@ -12,13 +12,19 @@ foreach(part IN ITEMS runtime development)
         COMPONENT ${part})
 endforeach()
 
+# As Debian's own tools strip a library.
+find_program(TARV_STRIP strip REQUIRED)
+install(CODE "execute_process(COMMAND ${TARV_STRIP} --strip-unneeded --remove-section=.comment
+    \$ENV{DESTDIR}\${CMAKE_INSTALL_PREFIX}/${CMAKE_INSTALL_LIBDIR}/$<TARGET_FILE_NAME:tarv>
+    COMMAND_ERROR_IS_FATAL ANY)"
+    COMPONENT runtime)
+
 set(CPACK_GENERATOR DEB)
 set(CPACK_PACKAGE_NAME tarv)
 # The parts have summaries of their own: the first lines of their descriptions.
 set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "")
 set(CPACK_PACKAGE_CONTACT "The tarv authors <authors@tarv.invalid>")
 set(CPACK_PACKAGING_INSTALL_PREFIX ${CMAKE_INSTALL_PREFIX})
-set(CPACK_STRIP_FILES ON)
 set(CPACK_INSTALL_DEFAULT_DIRECTORY_PERMISSIONS
     OWNER_READ OWNER_WRITE OWNER_EXECUTE GROUP_READ GROUP_EXECUTE WORLD_READ WORLD_EXECUTE)
 set(CPACK_COMPONENTS_ALL runtime development)
@@ -28,6 +34,9 @@ set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
 set(CPACK_DEBIAN_PACKAGE_GENERATE_SHLIBS ON)
 set(CPACK_DEBIAN_PACKAGE_GENERATE_SHLIBS_POLICY ">=")
 set(CPACK_DEBIAN_PACKAGE_SOURCE tarv)
+set(CPACK_POST_BUILD_SCRIPTS ${PROJECT_SOURCE_DIR}/cmake/finishDebianPackages.cmake)
+set(CPACK_TARV_RUNTIME_PACKAGE ${runtime_package})
+set(CPACK_TARV_SYMBOLS ${PROJECT_SOURCE_DIR}/abi/debian.symbols)
 
 set(CPACK_DEBIAN_RUNTIME_PACKAGE_NAME ${runtime_package})
 set(CPACK_DEBIAN_RUNTIME_PACKAGE_SECTION libs)

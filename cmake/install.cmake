@@ -30,11 +30,18 @@ install(FILES ${PROJECT_BINARY_DIR}/tarvConfig.cmake ${PROJECT_BINARY_DIR}/tarvC
     DESTINATION ${tarv_config_dir}
     COMPONENT development)
 
-# The prefix is found from where the file lies, so that an installed tree can be moved.
+# The prefix is found from where the file lies, so that an installed tree can be moved. Only what belongs
+# to the system stays: there pkg-config is to recognise the directories, which compilers search anyway,
+# and leave them out.
 set(tarv_pc_dir ${CMAKE_INSTALL_FULL_LIBDIR}/pkgconfig)
 foreach(directory IN ITEMS PREFIX FULL_LIBDIR FULL_INCLUDEDIR)
-    cmake_path(RELATIVE_PATH CMAKE_INSTALL_${directory}
-        BASE_DIRECTORY ${tarv_pc_dir} OUTPUT_VARIABLE TARV_PC_${directory})
+    if(CMAKE_INSTALL_PREFIX STREQUAL "/usr")
+        set(TARV_PC_${directory} ${CMAKE_INSTALL_${directory}})
+    else()
+        cmake_path(RELATIVE_PATH CMAKE_INSTALL_${directory}
+            BASE_DIRECTORY ${tarv_pc_dir} OUTPUT_VARIABLE TARV_PC_${directory})
+        string(PREPEND TARV_PC_${directory} "\${pcfiledir}/")
+    endif()
 endforeach()
 configure_file(cmake/tarv.pc.in ${PROJECT_BINARY_DIR}/tarv.pc @ONLY)
 install(FILES ${PROJECT_BINARY_DIR}/tarv.pc

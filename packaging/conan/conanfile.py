@@ -13,6 +13,7 @@ from conan.tools.files import copy, load, rmdir
 class TarvConan(ConanFile):
     name = "tarv"
     license = "MIT"
+    homepage = "https://tarv.invalid/"
     description = "Command-line parsing with abbreviations, actions and generated help"
     topics = ("command-line", "argument-parser", "options", "help")
     package_type = "shared-library"

@@ -33,6 +33,11 @@ altered_list() {
     refuses "$1" symbols "$work/altered.symbols" "$library" "$abi/libtarv.symbols" "$work/altered.symbols"
 }
 
+altered_debian_list() {
+    sed "$2" "$abi/debian.symbols" >"$work/altered.debian"
+    refuses "$1" debian "$work/altered.debian" "$abi/libtarv.symbols" "$abi/debian.symbols" "$work/altered.debian"
+}
+
 altered_description "a larger Value" "/class-decl name='Value'/s/size-in-bits='256'/size-in-bits='320'/"
 altered_description "another number of a kind" "s/name='vtInt32' value='6'/name='vtInt32' value='5'/"
 altered_description "virtual functions in another order" \
@@ -40,4 +45,6 @@ altered_description "virtual functions in another order" \
 altered_list "a function that is no longer there" '1i T _ZN8tarv_3_34goneEv@@TARV_3.3'
 altered_list "a new function" '/12createParserE/d'
 altered_list "another version" '/12createParserE/s/@@TARV_3.3/@@TARV_3.4/'
+altered_debian_list "a name that Debian's list lacks" '/12createParserE/d'
+altered_debian_list "a name that only Debian's list has" '3i\ _ZN8tarv_3_34goneEv@TARV_3.3 3.3.0'
 exit $failed

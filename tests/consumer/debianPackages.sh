@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# Builds the Debian packages, has lintian check them, installs them, builds a host against what is
-# then in the system, runs it, and removes the packages. Needs root.
+# Builds the Debian packages, has lintian check them, looks at what they say about themselves, installs
+# them, builds a host against what is then in the system, runs it, and removes the packages. Needs root.
 set -euo pipefail
 cd "$(dirname "$0")/../.."
 
@@ -15,25 +15,55 @@ if [[ ${#packages[@]} -ne 2 ]]; then
     echo "Expected two packages: ${packages[*]}" >&2
     exit 1
 fi
-lintian --allow-root --fail-on error "${packages[@]}"
+lintian --allow-root --display-info --fail-on error,warning,info "${packages[@]}"
 
-trap 'dpkg --purge libtarv-dev libtarv3.3' EXIT
-dpkg --install "${packages[@]}"
+# expect WHAT EXPECTED ACTUAL
+expect() {
+    if [[ $3 != "$2" ]]; then
+        printf '%s:\n%s\nexpected:\n%s\n' "$1" "$3" "$2" >&2
+        exit 1
+    fi
+}
 
-# Neither host knows any path.
-cmake -D project=find_package -D work="$PWD/$work/cmake" -P tests/consumer/cmakeHost.cmake
+home=$(sed -n 's/^ *HOMEPAGE_URL //p' CMakeLists.txt)
+for package in "${packages[@]}"; do
+    expect "Fields of $package" $'Multi-Arch: same\nHomepage: '"$home" \
+        "$(dpkg-deb --field "$package" Multi-Arch Homepage)"
+done
+runtime=(build/deb/libtarv3.3_*.deb)
+expect "Control files of ${runtime[0]}" $'control\nmd5sums\nshlibs\nsymbols\ntriggers' \
+    "$(dpkg-deb --ctrl-tarfile "${runtime[0]}" | tar --list | sed 's|^\./||' | sed '/^$/d' | LC_ALL=C sort)"
+expect "Symbols of ${runtime[0]}" "$(<abi/debian.symbols)" "$(dpkg-deb --info "${runtime[0]}" symbols)"
 mkdir -p "$work"
-# The flags are split at their blanks on purpose.
-# shellcheck disable=SC2046
-g++ -std=c++17 tests/consumer/host.cpp $(pkg-config --cflags --libs "tarv >= 3.3") -o "$work/host"
-output=$("$work/host" --name=World --times=2)
-if [[ $output != $'Hello, World!\nHello, World!\n2 values' ]]; then
-    printf 'Unexpected output:\n%s\n' "$output" >&2
+dpkg-deb --fsys-tarfile "${runtime[0]}" | tar --extract --to-stdout --wildcards '*/libtarv.so.3.3.*' >"$work/library"
+# The other hardening flags are lintian's to miss.
+if ! readelf --wide --dyn-syms "$work/library" | grep __stack_chk_fail >/dev/null; then
+    echo "The library was built without -fstack-protector-strong." >&2
     exit 1
 fi
 
+# Another process may be installing something.
+apt=(apt-get -o DPkg::Lock::Timeout=600 -y)
+trap '"${apt[@]}" purge libtarv-dev libtarv3.3' EXIT
+"${apt[@]}" install "${packages[@]/#/./}"
+
+# Neither host knows any path.
+cmake -D project=find_package -D work="$PWD/$work/cmake" -P tests/consumer/cmakeHost.cmake
+expect "Flags of pkg-config" "-ltarv" "$(pkg-config --cflags --libs tarv | sed 's| *$||')"
+# The flags are split at their blanks on purpose.
+# shellcheck disable=SC2046
+g++ -std=c++17 tests/consumer/host.cpp $(pkg-config --cflags --libs "tarv >= 3.3") -o "$work/host"
+expect "Output of the host" $'Hello, World!\nHello, World!\n2 values' \
+    "$("$work/host" --name=World --times=2)"
+
+# What a package of the host would depend on.
+mkdir "$work/debian"
+printf 'Source: host\n\nPackage: host\nArchitecture: any\n' >"$work/debian/control"
+expect "Dependency of the host" "libtarv3.3 (>= 3.3.0)" \
+    "$(cd "$work" && dpkg-shlibdeps -O host | grep -o 'libtarv[^,]*')"
+
 trap - EXIT
-dpkg --purge libtarv-dev libtarv3.3
+"${apt[@]}" purge libtarv-dev libtarv3.3
 left=$(find /usr/include/tarv_3_3 /usr/lib/x86_64-linux-gnu/libtarv* 2>/dev/null || true)
 if [[ -n $left ]]; then
     printf 'Left behind:\n%s\n' "$left" >&2

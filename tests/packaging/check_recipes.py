@@ -1,4 +1,5 @@
-"""The recipes under packaging/ parse, and agree with the project about version, license and options.
+"""The recipes under packaging/ parse, and agree with the project about version, license,
+home page and options.
 The changelogs name no version as released that is not.
 
     check_recipes.py SOURCE_DIR VERSION
@@ -49,6 +50,10 @@ for folder in re.findall(r'"(\w+)/\*"', recipe_text):
 first_line = (source / "LICENSE").read_text().splitlines()[0]
 for name, license_name in (("vcpkg.json", vcpkg.get("license")), ("conanfile.py", recipe.get("license"))):
     expect(first_line == f"{license_name} License", f"{name}: LICENSE is the '{first_line}'")
+
+home = re.search(r"HOMEPAGE_URL (\S+)", (source / "CMakeLists.txt").read_text()).group(1)
+for name, homepage in (("vcpkg.json", vcpkg.get("homepage")), ("conanfile.py", recipe.get("homepage"))):
+    expect(homepage == home, f"{name}: home page {homepage}, not {home}")
 
 options = set(re.findall(r"^option\((TARV_\w+)", (source / "CMakeLists.txt").read_text(), re.MULTILINE))
 used = set(re.findall(r"-D(TARV_\w+)=", (source / "packaging/vcpkg/portfile.cmake").read_text()))
