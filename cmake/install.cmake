@@ -47,3 +47,10 @@ configure_file(cmake/tarv.pc.in ${PROJECT_BINARY_DIR}/tarv.pc @ONLY)
 install(FILES ${PROJECT_BINARY_DIR}/tarv.pc
     DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig
     COMPONENT development)
+
+# A project that contains this one may have an `uninstall` of its own.
+if(PROJECT_IS_TOP_LEVEL)
+    add_custom_target(uninstall COMMAND ${CMAKE_COMMAND}
+        -D manifest=${PROJECT_BINARY_DIR}/install_manifest.txt -P ${PROJECT_SOURCE_DIR}/cmake/uninstall.cmake
+        VERBATIM)
+endif()
