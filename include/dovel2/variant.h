@@ -4,10 +4,11 @@
 
 #include "tarv_3_3/export.h"
 
+/// The type of values. Hosts use it under the names that `tarv_3_3/variant.h` gives it.
 namespace dovel2 {
 
 ///@{
-/// The types of <stdint.h>; a host that writes their names includes that or <cstdint>. They are not
+/// The types of `<stdint.h>`; a host that writes their names includes that or `<cstdint>`. They are not
 /// included here, since they would take as long to compile as all of this library's headers.
 using int32_t = __INT32_TYPE__;
 using uint32_t = __UINT32_TYPE__;
@@ -15,16 +16,17 @@ using int64_t = __INT64_TYPE__;
 using uint64_t = __UINT64_TYPE__;
 ///@}
 
-/// The kinds of value. The numbers are part of the binary interface.
+/// The kinds of value. The numbers are part of the binary interface. `IParser::option` says how each is
+/// written on a command line.
 enum das_variant_type_t {
-    vtBool = 0,
-    vtInt32 = 6,
-    vtUInt32 = 7,
-    vtInt64 = 8,
-    vtUInt64 = 9,
-    vtDouble = 11,
-    vtString = 12,
-    vtNull = 17
+    vtBool = 0,    ///< A truth value, `bool`; an option of this kind is a switch.
+    vtInt32 = 6,   ///< An integer of 32 bits, `int32_t`.
+    vtUInt32 = 7,  ///< An unsigned integer of 32 bits, `uint32_t`.
+    vtInt64 = 8,   ///< An integer of 64 bits, `int64_t`.
+    vtUInt64 = 9,  ///< An unsigned integer of 64 bits, `uint64_t`.
+    vtDouble = 11, ///< A number, `double`.
+    vtString = 12, ///< A text, `const char*`.
+    vtNull = 17    ///< No value; an option of this kind takes none.
 };
 
 namespace internal {

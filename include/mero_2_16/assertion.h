@@ -2,6 +2,7 @@
 
 #include "tarv_3_3/export.h"
 
+/// What happens when a host breaks a contract, such as asking a value for another kind than it has.
 namespace MERO_2_16 {
 
 /// Receives a broken assertion: the failed expression as text, and where it stands in the library.

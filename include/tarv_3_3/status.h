@@ -5,6 +5,7 @@ namespace tarv_3_3 {
 /// What `createParser` and the parse operations of `IParser` return. On every code but the first,
 /// and `parseException`, `IParser::getErrorDesc` has a message for the user.
 enum ParseStatus : int {
+    /// The command line was parsed to its end.
     parseOk = 0,
     /// An event handler refused a value. Also, without a message, when the result holds options
     /// that this parser did not declare.
@@ -22,6 +23,7 @@ enum ParseStatus : int {
 
 /// `Value::status`, and what the queries of `IParseResult` return.
 enum ValueStatus : int {
+    /// There is one.
     valueFound = 0,
     /// Nothing found, or nothing left.
     valueMissing = 1,
@@ -31,13 +33,17 @@ enum ValueStatus : int {
 
 /// `IOption::m_status`.
 enum DeclarationStatus : int {
+    /// The option exists.
     declarationStored = 0,
+    /// It does not: see `IParser::option` for the reasons.
     declarationRefused = 1,
     /// A declaration is being made; no host ever sees it.
     declarationInProgress = 3
 };
 
-/// The position that stands for "none", and the upper bound that means "to the end".
-enum : int { noPosition = 0x7fffffff };
+enum : int {
+    /// The position that stands for "none", and the upper bound that means "to the end".
+    noPosition = 0x7fffffff
+};
 
 } // namespace tarv_3_3

@@ -2,7 +2,7 @@
 
 #include "dovel2/variant.h"
 
-/// The value type under the names that hosts use.
+// The value type under the names that hosts use.
 namespace tarv_3_3 {
 
 using dovel2::das_variant_type_t;
