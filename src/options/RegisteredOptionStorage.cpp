@@ -6,7 +6,7 @@
 #include "options/findOption.h"
 #include "options/messages.h"
 #include "options/split.h"
-#include "tarv_3_3/internal/log.h"
+#include "platform/logLine.h"
 
 namespace tarv_3_3 {
 

@@ -3,11 +3,11 @@
 
 #include "parser/BasicParser.h"
 #include "parser/messages.h"
+#include "platform/logLine.h"
 #include "recognition/AbbreviationParser.h"
 #include "recognition/ArgumentWindow.h"
 #include "recognition/PositionalOptionsParser.h"
 #include "result/ParseResult.h"
-#include "tarv_3_3/internal/log.h"
 
 namespace tarv_3_3 {
 
@@ -19,8 +19,9 @@ constexpr char logSwitch[] = "tarvoption=tarvlogenable=1";
 
 // Every command line, stream and option file decides for itself, by its first argument.
 void switchLog(std::vector<std::string>& arguments) {
-    internal::tarvLogEnabled = !arguments.empty() && arguments.front() == logSwitch;
-    if (internal::tarvLogEnabled) {
+    const bool isOn = !arguments.empty() && arguments.front() == logSwitch;
+    __atomic_store_n(&internal::tarvLogEnabled, isOn, __ATOMIC_RELAXED);
+    if (isOn) {
         arguments.erase(arguments.begin());
     }
 }

@@ -1,11 +1,17 @@
 #include "tarv_3_3/internal/log.h"
 
+#include <charconv>
+#include <cstddef>
+#include <mutex>
+#include <new>
+
+#include "platform/logLine.h"
 #include "platform/ucout.h"
 
 namespace tarv_3_3::internal {
 
 bool tarvLogEnabled = false;
-bool discardingHasFailed = false;
+std::atomic<UntracedLines> untracedLines{UntracedLines::none};
 
 template <class Char, class Traits>
 basic_nullbuf<Char, Traits>::~basic_nullbuf() = default;
@@ -32,27 +38,73 @@ void TarvLog::open() {
     m_stream = std::make_unique<std::ostream>(m_buffer.get());
 }
 
+LinePart::LinePart(int number) : m_text(m_own, 0) {
+    m_text = {m_own,
+              static_cast<std::size_t>(std::to_chars(m_own, m_own + sizeof m_own, number).ptr - m_own)};
+}
+
 namespace {
 
-std::ostream& currentLog() {
-    static TarvLog holder;
-    return tarvLogEnabled ? MERO_2_16::strings::gh2::ucout() : holder.discarding();
+// Recursive, since a host's stream buffer may itself parse while a line is written to it.
+std::recursive_mutex logMutex;
+
+alignas(TarvLog) std::byte holderRoom[sizeof(TarvLog)];
+
+TarvLog& holderInRoom() {
+    return *std::launder(reinterpret_cast<TarvLog*>(holderRoom));
+}
+
+// Leaves an empty holder behind at exit: static destructors of the host that run later may parse, and ask
+// for the log.
+struct HolderLife {
+    HolderLife() { new (holderRoom) TarvLog; }
+
+    HolderLife(const HolderLife&) = delete;
+    HolderLife& operator=(const HolderLife&) = delete;
+
+    ~HolderLife() {
+        const std::lock_guard<std::recursive_mutex> lock(logMutex);
+        untracedLines = UntracedLines::dropped;
+        holderInRoom().~TarvLog();
+        new (holderRoom) TarvLog;
+    }
+};
+
+TarvLog& processHolder() {
+    static const HolderLife life;
+    return holderInRoom();
 }
 
 } // namespace
 
 std::ostream& tarvLog() {
-    discardingHasFailed = false;
-    return currentLog();
+    const std::lock_guard<std::recursive_mutex> lock(logMutex);
+    TarvLog& holder = processHolder();
+    if (isTraceOn()) {
+        return MERO_2_16::strings::gh2::ucout();
+    }
+    std::ostream& discarding = holder.discarding();
+    // What the lines that were dropped before would have done to it.
+    if (untracedLines.exchange(UntracedLines::written) == UntracedLines::dropped) {
+        discarding.setstate(std::ios::badbit | std::ios::failbit);
+    }
+    return discarding;
 }
 
-std::ostream* findWorkingLog() {
-    std::ostream& log = currentLog();
-    if (!log.fail()) {
-        return &log;
+void writeLine(std::initializer_list<LinePart> parts) {
+    const std::lock_guard<std::recursive_mutex> lock(logMutex);
+    if (!isTraceOn() && untracedLines != UntracedLines::written) {
+        untracedLines = UntracedLines::dropped;
+        return;
     }
-    discardingHasFailed = !tarvLogEnabled;
-    return nullptr;
+    std::ostream& log = tarvLog();
+    if (log.fail()) {
+        return;
+    }
+    for (const LinePart& part : parts) {
+        log.write(part.text().data(), static_cast<std::streamsize>(part.text().size()));
+    }
+    log << std::endl;
 }
 
 } // namespace tarv_3_3::internal

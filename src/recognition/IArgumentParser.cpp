@@ -1,6 +1,9 @@
 #include "recognition/IArgumentParser.h"
 
 #include <utility>
+#if __has_include(<sys/single_threaded.h>)
+#include <sys/single_threaded.h>
+#endif
 
 #include "options/OptionDescription.h"
 #include "recognition/messages.h"
@@ -12,6 +15,19 @@ namespace tarv_3_3 {
 namespace messages = internal::messages;
 
 int IArgumentParser::m_idx = 1;
+
+namespace {
+
+// Whether another thread may be running. To ask costs less than an atomic addition.
+bool mayHaveThreads() {
+#if __has_include(<sys/single_threaded.h>)
+    return __libc_single_threaded == 0;
+#else
+    return true;
+#endif
+}
+
+} // namespace
 
 IArgumentParser::IArgumentParser(EventHandler* handler, Garbage* garbage, unsigned int flags)
     : m_handler(handler), m_garbage(garbage), m_flags(flags) {}
@@ -25,6 +41,9 @@ std::string IArgumentParser::formatTokenMessage(std::string& token) {
 // Behind the largest index comes the smallest one: a process that lives so long loses the order of its
 // positions, and nothing else.
 int IArgumentParser::getNewPositionIndex() {
+    if (mayHaveThreads()) {
+        return __atomic_fetch_add(&m_idx, 1, __ATOMIC_RELAXED);
+    }
     const int index = m_idx;
     m_idx = static_cast<int>(static_cast<unsigned int>(index) + 1U);
     return index;

@@ -7,9 +7,9 @@
 #include <string>
 #include <vector>
 
+#include "platform/logLine.h"
 #include "tarv_3_3/export.h"
 #include "tarv_3_3/internal/OptionData.h"
-#include "tarv_3_3/internal/log.h"
 
 namespace tarv_3_3 {
 
@@ -54,9 +54,11 @@ public:
 
     virtual int getPriority() = 0;
 
-    /// The next position index: 1 at first, then counting up for the life of the process.
+    /// The next position index: 1 at first, then counting up for the life of the process. Parses on several
+    /// threads never get the same one, and each of them gets ascending ones.
     static int getNewPositionIndex();
 
+    /// Read and changed by atomic operations while the process has several threads.
     static int m_idx;
 
 protected:

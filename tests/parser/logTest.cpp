@@ -2,11 +2,14 @@
 
 #include <gtest/gtest.h>
 
+#include <iomanip>
 #include <iostream>
+#include <locale>
 #include <memory>
 #include <sstream>
 #include <type_traits>
 
+#include "platform/logLine.h"
 #include "support/CapturedLog.h"
 #include "tarv_3_3/tarv.h"
 
@@ -115,20 +118,63 @@ TEST(WriteLogLine, FlushesEveryLine) {
     std::cout.rdbuf(captured);
 }
 
-// Once it is known to have failed nobody looks at it, unless it was asked for since.
 TEST(WriteLogLine, WritesToADiscardingStreamThatAHostGaveABuffer) {
     tarvLogEnabled = false;
     writeLogLine("first");
+    std::ostream& log = tarvLog();
     writeLogLine("second");
+    EXPECT_TRUE(log.fail());
     std::ostringstream text;
-    std::streambuf* const own = tarvLog().rdbuf(text.rdbuf());
+    std::streambuf* const own = log.rdbuf(text.rdbuf());
     writeLogLine("third");
+    log.setstate(std::ios::failbit);
+    writeLogLine("lost");
+    log.clear();
     writeLogLine("fourth");
     EXPECT_EQ(text.str(), "third\nfourth\n");
-    tarvLog().rdbuf(own);
+    log.rdbuf(own);
+    EXPECT_TRUE(log.good());
     writeLogLine("fifth");
-    EXPECT_TRUE(tarvLog().fail());
+    EXPECT_TRUE(log.fail());
     EXPECT_EQ(text.str(), "third\nfourth\n");
+}
+
+TEST(WriteLogLine, WritesNumbersInDecimalWhateverTheStreamIsSetTo) {
+    struct Grouping : std::numpunct<char> {
+        char do_thousands_sep() const override { return '\''; }
+        std::string do_grouping() const override { return "\1"; }
+    };
+    const CapturedLog log;
+    std::ios before(nullptr);
+    before.copyfmt(std::cout);
+    const std::locale locale = std::cout.imbue(std::locale(std::locale::classic(), new Grouping));
+    std::cout << std::hex << std::showbase << std::showpos << std::uppercase << std::internal
+              << std::setfill('*') << std::setw(20);
+    writeLogLine("text ", 1234, ' ', -2147483647 - 1, std::string_view("!"), 2147483647);
+    EXPECT_EQ(std::cout.width(), 20);
+    std::cout.copyfmt(before);
+    std::cout.imbue(locale);
+    EXPECT_EQ(log.text(), "text 1234 -2147483648!2147483647\n");
+}
+
+// A buffer of the host that parses while a line is written to it.
+TEST(WriteLogLine, MayBeCalledWhileALineIsWritten) {
+    struct Echo : std::stringbuf {
+        int sync() override {
+            if (!m_told) {
+                m_told = true;
+                writeLogLine("inner");
+            }
+            return 0;
+        }
+        bool m_told = false;
+    };
+    const CapturedLog log;
+    Echo buffer;
+    std::streambuf* const captured = std::cout.rdbuf(&buffer);
+    writeLogLine("outer");
+    std::cout.rdbuf(captured);
+    EXPECT_EQ(buffer.str(), "outer\ninner\n");
 }
 
 // The switch is looked at for every line, whatever was found out at the one before.

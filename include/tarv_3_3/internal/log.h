@@ -8,8 +8,12 @@
 
 namespace tarv_3_3::internal {
 
-/// Whether the trace of recognition is on, for the whole process. Off at first; every parse, stream
-/// and option file sets it anew, on only if its first argument is the switch.
+/// Whether the trace of recognition is on, for the whole process. Off at first. Every stream, every option
+/// file and every command line with arguments sets it anew, on only if its first argument is the switch.
+///
+/// Parses on several threads set it for each other: the last one that began decides for all of them. To
+/// trace one whole parse, run no other one meanwhile. The library reads and writes it with atomic
+/// operations; so should a host that parses on several threads.
 TARV_API extern bool tarvLogEnabled;
 
 /// A stream buffer without storage: the first write fails, and a stream that has failed discards
@@ -22,7 +26,7 @@ public:
 
 extern template class TARV_API basic_nullbuf<char, std::char_traits<char>>;
 
-/// Holds the discarding stream of the process, once it was asked for.
+/// Holds the discarding stream of the process, once it was asked for. Not synchronised; `tarvLog` is.
 class TARV_API TarvLog {
 public:
     TarvLog();
@@ -34,43 +38,24 @@ public:
     std::ostream& discarding();
 
 private:
-    void open();
+    TARV_HIDDEN void open();
 
     std::unique_ptr<std::ostream> m_stream;
     std::unique_ptr<std::streambuf> m_buffer;
 };
 
 /// Where the trace goes: the standard output stream while `tarvLogEnabled`, else a stream that
-/// discards everything, always the same one. Write whole lines and end them with `std::endl`.
+/// discards everything, always the same one until the process exits. Write whole lines and end them with
+/// `std::endl`.
+///
+/// The discarding stream is made at the first call that returns it. Its state is the caller's: a host may
+/// keep the reference and give the stream a buffer (`rdbuf`, which also clears the state), and every line
+/// that is traced while the switch is off goes there from then on, without a further call. As it is made, the
+/// stream fails at the first line, or has failed already if a line was traced before.
+///
+/// May be called on any thread. The library writes one line at a time, so lines of parses on several threads
+/// do not mix. What a host itself does to the stream, or reads of its state, is not synchronised with
+/// that: do it while no other thread parses or declares.
 TARV_API std::ostream& tarvLog();
-
-/// What follows is for the library's own code.
-
-/// Whether the discarding stream is known to have failed, as it does at its first write. Whoever asks
-/// for it with `tarvLog` may clear its state, so that is forgotten then.
-[[gnu::visibility("hidden")]] extern bool discardingHasFailed;
-
-/// What `workingLog` returns until that is known, and while the trace is on.
-std::ostream* findWorkingLog();
-
-/// `tarvLog()`, or null when that stream has failed.
-inline std::ostream* workingLog() {
-    return discardingHasFailed && !tarvLogEnabled ? nullptr : findWorkingLog();
-}
-
-/// Writes the parts to `log` as one line. Kept apart from the code that nearly always passes it by.
-template <class... Parts>
-[[gnu::cold, gnu::noinline]] void writeParts(std::ostream& log, const Parts&... parts) {
-    (log << ... << parts) << std::endl;
-}
-
-/// Writes the parts as one line. A stream that has failed takes nothing any more: then the parts
-/// are not even looked at.
-template <class... Parts>
-void writeLogLine(const Parts&... parts) {
-    if (std::ostream* const log = workingLog()) {
-        writeParts(*log, parts...);
-    }
-}
 
 } // namespace tarv_3_3::internal

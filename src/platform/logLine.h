@@ -1,0 +1,56 @@
+#pragma once
+
+#include <atomic>
+#include <initializer_list>
+#include <string_view>
+
+#include "tarv_3_3/internal/log.h"
+
+namespace tarv_3_3::internal {
+
+/// What becomes of lines while the trace is off.
+enum class UntracedLines : unsigned char {
+    /// None has been written so far.
+    none,
+    /// They are dropped. Nobody has the discarding stream, which is not even made.
+    dropped,
+    /// They are written to the discarding stream. A host has it, and may have given it a buffer.
+    written
+};
+
+extern std::atomic<UntracedLines> untracedLines;
+
+inline bool isTraceOn() {
+    return __atomic_load_n(&tarvLogEnabled, __ATOMIC_RELAXED);
+}
+
+/// A piece of a line as text. Numbers are decimal, whatever format a stream is set to.
+class LinePart {
+public:
+    explicit LinePart(std::string_view text) : m_text(text) {}
+    explicit LinePart(char character) : m_own{character}, m_text(m_own, 1) {}
+    explicit LinePart(int number);
+    LinePart(const LinePart&) = delete;
+    LinePart& operator=(const LinePart&) = delete;
+    ~LinePart() = default;
+
+    std::string_view text() const { return m_text; }
+
+private:
+    char m_own[12] = {};
+    std::string_view m_text;
+};
+
+/// Writes the parts to `tarvLog()` as one line, unless that stream has failed. Lines that several threads
+/// write at once come one after the other.
+[[gnu::cold]] void writeLine(std::initializer_list<LinePart> parts);
+
+/// The same. While lines are dropped the parts are not even looked at.
+template <class... Parts>
+void writeLogLine(const Parts&... parts) {
+    if (isTraceOn() || untracedLines.load(std::memory_order_relaxed) != UntracedLines::dropped) {
+        writeLine({LinePart(parts)...});
+    }
+}
+
+} // namespace tarv_3_3::internal
