@@ -179,6 +179,28 @@ TEST(PhaseTwoNames, MustBeKnownWhereNoActionIsDeclaredEither) {
     EXPECT_EQ(stranger.parseArgsVector(2, argv, &parsing.result), 0);
 }
 
+TEST(PhaseTwoNames, MustAllBeKnownInWhateverOrderTheyWereStored) {
+    const std::vector<const char*> lines[] = {
+        {"program", "--level", "--strange"},
+        {"program", "--strange", "--level"},
+        {"program", "--level", "--other", "--strange"},
+    };
+    for (const auto& line : lines) {
+        SCOPED_TRACE(line[1]);
+        BasicParser stranger(0);
+        Parsing parsing;
+        for (const char* const name : {"level", "other"}) {
+            stranger.option(name, "", vtNull, "");
+            parsing.parser.option(name, "", vtNull, "");
+        }
+        stranger.option("strange", "", vtNull, "");
+        const int count = static_cast<int>(line.size());
+        EXPECT_EQ(stranger.parseArgsVector(count, line.data(), &parsing.result), 0);
+        EXPECT_EQ(parsing.parseStream(""), 1);
+        EXPECT_EQ(parsing.error(), "");
+    }
+}
+
 // Unknown names are met in the order of all names as well: "c" comes before the second action.
 TEST(PhaseTwoNames, EndWhereTheFirstUnknownOneOrSecondActionIs) {
     const struct {
