@@ -95,9 +95,9 @@ public:
     Garbage* m_garbage = nullptr;
 
 private:
-    static const std::string& noName();
-    bool acceptAbbreviation(std::string& text, variant_t& value, std::string& message) const;
-    std::string allowedValueList() const;
+    TARV_HIDDEN static const std::string& noName();
+    TARV_HIDDEN bool acceptAbbreviation(std::string& text, variant_t& value, std::string& message) const;
+    TARV_HIDDEN std::string allowedValueList() const;
 };
 
 } // namespace tarv_3_3

@@ -78,13 +78,13 @@ public:
 private:
     using NameEntries = std::array<internal::TextSet::Entry*, mostNames>;
 
-    bool isTaken(const Names& names, NameEntries& entries);
-    std::size_t noteFor(std::string_view name, std::size_t plain) const;
-    bool hasNewSynonyms() const;
-    void learnSynonyms();
-    void makeRoom();
-    const Topic& registerTopic(std::string_view topic);
-    IOption& refuse();
+    TARV_HIDDEN bool isTaken(const Names& names, NameEntries& entries);
+    TARV_HIDDEN std::size_t noteFor(std::string_view name, std::size_t plain) const;
+    TARV_HIDDEN bool hasNewSynonyms() const;
+    TARV_HIDDEN void learnSynonyms();
+    TARV_HIDDEN void makeRoom();
+    TARV_HIDDEN const Topic& registerTopic(std::string_view topic);
+    TARV_HIDDEN IOption& refuse();
 
     /// Every name with a note of the record that has it: its place plus one, 0 for none. Of the last
     /// record only the first `m_learntNames`.

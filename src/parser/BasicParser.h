@@ -14,6 +14,7 @@ namespace tarv_3_3 {
 
 class IArgumentParser;
 class ParseResult;
+enum class Listeners;
 
 /// The one concrete parser. Its sources, by job: BasicParser.cpp (declarations, events, errors),
 /// BasicParserParsing.cpp (the road of a command line), BasicParserStreams.cpp (streams and option
@@ -94,16 +95,18 @@ private:
     template <class Call>
     void forEachHandler(Call call);
 
-    int parseArguments(int argc, const char* const* argv, IParseResult* result);
-    int parseUpToMarker(const std::string& endMarker, std::vector<std::string>& arguments,
-                        IParseResult* result);
-    int dropUnknown(std::vector<std::string>& arguments, std::string& error);
-    int parseAsPositional(const std::string& argument, ParseResult* result, std::string& error);
-    int checkDeclared(const Entries::List& entries);
-    int checkActions(const Entries::List& entries, std::string& error);
-    int checkModifiers(const OptionDescription& action, const Entries::List& entries, std::string& error);
-    int readOptionFiles(const std::string& endMarker, IParseResult* result);
-    const char* describeUnknown(const char* name, bool hidden);
+    TARV_HIDDEN Listeners listeners() const;
+    TARV_HIDDEN int parseArguments(int argc, const char* const* argv, IParseResult* result);
+    TARV_HIDDEN int parseUpToMarker(const std::string& endMarker, std::vector<std::string>& arguments,
+                                    IParseResult* result);
+    TARV_HIDDEN int dropUnknown(std::vector<std::string>& arguments, std::string& error);
+    TARV_HIDDEN int parseAsPositional(const std::string& argument, ParseResult* result, std::string& error);
+    TARV_HIDDEN int checkDeclared(const Entries::List& entries);
+    TARV_HIDDEN int checkActions(const Entries::List& entries, std::string& error);
+    TARV_HIDDEN int checkModifiers(const OptionDescription& action, const Entries::List& entries,
+                                   std::string& error);
+    TARV_HIDDEN int readOptionFiles(const std::string& endMarker, IParseResult* result);
+    TARV_HIDDEN const char* describeUnknown(const char* name, bool hidden);
 
     RegisteredOptionStorage m_registry;
     Garbage m_garbage;

@@ -1,5 +1,6 @@
 #include <algorithm>
 #include <exception>
+#include <typeinfo>
 
 #include "parser/BasicParser.h"
 #include "parser/messages.h"
@@ -103,13 +104,9 @@ int BasicParser::parse_phase_one(const std::string& endMarker, std::vector<std::
     switchLog(arguments);
     const RegisteredOptionStorage::Pin pin(m_registry);
     const auto flags = static_cast<unsigned int>(m_flags);
-    PositionalOptionsParser positional(this, &m_garbage, flags);
-    AbbreviationParser abbreviation(this, &m_garbage, flags);
+    PositionalOptionsParser positional(this, &m_garbage, flags, listeners());
+    AbbreviationParser abbreviation(this, &m_garbage, flags, listeners());
     IArgumentParser* const recognizers[] = {&positional, &abbreviation};
-    if (m_handlers.empty()) {
-        positional.expectNoHandlers();
-        abbreviation.expectNoHandlers();
-    }
     IResultCollector* const collector = static_cast<ParseResult*>(result);
     std::vector<OptionDescription>& options = m_registry.m_options;
     ArgumentWindow window(arguments);
@@ -127,6 +124,11 @@ int BasicParser::parse_phase_one(const std::string& endMarker, std::vector<std::
         }
     }
     return parseOk;
+}
+
+// Without handlers the events of this class do nothing; those of a class derived from it may.
+Listeners BasicParser::listeners() const {
+    return m_handlers.empty() && typeid(*this) == typeid(BasicParser) ? Listeners::none : Listeners::some;
 }
 
 int BasicParser::dropUnknown(std::vector<std::string>& arguments, std::string& error) {
@@ -167,11 +169,8 @@ int BasicParser::collectNonparsingArguments(std::string endMarker, std::vector<s
 // Behind the marker an argument may begin with a dash and still be positional.
 int BasicParser::parseAsPositional(const std::string& argument, ParseResult* result, std::string& error) {
     const RegisteredOptionStorage::Pin pin(m_registry);
-    PositionalOptionsParser recognizer(this, &m_garbage,
-                                       static_cast<unsigned int>(m_flags & ~flagDashIsNotPositional));
-    if (m_handlers.empty()) {
-        recognizer.expectNoHandlers();
-    }
+    PositionalOptionsParser recognizer(
+        this, &m_garbage, static_cast<unsigned int>(m_flags & ~flagDashIsNotPositional), listeners());
     std::vector<std::string> arguments(1, argument);
     int status = recognizer.recognize(arguments, m_registry.m_options, error);
     internal::writeLogLine("collectNonparsingArguments: recognize result: ", status, ", message: ", error);

@@ -78,7 +78,11 @@ std::string quotedNames(const std::vector<std::string>& names) {
 } // namespace
 
 AbbreviationParser::AbbreviationParser(EventHandler* handler, Garbage* garbage, unsigned int flags)
-    : IArgumentParser(handler, garbage, flags) {
+    : AbbreviationParser(handler, garbage, flags, Listeners::some) {}
+
+AbbreviationParser::AbbreviationParser(EventHandler* handler, Garbage* garbage, unsigned int flags,
+                                       Listeners listeners)
+    : IArgumentParser(handler, garbage, flags, listeners) {
     m_name = "AbbreviationParser";
 }
 
@@ -98,7 +102,7 @@ int AbbreviationParser::recognize(std::vector<std::string>& args, std::vector<Op
         m_token = Token();
         return 1;
     }
-    if (m_hasHandlers) {
+    if (m_listeners != Listeners::none) {
         m_classifier = SpaceClassifier();
     }
     m_token = splitToken(argument, m_classifier);

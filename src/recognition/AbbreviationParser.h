@@ -36,6 +36,8 @@ public:
     };
 
     AbbreviationParser(EventHandler* handler, Garbage* garbage, unsigned int flags);
+    TARV_HIDDEN AbbreviationParser(EventHandler* handler, Garbage* garbage, unsigned int flags,
+                                   Listeners listeners);
     ~AbbreviationParser() override;
 
     /// Takes an argument that begins with a dash and names a declared option, or several equally
@@ -63,17 +65,18 @@ public:
     int findBest(const std::vector<NameMatch>& matches, DecomposedName& best, std::string& err);
 
 private:
-    void forgetBest();
-    void keepBest(std::string_view typed, const std::vector<OptionDescription>& options);
-    void keepIfBest(std::string_view typed, const std::string& name, const OptionDescription& option,
-                    const std::vector<OptionDescription>& options);
-    bool isBest(NameScore found);
-    int findOutcome(std::string& err) const;
-    int fail(std::string& err, std::string message) const;
-    int findValue(const OptionDescription& option, std::vector<std::string>& args, std::string& value,
-                  std::size_t& consumed, std::string& err);
-    int takeNextArgument(const OptionDescription& option, std::vector<std::string>& args, std::string& value,
-                         std::size_t& consumed, std::string& err);
+    TARV_HIDDEN void forgetBest();
+    TARV_HIDDEN void keepBest(std::string_view typed, const std::vector<OptionDescription>& options);
+    TARV_HIDDEN void keepIfBest(std::string_view typed, const std::string& name,
+                                const OptionDescription& option,
+                                const std::vector<OptionDescription>& options);
+    TARV_HIDDEN bool isBest(NameScore found);
+    TARV_HIDDEN int findOutcome(std::string& err) const;
+    TARV_HIDDEN int fail(std::string& err, std::string message) const;
+    TARV_HIDDEN int findValue(const OptionDescription& option, std::vector<std::string>& args,
+                              std::string& value, std::size_t& consumed, std::string& err);
+    TARV_HIDDEN int takeNextArgument(const OptionDescription& option, std::vector<std::string>& args,
+                                     std::string& value, std::size_t& consumed, std::string& err);
 
     /// The place of the option that the last `recognize` found; -1 for none.
     std::int64_t m_optionIndex = -1;

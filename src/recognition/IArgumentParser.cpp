@@ -30,7 +30,11 @@ bool mayHaveThreads() {
 } // namespace
 
 IArgumentParser::IArgumentParser(EventHandler* handler, Garbage* garbage, unsigned int flags)
-    : m_handler(handler), m_garbage(garbage), m_flags(flags) {}
+    : IArgumentParser(handler, garbage, flags, Listeners::some) {}
+
+IArgumentParser::IArgumentParser(EventHandler* handler, Garbage* garbage, unsigned int flags,
+                                 Listeners listeners)
+    : m_handler(handler), m_garbage(garbage), m_flags(flags), m_listeners(listeners) {}
 
 IArgumentParser::~IArgumentParser() = default;
 
@@ -50,7 +54,7 @@ int IArgumentParser::getNewPositionIndex() {
 }
 
 const OptionDescription& IArgumentParser::recordToBind(const OptionDescription& record) {
-    if (!m_hasHandlers) {
+    if (m_listeners == Listeners::none) {
         return record;
     }
     m_copy = std::make_unique<OptionDescription>(record);

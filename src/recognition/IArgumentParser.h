@@ -18,15 +18,27 @@ class Garbage;
 class IResultCollector;
 class OptionDescription;
 
+/// Who is told of events while a recognizer is in use.
+enum class Listeners {
+    /// Nobody: what is declared, and the global locale, stay as they are in the middle of an argument.
+    none,
+    /// Somebody, who may do anything meanwhile.
+    some
+};
+
 /// A recognizer of arguments. The parse driver shows the argument at the front to every recognizer;
 /// of those that take it, the one with the highest priority parses it.
 ///
 /// Also hands out position indices, from the one counter of the process.
 class TARV_API IArgumentParser {
 public:
+    ///@{
     /// `handler` and `garbage` belong to the parser and outlive the recognizer; `flags` are the
-    /// parser's.
+    /// parser's. Without `listeners` there are some.
     IArgumentParser(EventHandler* handler, Garbage* garbage, unsigned int flags);
+    TARV_HIDDEN IArgumentParser(EventHandler* handler, Garbage* garbage, unsigned int flags,
+                                Listeners listeners);
+    ///@}
     IArgumentParser(const IArgumentParser&) = delete;
     IArgumentParser& operator=(const IArgumentParser&) = delete;
     virtual ~IArgumentParser();
@@ -44,10 +56,6 @@ public:
     /// failed still at the front.
     virtual int parse(std::vector<std::string>& args, IResultCollector* collector,
                       std::vector<OptionDescription>& options, unsigned long& index, std::string& err) = 0;
-
-    /// Promises that no handler runs while this recognizer is in use: nobody changes what is declared,
-    /// or the global locale, in the middle of an argument.
-    void expectNoHandlers() { m_hasHandlers = false; }
 
     /// The end of a message: in which argument the error was found.
     virtual std::string formatTokenMessage(std::string& token);
@@ -83,15 +91,15 @@ protected:
     std::string m_name = "UndefinedParser";
     Garbage* m_garbage;
     unsigned int m_flags;
-    bool m_hasHandlers = true;
+    Listeners m_listeners;
 
 private:
-    int bindSingleValue(std::string& value, std::string& err, const OptionDescription& option,
-                        const std::string& argument);
-    int bindList(const std::string& value, std::string& err, const OptionDescription& option,
-                 const std::string& argument);
-    int bindText(std::string& text, OptionValue& bound, const std::string& value, std::string& err,
-                 const OptionDescription& option, const std::string& argument);
+    TARV_HIDDEN int bindSingleValue(std::string& value, std::string& err, const OptionDescription& option,
+                                    const std::string& argument);
+    TARV_HIDDEN int bindList(const std::string& value, std::string& err, const OptionDescription& option,
+                             const std::string& argument);
+    TARV_HIDDEN int bindText(std::string& text, OptionValue& bound, const std::string& value,
+                             std::string& err, const OptionDescription& option, const std::string& argument);
 
     std::unique_ptr<OptionDescription> m_copy;
     /// Room for an option with a few values.

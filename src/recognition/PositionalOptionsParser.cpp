@@ -20,7 +20,11 @@ auto findPositional(const std::vector<OptionDescription>& options) {
 } // namespace
 
 PositionalOptionsParser::PositionalOptionsParser(EventHandler* handler, Garbage* garbage, unsigned int flags)
-    : IArgumentParser(handler, garbage, flags) {
+    : PositionalOptionsParser(handler, garbage, flags, Listeners::some) {}
+
+PositionalOptionsParser::PositionalOptionsParser(EventHandler* handler, Garbage* garbage, unsigned int flags,
+                                                 Listeners listeners)
+    : IArgumentParser(handler, garbage, flags, listeners) {
     m_name = "PositionalOptionsParser";
 }
 

@@ -8,6 +8,8 @@ namespace tarv_3_3 {
 class TARV_API PositionalOptionsParser : public IArgumentParser {
 public:
     PositionalOptionsParser(EventHandler* handler, Garbage* garbage, unsigned int flags);
+    TARV_HIDDEN PositionalOptionsParser(EventHandler* handler, Garbage* garbage, unsigned int flags,
+                                        Listeners listeners);
     ~PositionalOptionsParser() override;
 
     /// Takes every argument when some option is positional; under `flagDashIsNotPositional` not one
@@ -23,9 +25,9 @@ public:
     int getPriority() override;
 
 private:
-    int bindFront(std::vector<std::string>& args, IResultCollector* collector,
-                  const std::vector<OptionDescription>& options, const OptionDescription& option,
-                  std::string& err);
+    TARV_HIDDEN int bindFront(std::vector<std::string>& args, IResultCollector* collector,
+                              const std::vector<OptionDescription>& options, const OptionDescription& option,
+                              std::string& err);
 };
 
 } // namespace tarv_3_3

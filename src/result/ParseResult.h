@@ -57,15 +57,17 @@ public:
     int getNextArgument(std::string& text);
 
 private:
-    int startIteration(std::string_view name, char** text, variant_t& value, int lo, int hi, int& position);
-    int findFirst(std::string_view name, char** text, variant_t& value, int lo, int hi, int& position);
-    int continueIteration(char** text, variant_t& value, int& position);
+    TARV_HIDDEN int startIteration(std::string_view name, char** text, variant_t& value, int lo, int hi,
+                                   int& position);
+    TARV_HIDDEN int findFirst(std::string_view name, char** text, variant_t& value, int lo, int hi,
+                              int& position);
+    TARV_HIDDEN int continueIteration(char** text, variant_t& value, int& position);
     const OptionData& current() const { return m_entries[m_current]; }
-    void yieldDefault(const OptionData& data, char** text, variant_t& value, int& position);
-    int nextValue(const OptionData& data, char** text, variant_t& value, int& position);
-    int nextOccurrence(const OptionData& data, int& position);
-    static bool isDefaulted(const OptionData& data);
-    char* keep(const std::string& text);
+    TARV_HIDDEN void yieldDefault(const OptionData& data, char** text, variant_t& value, int& position);
+    TARV_HIDDEN int nextValue(const OptionData& data, char** text, variant_t& value, int& position);
+    TARV_HIDDEN int nextOccurrence(const OptionData& data, int& position);
+    TARV_HIDDEN static bool isDefaulted(const OptionData& data);
+    TARV_HIDDEN char* keep(const std::string& text);
 
     /// Holds the entries and their lists, which only go with the result.
     std::pmr::monotonic_buffer_resource m_memory;

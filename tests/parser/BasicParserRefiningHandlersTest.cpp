@@ -93,5 +93,44 @@ TEST_F(RefiningHandler, ChangesWhatIsWhiteSpaceInTheNextArgument) {
     EXPECT_EQ(parsing.stored(), "list@1@3=\"a\"@2,\"b c\"@4");
 }
 
+/// A parser that refines its option itself when it is told of a value.
+class RefiningParser : public BasicParser {
+public:
+    explicit RefiningParser(int flags)
+        : BasicParser(flags), m_list(option("list", "", vtString, "").positional()) {}
+
+    bool onValueParse(const char*, const Value&) override {
+        m_list.allowValue("a");
+        return true;
+    }
+
+private:
+    IOption& m_list;
+};
+
+TEST(RefiningParser, RestrictsTheNextArgumentAndNotTheRestOfThisOne) {
+    const struct {
+        const char* kind;
+        int flags;
+        std::vector<const char*> line;
+        const char* stored;
+    } rows[] = {
+        {"named", 0, {"program", "--list=a,b", "--list=b"}, "list@1=\"a\"@2,\"b\"@3"},
+        {"positional", 0, {"program", "a,b", "b"}, "list@1=\"a\"@2,\"b\"@3"},
+        {"plain", 0x04, {"program", "--", "a,b", "b"}, "list@2=\"a\"@3,\"b\"@4"},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.kind);
+        const RelativePositions positions;
+        RefiningParser parser(row.flags);
+        ParseResult result;
+        const int count = static_cast<int>(row.line.size());
+        EXPECT_EQ(parser.parseArgsVector(count, row.line.data(), &result), 2);
+        const Entries::List stored = result.entries().listByName();
+        ASSERT_EQ(stored.size(), 1U);
+        EXPECT_EQ(describe(stored[0].name.text, *stored[0].data, positions), row.stored);
+    }
+}
+
 } // namespace
 } // namespace tarv_3_3
