@@ -28,14 +28,10 @@ TarvLog::~TarvLog() {
 
 std::ostream& TarvLog::discarding() {
     if (m_stream == nullptr) {
-        open();
+        m_buffer = std::make_unique<basic_nullbuf<char, std::char_traits<char>>>();
+        m_stream = std::make_unique<std::ostream>(m_buffer.get());
     }
     return *m_stream;
-}
-
-void TarvLog::open() {
-    m_buffer = std::make_unique<basic_nullbuf<char, std::char_traits<char>>>();
-    m_stream = std::make_unique<std::ostream>(m_buffer.get());
 }
 
 LinePart::LinePart(int number) : m_text(m_own, 0) {

@@ -38,8 +38,6 @@ public:
     std::ostream& discarding();
 
 private:
-    TARV_HIDDEN void open();
-
     std::unique_ptr<std::ostream> m_stream;
     std::unique_ptr<std::streambuf> m_buffer;
 };
