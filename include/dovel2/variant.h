@@ -119,7 +119,8 @@ public:
     static int string_compare(const char* left, const char* right);
 
     /// The memory hooks of all variants in the process, `malloc` and `free` at first. Change them
-    /// only while no text variant exists.
+    /// only while no text variant exists, to functions that may be called on every thread which uses
+    /// variants.
     static variant_memory_t m_mem;
 
 private:

@@ -9,6 +9,9 @@ namespace tarv_3_3 {
 /// What one or more parses found. Made by `IParser::createResult`, owned by the host, released
 /// with `destroy`; it does not need its parser any more.
 ///
+/// Used by one thread at a time, queries included, since they change the iteration and keep texts. Results
+/// of one parser may be read on different threads.
+///
 /// Queries take any of an option's names, exactly: no abbreviation, no "no-" form, no dashes.
 /// Every text handed out stays valid until the result is destroyed.
 ///

@@ -26,7 +26,12 @@ enum ParserFlag : int {
 };
 
 /// Knows what a command line may hold, and reads it. Made by `createParser`, owned by the host,
-/// released with `destroy`. A parser and its results are used by one thread at a time.
+/// released with `destroy`.
+///
+/// A parser and the results that it parses into are used by one thread at a time. Several parsers may work on
+/// several threads at once, each with results of its own. They share the counter of positions, which
+/// stay unique in the process and ascend in each parse, and the switch of the trace: a parse that
+/// begins switches it for all of them.
 ///
 /// Every `const char*` that a parser returns stays valid until the parser is destroyed.
 ///
@@ -57,8 +62,10 @@ public:
     /// The topic "tarv_hidden" is left out of help, unless it is asked for. A null topic or
     /// description counts as the empty text.
     ///
-    /// Returns the new declaration to be refined, valid until the next one; never fails but for
-    /// memory (`std::bad_alloc`). A refused one has `m_status` `declarationRefused`.
+    /// Returns the new declaration to be refined, valid until the next one. A refused one has `m_status`
+    /// `declarationRefused`. Throws `std::bad_alloc` when there is no memory. A name that is taken is also
+    /// written to the trace: if that is on, and the host has told `std::cout` to throw exceptions, they
+    /// come through.
     virtual IOption& option(const char* names, const char* description, das_variant_type_t type,
                             const char* topic = "") = 0;
 
@@ -125,9 +132,11 @@ public:
     /// Declares the string option "option-file" and reads every file that a command line names
     /// with it, in order, behind the command line itself: one argument a line, as `parseStream`
     /// has it, up to the first zero byte. A file may name further files. Every further parse into
-    /// the same result reads all of its files again. A file that names itself, also by way of others,
-    /// is read again and again until memory is exhausted: hosts that let strangers write option files
-    /// must not use this. Always returns true.
+    /// the same result reads all of its files again. The names are read with `IParseResult::next` between the
+    /// files. A handler that queries the same result meanwhile redirects that: instead of the files that are
+    /// left, the values that are left of the option it asked for are read as files. A file that names itself,
+    /// also by way of others, is read again and again until memory is exhausted: hosts that let strangers
+    /// write option files must not use this. Always returns true.
     virtual bool addOptionFileOption(const char* description, const char* topic = "") = 0;
 
     virtual ~IParser();

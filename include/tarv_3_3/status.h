@@ -2,18 +2,19 @@
 
 namespace tarv_3_3 {
 
-/// What `createParser` and the parse operations of `IParser` return. On every code but the first,
-/// and `parseException`, `IParser::getErrorDesc` has a message for the user.
+/// What `createParser` and the parse operations of `IParser` return. `IParser::getErrorDesc` then has a
+/// message for the user, unless the code says below that the last one stays.
 enum ParseStatus : int {
-    /// The command line was parsed to its end.
+    /// The command line was parsed to its end; the last message stays.
     parseOk = 0,
-    /// An event handler refused a value. Also, without a message, when the result holds options
-    /// that this parser did not declare.
+    /// An event handler refused a value. Also when the result holds options that this parser did not
+    /// declare; then the last message stays.
     parseVetoed = 1,
     /// The command line breaks a rule: an unknown, ambiguous or incomplete option, a value that
     /// does not convert or is not allowed, actions that do not fit.
     parseFailed = 2,
-    /// A standard exception (exhausted memory, a null entry in `argv`) around the parse.
+    /// A standard exception (exhausted memory, a null entry in `argv`) around the parse. The last message
+    /// stays.
     parseException = 3,
     /// A standard exception inside the parse.
     parseUnidentified = 4,

@@ -54,7 +54,7 @@ int BasicParser::parseStream(const char* text, IParseResult* result) {
 
 void BasicParser::parseStreamToArgs(const char* text, std::vector<std::string>& arguments) {
     std::string_view rest = text != nullptr ? text : "";
-    // A text that failed to convert arrives as "-1"; it must not pass for an option.
+    // What `IParser::parseStream` promises for a text that is just this.
     if (rest == "-1") {
         rest = "?";
     }

@@ -92,6 +92,28 @@ TEST_F(OptionFiles, AreReadBehindTheCommandLine) {
     EXPECT_EQ(parsing.plainArguments(), "[plain of line][plain of file]");
 }
 
+// The query begins an iteration, and the loop over the files goes on with it.
+TEST_F(OptionFiles, AreRedirectedByAHandlerThatQueriesTheResult) {
+    struct Querying : EventHandler {
+        explicit Querying(IParseResult& queried) : result(queried) {}
+        bool onOptionParse(const char* name) override {
+            if (name == std::string("name")) {
+                result.get("other", 0, 2147483647);
+            }
+            return true;
+        }
+        IParseResult& result;
+    };
+    Querying handler(parsing.result);
+    parsing.parser.addHandler(&handler);
+    parsing.parser.option("other", "", vtString, "");
+    const std::string other = "--other=no-file," + directory.write("redirected", "--name=from_other");
+    const std::string files = "--option-file=" + directory.write("first", "--name=from_first") + "," +
+                              directory.write("second", "--name=from_second");
+    EXPECT_EQ(parsing.parse({other.c_str(), files.c_str()}), 0);
+    EXPECT_EQ(names(), "[from_first][from_other]");
+}
+
 TEST_F(OptionFiles, AreNotReadWithoutTheOption) {
     EXPECT_EQ(parsing.parse({"--name=1"}), 0);
     EXPECT_EQ(names(), "[1]");
