@@ -1,4 +1,5 @@
-# Fails when a file under `root`/include or `root`/src includes one of a higher floor.
+# Fails when a file under `root`/include or `root`/src includes one of a higher floor, or <memory_resource>,
+# whose default resource belongs to the host: what is allocated from it may be refused, or go too early.
 cmake_minimum_required(VERSION 3.25)
 
 set(floor_dovel2 0)
@@ -20,6 +21,10 @@ foreach(file IN LISTS files)
         string(APPEND wrong "  ${file} stands on no floor\n")
         continue()
     endif()
+    file(STRINGS ${root}/${file} lines REGEX "^[ \t]*#[ \t]*include[ \t]*<memory_resource>")
+    if(lines)
+        string(APPEND wrong "  ${file} includes <memory_resource>; see platform/Arena.h\n")
+    endif()
     file(STRINGS ${root}/${file} lines REGEX "^[ \t]*#[ \t]*include[ \t]*\"")
     foreach(line IN LISTS lines)
         math(EXPR count "${count} + 1")
@@ -38,7 +43,7 @@ if(count EQUAL 0)
     message(FATAL_ERROR "No includes found under ${root}")
 endif()
 if(wrong)
-    message("Includes that do not point down:\n${wrong}")
+    message("Includes that do not point down, or are not allowed:\n${wrong}")
     message(FATAL_ERROR "The floors are not kept.")
 endif()
 message("${count} includes, none points up.")

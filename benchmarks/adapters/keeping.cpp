@@ -8,14 +8,13 @@
 #include "adapters/notation.h"
 
 #include "options/Names.h"
+#include "platform/TextMap.h"
 #include "tarv_3_3/internal/Garbage.h"
 #include "tarv_3_3/internal/OptionData.h"
-#include "tarv_3_3/internal/TextSet.h"
 
 #include <algorithm>
 #include <deque>
 #include <memory>
-#include <memory_resource>
 
 namespace bench {
 
@@ -25,9 +24,15 @@ namespace tarv = tarv_3_3;
 
 /// What was given, and where it is by name.
 struct Kept {
-    std::pmr::monotonic_buffer_resource memory{8192};
-    tarv::internal::TextSet names{memory};
-    std::pmr::deque<tarv::OptionData> data{&memory};
+    static constexpr auto nowhere = static_cast<std::size_t>(-1);
+    struct Place {
+        std::size_t place = nowhere;
+    };
+    using Names = tarv::internal::TextMap<Place>;
+
+    tarv::internal::ArenaWithRoom<6144> memory;
+    Names names{memory};
+    std::deque<tarv::OptionData, tarv::internal::ArenaAllocator<tarv::OptionData>> data{memory};
 };
 
 class Keeping final : public Library {
@@ -63,9 +68,9 @@ public:
         HostValues values;
         values.resize(options.size());
         for (std::size_t i = 0; i < options.size(); ++i) {
-            const tarv::internal::TextSet::Entry* const known = m_kept->names.find(m_names[i].front());
+            const Kept::Names::Entry* const known = m_kept->names.find(m_names[i].front());
             if (known != nullptr)
-                for (const tarv::OptionValue& value : m_kept->data[known->note - 1].values)
+                for (const tarv::OptionValue& value : m_kept->data[known->value.place].values)
                     values.add(i, value.text.c_str());
         }
         values.read(options, answer);
@@ -85,12 +90,12 @@ private:
     }
 
     void keep(std::size_t option, const std::string& text) {
-        tarv::internal::TextSet::Entry& known = m_kept->names.insert(m_names[option].front());
-        if (known.note == 0) {
+        Kept::Names::Entry& known = m_kept->names.insert(m_names[option].front());
+        if (known.value.place == Kept::nowhere) {
+            known.value.place = m_kept->data.size();
             m_kept->data.emplace_back();
-            known.note = m_kept->data.size();
         }
-        tarv::OptionData& data = m_kept->data[known.note - 1];
+        tarv::OptionData& data = m_kept->data[known.value.place];
         data.positions.push_back(m_position++);
         data.values.push_back({text, tarv::variant_t(m_keeper.init(text.c_str())), m_position++});
     }

@@ -3,11 +3,11 @@
 #include <cstddef>
 #include <cstdint>
 #include <initializer_list>
-#include <memory_resource>
 #include <string>
 #include <utility>
 #include <vector>
 
+#include "platform/Arena.h"
 #include "tarv_3_3/export.h"
 
 namespace tarv_3_3 {
@@ -16,8 +16,8 @@ namespace tarv_3_3 {
 /// a name in a large table need not look at each.
 class TARV_API Names {
 public:
-    using allocator_type = std::pmr::polymorphic_allocator<std::string>;
-    using List = std::pmr::vector<std::string>;
+    using allocator_type = internal::ArenaAllocator<std::string>;
+    using List = std::vector<std::string, allocator_type>;
     using value_type = std::string;
     using iterator = List::const_iterator;
     using const_iterator = List::const_iterator;

@@ -10,7 +10,7 @@ OptionDescription::OptionDescription() = default;
 
 OptionDescription::OptionDescription(Names&& names, std::set<std::string>&& tags, const Topic& topic,
                                      const char* description, OptionKind kind, das_variant_type_t type,
-                                     Garbage* garbage, std::pmr::memory_resource* memory)
+                                     Garbage* garbage, internal::Arena& memory)
     : m_names(std::move(names), memory), m_tags(std::move(tags)), m_topic(topic),
       m_description(description, memory), m_kind(kind), m_type(type), m_garbage(garbage) {}
 

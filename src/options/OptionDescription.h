@@ -1,6 +1,5 @@
 #pragma once
 
-#include <memory_resource>
 #include <set>
 #include <string>
 #include <utility>
@@ -33,10 +32,10 @@ class TARV_API OptionDescription : public IOption {
 public:
     OptionDescription();
     /// The record and what is moved from it keep the list of names and the description in `memory`,
-    /// and must not outlive it; a copy does not.
+    /// and must not outlive it; a copy may.
     OptionDescription(Names&& names, std::set<std::string>&& tags, const Topic& topic,
                       const char* description, OptionKind kind, das_variant_type_t type, Garbage* garbage,
-                      std::pmr::memory_resource* memory);
+                      internal::Arena& memory);
     OptionDescription(const OptionDescription&);
     OptionDescription(OptionDescription&&) noexcept;
     OptionDescription& operator=(const OptionDescription&);
@@ -81,7 +80,7 @@ public:
     /// An action's own names, a modifier's actions, and whatever else was tagged.
     std::set<std::string> m_tags;
     Topic m_topic;
-    std::pmr::string m_description;
+    std::basic_string<char, std::char_traits<char>, internal::ArenaAllocator<char>> m_description;
     bool m_positional = false;
     bool m_hasDefault = false;
     OptionKind m_kind = Invalid;

@@ -16,8 +16,6 @@ const char* orEmpty(const char* text) {
     return text != nullptr ? text : "";
 }
 
-constexpr std::size_t firstBlock = 4096;
-
 // Most programs declare a few dozen options: their table is not to move over and over.
 constexpr std::size_t expectedOptions = 32;
 
@@ -33,7 +31,7 @@ bool isNegated(std::string_view name) {
 
 } // namespace
 
-RegisteredOptionStorage::RegisteredOptionStorage() : m_memory(firstBlock), m_names(m_memory) {}
+RegisteredOptionStorage::RegisteredOptionStorage() : m_names(m_memory), m_topicNames(m_memory) {}
 
 RegisteredOptionStorage::~RegisteredOptionStorage() = default;
 
@@ -44,7 +42,7 @@ IOption& RegisteredOptionStorage::option(const char* names, const char* tags, co
     if (names == nullptr) {
         return refuse();
     }
-    Names nameList(&m_memory);
+    Names nameList(m_memory);
     nameList.reserve(usualNames);
     split(names, nameList);
     if (validateName(nameList) != 0) {
@@ -63,12 +61,12 @@ IOption& RegisteredOptionStorage::option(const char* names, const char* tags, co
     }
     makeRoom();
     m_options.emplace_back(std::move(nameList), std::move(tagWords), registeredTopic, orEmpty(description),
-                           isAction ? Action : Option, type, m_garbage, &m_memory);
+                           isAction ? Action : Option, type, m_garbage, m_memory);
     OptionDescription& declared = m_options.back();
     declared.m_tokenizer = m_defaultTokenizer;
     m_learntNames = declared.m_names.size();
     for (std::size_t i = 0; i < m_learntNames; ++i) {
-        entries[i]->note = m_options.size();
+        learnName(entries[i]->value);
     }
     return declared;
 }
@@ -85,16 +83,16 @@ IOption& RegisteredOptionStorage::modifier(const char* names, const char* tags, 
 
 const Topic& RegisteredOptionStorage::registerTopic(std::string_view topic) {
     const std::string_view name = topic.substr(0, topic.find(':'));
-    const auto known = std::find_if(m_topics.begin(), m_topics.end(),
-                                    [&](const Topic& other) { return other.first == name; });
-    if (known != m_topics.end()) {
-        return *known;
+    std::size_t& place = m_topicNames.insert(name).value.place;
+    if (place == nowhere) {
+        const std::string_view title = name.size() < topic.size() ? topic.substr(name.size() + 1) : "";
+        m_topics.emplace_back(name, title);
+        place = m_topics.size() - 1;
     }
-    const std::string_view title = name.size() < topic.size() ? topic.substr(name.size() + 1) : "";
-    return m_topics.emplace_back(name, title);
+    return m_topics[place];
 }
 
-// Names of refused declarations get entries as well, which note nothing.
+// Names of refused declarations get entries as well, which no record owns.
 bool RegisteredOptionStorage::isTaken(const Names& names, NameEntries& entries) {
     if (hasNewSynonyms()) {
         learnSynonyms();
@@ -102,49 +100,52 @@ bool RegisteredOptionStorage::isTaken(const Names& names, NameEntries& entries) 
     bool taken = false;
     for (std::size_t i = 0; i < names.size(); ++i) {
         entries[i] = &m_names.insert(names[i]);
-        taken = taken || noteFor(names[i], entries[i]->note) != 0;
+        taken = taken || placeOf(names[i], entries[i]->value) != nowhere;
     }
-    unsigned long index = 0;
-    return taken || (m_sharesNames && findOption(names, index, m_options) == 0);
+    return taken;
 }
 
 int RegisteredOptionStorage::find(const internal::HashedText& name, unsigned long& index) {
     if (hasNewSynonyms()) {
         learnSynonyms();
     }
-    const internal::TextSet::Entry* const entry = m_names.find(name);
-    const std::size_t note = noteFor(name.text, entry != nullptr ? entry->note : 0);
-    // A host that holds on to a reference for too long may have given a name unseen.
-    if (note == 0 || m_sharesNames) {
+    const Index::Entry* const entry = m_names.find(name);
+    const std::size_t place = placeOf(name.text, entry != nullptr ? entry->value : Owners());
+    if (place == nowhere) {
+        // A host that holds on to a reference for too long may have given a name unseen.
         return findOption(std::string(name.text), index, m_options);
     }
-    index = note - 1;
+    index = place;
     return 0;
 }
 
 // Of the record that has the name as it is, and the switch that has it behind "no-", the first one.
-std::size_t RegisteredOptionStorage::noteFor(std::string_view name, std::size_t plain) const {
+std::size_t RegisteredOptionStorage::placeOf(std::string_view name, const Owners& owners) const {
     if (!isNegated(name)) {
-        return plain;
+        return owners.first;
     }
-    const internal::TextSet::Entry* const entry = m_names.find(name.substr(negation.size()));
-    const std::size_t negated = entry != nullptr ? entry->note : 0;
-    const bool isSwitch = negated != 0 && m_options[negated - 1].m_type == vtBool;
-    return isSwitch && (plain == 0 || negated < plain) ? negated : plain;
+    const Index::Entry* const negated = m_names.find(name.substr(negation.size()));
+    return negated != nullptr ? std::min(owners.first, negated->value.firstSwitch) : owners.first;
 }
 
-// Its host may add synonyms to the last record until the next declaration.
+// That the last record has it.
+void RegisteredOptionStorage::learnName(Owners& owners) {
+    const std::size_t last = m_options.size() - 1;
+    owners.first = std::min(owners.first, last);
+    if (m_options[last].m_type == vtBool) {
+        owners.firstSwitch = std::min(owners.firstSwitch, last);
+    }
+}
+
 bool RegisteredOptionStorage::hasNewSynonyms() const {
     return !m_options.empty() && m_learntNames < m_options.back().m_names.size();
 }
 
-// Nobody checks synonyms.
+// Nobody checks synonyms: they may repeat names.
 void RegisteredOptionStorage::learnSynonyms() {
     const Names& names = m_options.back().m_names;
     for (; m_learntNames < names.size(); ++m_learntNames) {
-        std::size_t& note = m_names.insert(names[m_learntNames]).note;
-        m_sharesNames = m_sharesNames || note != 0;
-        note = m_options.size();
+        learnName(m_names.insert(names[m_learntNames]).value);
     }
 }
 

@@ -2,13 +2,12 @@
 
 #include <array>
 #include <cstddef>
-#include <memory_resource>
 #include <string_view>
 #include <vector>
 
 #include "options/OptionDescription.h"
+#include "platform/TextMap.h"
 #include "tarv_3_3/export.h"
-#include "tarv_3_3/internal/TextSet.h"
 #include "tarv_3_3/variant.h"
 
 namespace tarv_3_3 {
@@ -44,8 +43,8 @@ public:
     virtual IOption& modifier(const char* names, const char* tags, const char* description,
                               das_variant_type_t type, const char* topic);
 
-    /// What `findOption` finds in the table, at a cost that does not grow with it unless a synonym
-    /// repeats a name. It knows the synonyms that a record was given before the next declaration.
+    /// What `findOption` finds in the table, at a cost that does not grow with it. It knows the synonyms
+    /// that a record was given before the next declaration.
     int find(const internal::HashedText& name, unsigned long& index);
 
     /// Keeps the records where they are while somebody works on them: a parse, whose handlers may
@@ -62,8 +61,8 @@ public:
     };
 
 private:
-    /// Holds lists of names, descriptions and the index, which only go with the registry.
-    std::pmr::monotonic_buffer_resource m_memory;
+    /// Holds lists of names, descriptions and the indexes, which only go with the registry.
+    internal::ArenaWithRoom<6144> m_memory;
 
 public:
     /// The list separator of new declarations.
@@ -76,22 +75,37 @@ public:
     OptionDescription m_invalidOption;
 
 private:
-    using NameEntries = std::array<internal::TextSet::Entry*, mostNames>;
+    /// A place that no record has.
+    static constexpr auto nowhere = static_cast<std::size_t>(-1);
+
+    /// The places of the first record that has a name, and of the first switch, which takes the "no-" form
+    /// of the name as well.
+    struct Owners {
+        std::size_t first = nowhere;
+        std::size_t firstSwitch = nowhere;
+    };
+    using Index = internal::TextMap<Owners>;
+    using NameEntries = std::array<Index::Entry*, mostNames>;
+
+    struct TopicPlace {
+        std::size_t place = nowhere;
+    };
 
     TARV_HIDDEN bool isTaken(const Names& names, NameEntries& entries);
-    TARV_HIDDEN std::size_t noteFor(std::string_view name, std::size_t plain) const;
+    TARV_HIDDEN std::size_t placeOf(std::string_view name, const Owners& owners) const;
+    TARV_HIDDEN void learnName(Owners& owners);
     TARV_HIDDEN bool hasNewSynonyms() const;
     TARV_HIDDEN void learnSynonyms();
     TARV_HIDDEN void makeRoom();
     TARV_HIDDEN const Topic& registerTopic(std::string_view topic);
     TARV_HIDDEN IOption& refuse();
 
-    /// Every name with a note of the record that has it: its place plus one, 0 for none. Of the last
-    /// record only the first `m_learntNames`.
-    internal::TextSet m_names;
+    /// Every name. Of the last record, only the first `m_learntNames`: its host may add synonyms until the
+    /// next declaration.
+    Index m_names;
     std::size_t m_learntNames = 0;
-    /// A synonym repeats a name: its note does not say any more which record is the first to have it.
-    bool m_sharesNames = false;
+    /// The places of the topics in `m_topics`, by name.
+    internal::TextMap<TopicPlace> m_topicNames;
     int m_pins = 0;
     /// Tables that a larger one has replaced while they were pinned.
     std::vector<std::vector<OptionDescription>> m_outgrown;

@@ -91,6 +91,21 @@ int IArgumentParser::bindSingleValue(std::string& value, std::string& err, const
     return status;
 }
 
+// Room for one more value, and, where it has to be made, for all that the pieces of `rest` will need: a long
+// list that grew bit by bit would take up to three times as much.
+void IArgumentParser::makeRoomForValues(std::string_view rest, char separator) {
+    std::vector<OptionValue>& values = m_occurrence.values;
+    if (values.size() < values.capacity()) {
+        return;
+    }
+    std::size_t pieces = 0;
+    for (std::size_t start = 0; start != std::string_view::npos;) {
+        ++pieces;
+        start = rest.find_first_not_of(separator, rest.find(separator, start));
+    }
+    values.reserve(values.size() + pieces);
+}
+
 int IArgumentParser::bindList(const std::string& value, std::string& err, const OptionDescription& option,
                               const std::string& argument) {
     const char separator = option.m_tokenizer;
@@ -103,6 +118,7 @@ int IArgumentParser::bindList(const std::string& value, std::string& err, const 
     }
     while (start != std::string::npos) {
         const std::size_t end = value.find(separator, start);
+        makeRoomForValues(std::string_view(value).substr(start), separator);
         OptionValue& bound = m_occurrence.values.emplace_back();
         bound.text.assign(value, start, end - start);
         log(": value is: '", bound.text, "'");

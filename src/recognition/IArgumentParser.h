@@ -1,10 +1,8 @@
 #pragma once
 
-#include <array>
-#include <cstddef>
 #include <memory>
-#include <memory_resource>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "platform/logLine.h"
@@ -98,16 +96,14 @@ private:
                                     const std::string& argument);
     TARV_HIDDEN int bindList(const std::string& value, std::string& err, const OptionDescription& option,
                              const std::string& argument);
+    TARV_HIDDEN void makeRoomForValues(std::string_view rest, char separator);
     TARV_HIDDEN int bindText(std::string& text, OptionValue& bound, const std::string& value,
                              std::string& err, const OptionDescription& option, const std::string& argument);
 
     std::unique_ptr<OptionDescription> m_copy;
-    /// Room for an option with a few values.
-    std::array<std::byte, 512> m_room;
-    std::pmr::monotonic_buffer_resource m_memory{m_room.data(), m_room.size()};
     /// The one being bound. It keeps its memory for the next one. A parse that a handler starts
     /// meanwhile has recognizers of its own, so it does not get in the way.
-    OptionData m_occurrence{&m_memory};
+    OptionData m_occurrence;
 };
 
 } // namespace tarv_3_3

@@ -10,20 +10,17 @@ namespace {
 
 constexpr std::size_t usualNames = 32;
 
-// One by one: when memory runs out, an insertion of several at once may lose what was there before.
-void append(OptionData& entry, const OptionData& data) {
-    for (const int position : data.positions) {
-        entry.positions.push_back(position);
-    }
-    for (const OptionValue& value : data.values) {
-        entry.values.push_back(value);
+template <class List>
+void makeRoom(List& list, std::size_t more) {
+    if (list.capacity() - list.size() < more) {
+        list.reserve(std::max(2 * list.capacity(), list.size() + more));
     }
 }
 
 } // namespace
 
-Entries::Entries(std::pmr::monotonic_buffer_resource& memory)
-    : m_list(&memory), m_data(&memory), m_names(memory) {
+Entries::Entries(internal::Arena& memory)
+    : m_memory(memory), m_list(memory), m_data(memory), m_names(memory) {
     m_list.reserve(usualNames);
 }
 
@@ -46,15 +43,18 @@ void Entries::store(const Names& names, const OptionData& data) {
 // A name that stands twice among them shares the data already.
 void Entries::storeFirst(const internal::HashedText& firstName, const Names& names, const OptionData& data) {
     const std::size_t first = m_list.size();
-    OptionData& shared = m_data.emplace_back(data);
+    Data& shared = m_data.emplace_back(m_memory, data);
+    append(shared, data);
     add(m_names.insert(firstName), shared, 1);
     for (auto name = names.begin() + 1; name != names.end(); ++name) {
-        internal::TextSet::Entry& known = m_names.insert(*name);
-        if (known.note == 0) {
+        Index::Entry& known = m_names.insert(*name);
+        if (known.value.place == nowhere) {
             add(known, shared, 0);
             ++m_list[first].together;
-        } else if (known.note <= first) {
-            ownData(known.text()) = data;
+        } else if (known.value.place < first) {
+            Data& own = ownData(known.text());
+            own = Data(m_memory, data);
+            append(own, data);
         }
     }
 }
@@ -79,23 +79,42 @@ void Entries::separate(std::size_t place) {
     Entry& first = m_list[place];
     for (; first.together > 1; --first.together) {
         Entry& last = m_list[place + first.together - 1];
-        last.data = &m_data.emplace_back(*last.data);
+        Data& own = m_data.emplace_back(m_memory);
+        own = *last.data;
+        last.data = &own;
         last.together = 1;
     }
 }
 
-OptionData& Entries::ownData(const internal::HashedText& name) {
-    internal::TextSet::Entry& known = m_names.insert(name);
-    if (known.note == 0) {
-        add(known, m_data.emplace_back(), 1);
+Entries::Data& Entries::ownData(const internal::HashedText& name) {
+    Index::Entry& known = m_names.insert(name);
+    if (known.value.place == nowhere) {
+        add(known, m_data.emplace_back(m_memory), 1);
     }
-    separate(known.note - 1);
-    return *m_list[known.note - 1].data;
+    separate(known.value.place);
+    return *m_list[known.value.place].data;
 }
 
-void Entries::add(internal::TextSet::Entry& name, OptionData& data, std::size_t together) {
+void Entries::add(Index::Entry& name, Data& data, std::size_t together) {
     m_list.push_back({name.text(), &data, together});
-    name.note = m_list.size();
+    name.value.place = m_list.size() - 1;
+}
+
+// One by one: when memory runs out, an insertion of several at once may lose what was there before.
+void Entries::append(Data& entry, const OptionData& data) {
+    const auto note = [&](int position) {
+        entry.ascends = entry.ascends && entry.lastPosition < position;
+        entry.lastPosition = position;
+    };
+    for (const int position : data.positions) {
+        entry.positions.push_back(position);
+        note(position);
+    }
+    makeRoom(entry.values, data.values.size());
+    for (const OptionValue& value : data.values) {
+        entry.values.emplace_back(value, m_memory);
+        note(value.position);
+    }
 }
 
 Entries::List Entries::listByName() const {
@@ -106,13 +125,13 @@ Entries::List Entries::listByName() const {
     return ordered;
 }
 
-// A name that is known and has no entry, since memory ran out, has a note of 0.
+// A name that is known and has no entry, since memory ran out, is nowhere as well.
 std::size_t Entries::placeOf(const internal::HashedText& name) const {
-    const internal::TextSet::Entry* const known = m_names.find(name);
-    return (known != nullptr ? known->note : 0) - 1;
+    const Index::Entry* const known = m_names.find(name);
+    return known != nullptr ? known->value.place : nowhere;
 }
 
-const OptionData* Entries::find(std::string_view name) const {
+const Entries::Data* Entries::find(std::string_view name) const {
     const std::size_t place = placeOf(name);
     return place != nowhere ? m_list[place].data : nullptr;
 }

@@ -1,5 +1,6 @@
 #include "result/ParseResult.h"
 
+#include <algorithm>
 #include <exception>
 
 namespace tarv_3_3 {
@@ -7,8 +8,6 @@ namespace tarv_3_3 {
 IParseResult::~IParseResult() = default;
 
 namespace {
-
-constexpr std::size_t firstBlock = 8192;
 
 // The cursor of plain arguments before they were asked for: past any end.
 constexpr auto notStarted = static_cast<std::size_t>(-1);
@@ -22,6 +21,37 @@ int statusOf(Query query) {
     }
 }
 
+// The place of the first occurrence at a position in [lo, hi); their number when there is none.
+std::size_t firstInRange(const Entries::Data& data, int lo, int hi) {
+    const auto& positions = data.positions;
+    const auto isInRange = [&](int position) { return lo <= position && position < hi; };
+    if (isInRange(positions.front())) {
+        return 0;
+    }
+    auto found = positions.end();
+    if (data.ascends) {
+        const auto candidate = std::lower_bound(positions.begin(), positions.end(), lo);
+        found = candidate != positions.end() && isInRange(*candidate) ? candidate : positions.end();
+    } else {
+        found = std::find_if(positions.begin(), positions.end(), isInRange);
+    }
+    return static_cast<std::size_t>(found - positions.begin());
+}
+
+// The place of the first value, from `place` on, whose position is not below `bound`; their number when there
+// is none.
+std::size_t firstNotBelow(const Entries::Data& data, std::size_t place, int bound) {
+    const auto& values = data.values;
+    if (place >= values.size() || values[place].position >= bound) {
+        return place;
+    }
+    const auto isBelow = [&](const StoredValue& value) { return value.position < bound; };
+    const auto from = values.begin() + static_cast<std::ptrdiff_t>(place);
+    const auto found = data.ascends ? std::partition_point(from, values.end(), isBelow)
+                                    : std::find_if_not(from, values.end(), isBelow);
+    return static_cast<std::size_t>(found - values.begin());
+}
+
 Value makeValue(int status, const char* text, const variant_t& value, int position) {
     if (status == valueFound) {
         return Value(text, value, position);
@@ -33,7 +63,7 @@ Value makeValue(int status, const char* text, const variant_t& value, int positi
 
 } // namespace
 
-ParseResult::ParseResult() : m_memory(firstBlock), m_entries(m_memory), m_freeArgumentCursor(notStarted) {}
+ParseResult::ParseResult() : m_entries(m_memory), m_freeArgumentCursor(notStarted) {}
 
 ParseResult::~ParseResult() = default;
 
@@ -108,7 +138,7 @@ int ParseResult::findFirst(std::string_view name, char** text, variant_t& value,
     if (m_current == Entries::nowhere) {
         return valueMissing;
     }
-    const OptionData& data = current();
+    const Entries::Data& data = current();
     if (data.positions.empty()) {
         if (!isDefaulted(data)) {
             return valueMissing;
@@ -116,11 +146,9 @@ int ParseResult::findFirst(std::string_view name, char** text, variant_t& value,
         yieldDefault(data, text, value, position);
         return valueFound;
     }
-    while (data.positions[m_positionsCursor] < lo || data.positions[m_positionsCursor] >= hi) {
-        ++m_positionsCursor;
-        if (m_positionsCursor == data.positions.size()) {
-            return valueMissing;
-        }
+    m_positionsCursor = firstInRange(data, lo, hi);
+    if (m_positionsCursor == data.positions.size()) {
+        return valueMissing;
     }
     return text == nullptr ? static_cast<int>(valueFound) : continueIteration(text, value, position);
 }
@@ -129,7 +157,7 @@ int ParseResult::continueIteration(char** text, variant_t& value, int& position)
     if (m_current == Entries::nowhere) {
         return valueMissing;
     }
-    const OptionData& data = current();
+    const Entries::Data& data = current();
     if (isDefaulted(data)) {
         // The state that present() leaves, so that a default is yielded once behind it.
         if (m_lowerBound != noPosition || m_upperBound != noPosition) {
@@ -142,35 +170,33 @@ int ParseResult::continueIteration(char** text, variant_t& value, int& position)
     return data.values.empty() ? nextOccurrence(data, position) : nextValue(data, text, value, position);
 }
 
-bool ParseResult::isDefaulted(const OptionData& data) {
+bool ParseResult::isDefaulted(const Entries::Data& data) {
     return data.positions.empty() && !data.defaultText.empty();
 }
 
-void ParseResult::yieldDefault(const OptionData& data, char** text, variant_t& value, int& position) {
+void ParseResult::yieldDefault(const Entries::Data& data, char** text, variant_t& value, int& position) {
     if (text != nullptr) {
-        *text = keep(data.defaultText);
+        *text = keep(data.defaultText.c_str());
     }
     value = data.defaultValue;
     position = data.defaultPosition;
 }
 
-int ParseResult::nextValue(const OptionData& data, char** text, variant_t& value, int& position) {
-    while (m_valuesCursor < data.values.size() && data.values[m_valuesCursor].position < m_lowerBound) {
-        ++m_valuesCursor;
-    }
+int ParseResult::nextValue(const Entries::Data& data, char** text, variant_t& value, int& position) {
+    m_valuesCursor = firstNotBelow(data, m_valuesCursor, m_lowerBound);
     // The upper bound is inclusive here, exclusive where an iteration starts.
     if (m_valuesCursor >= data.values.size() || data.values[m_valuesCursor].position > m_upperBound) {
         return valueMissing;
     }
-    const OptionValue& found = data.values[m_valuesCursor];
-    *text = keep(found.text);
+    const StoredValue& found = data.values[m_valuesCursor];
+    *text = keep(found.text());
     value = found.value;
     position = found.position;
     ++m_valuesCursor;
     return valueFound;
 }
 
-int ParseResult::nextOccurrence(const OptionData& data, int& position) {
+int ParseResult::nextOccurrence(const Entries::Data& data, int& position) {
     if (m_positionsCursor >= data.positions.size()) {
         return valueMissing;
     }
@@ -183,7 +209,7 @@ int ParseResult::getFirstArgument(const char** text) {
     std::string argument;
     const int status = getFirstArgument(argument);
     if (status == valueFound) {
-        *text = keep(argument);
+        *text = keep(argument.c_str());
     }
     return status;
 }
@@ -192,7 +218,7 @@ int ParseResult::getNextArgument(const char** text) {
     std::string argument;
     const int status = getNextArgument(argument);
     if (status == valueFound) {
-        *text = keep(argument);
+        *text = keep(argument.c_str());
     }
     return status;
 }
@@ -209,13 +235,13 @@ int ParseResult::getNextArgument(std::string& text) {
     if (m_freeArgumentCursor >= m_freeArguments.size()) {
         return valueMissing;
     }
-    text = keep(m_freeArguments[m_freeArgumentCursor].first);
+    text = keep(m_freeArguments[m_freeArgumentCursor].first.c_str());
     ++m_freeArgumentCursor;
     return valueFound;
 }
 
-char* ParseResult::keep(const std::string& text) {
-    return const_cast<char*>(m_garbage.init(text.c_str()));
+char* ParseResult::keep(const char* text) {
+    return const_cast<char*>(m_garbage.init(text));
 }
 
 } // namespace tarv_3_3

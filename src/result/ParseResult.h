@@ -1,12 +1,12 @@
 #pragma once
 
 #include <cstddef>
-#include <memory_resource>
 #include <string>
 #include <string_view>
 #include <utility>
 #include <vector>
 
+#include "platform/Arena.h"
 #include "result/Entries.h"
 #include "tarv_3_3/IParseResult.h"
 #include "tarv_3_3/export.h"
@@ -62,15 +62,15 @@ private:
     TARV_HIDDEN int findFirst(std::string_view name, char** text, variant_t& value, int lo, int hi,
                               int& position);
     TARV_HIDDEN int continueIteration(char** text, variant_t& value, int& position);
-    const OptionData& current() const { return m_entries[m_current]; }
-    TARV_HIDDEN void yieldDefault(const OptionData& data, char** text, variant_t& value, int& position);
-    TARV_HIDDEN int nextValue(const OptionData& data, char** text, variant_t& value, int& position);
-    TARV_HIDDEN int nextOccurrence(const OptionData& data, int& position);
-    TARV_HIDDEN static bool isDefaulted(const OptionData& data);
-    TARV_HIDDEN char* keep(const std::string& text);
+    const Entries::Data& current() const { return m_entries[m_current]; }
+    TARV_HIDDEN void yieldDefault(const Entries::Data& data, char** text, variant_t& value, int& position);
+    TARV_HIDDEN int nextValue(const Entries::Data& data, char** text, variant_t& value, int& position);
+    TARV_HIDDEN int nextOccurrence(const Entries::Data& data, int& position);
+    TARV_HIDDEN static bool isDefaulted(const Entries::Data& data);
+    TARV_HIDDEN char* keep(const char* text);
 
     /// Holds the entries and their lists, which only go with the result.
-    std::pmr::monotonic_buffer_resource m_memory;
+    internal::ArenaWithRoom<6144> m_memory;
     Entries m_entries;
     /// Places in the lists of the current entry.
     std::size_t m_valuesCursor = 0;

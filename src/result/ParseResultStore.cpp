@@ -15,7 +15,7 @@ int ParseResult::applyDefault(std::vector<OptionDescription>& options, std::stri
             continue;
         }
         for (const std::string& name : option.m_names) {
-            OptionData& data = m_entries.ownData(name);
+            Entries::Data& data = m_entries.ownData(name);
             // A kind that does not exist has no text.
             data.defaultText = m_garbage.init(option.toString(&m_garbage, option.m_default));
             data.defaultPosition = IArgumentParser::getNewPositionIndex();

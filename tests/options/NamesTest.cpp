@@ -2,8 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <memory_resource>
-#include <new>
 #include <stdexcept>
 #include <utility>
 
@@ -59,20 +57,14 @@ TEST(Names, HaveABitForEveryByte) {
     }
 }
 
-TEST(Names, NeedMemory) {
-    std::pmr::memory_resource* const usual = std::pmr::set_default_resource(std::pmr::null_memory_resource());
-    EXPECT_THROW(Names({"a"}), std::bad_alloc);
-    std::pmr::set_default_resource(usual);
-}
-
 TEST(Names, TakeTheirBitsAlongWhenTheyAreCopiedOrMoved) {
     const std::uint64_t bits = Names::bitOf('l') | Names::bitOf('d');
     Names names = {"level", "depth"};
     const Names copy = names;
     EXPECT_EQ(copy, names);
     EXPECT_EQ(copy.firstBytes(), bits);
-    std::pmr::monotonic_buffer_resource memory;
-    const Names there(std::move(names), &memory);
+    internal::ArenaWithRoom<64> memory;
+    const Names there(std::move(names), memory);
     EXPECT_EQ(there, copy);
     EXPECT_EQ(there.firstBytes(), bits);
     Names assigned;

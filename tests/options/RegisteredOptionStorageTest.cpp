@@ -3,7 +3,6 @@
 #include <gtest/gtest.h>
 
 #include <iostream>
-#include <memory_resource>
 #include <set>
 #include <sstream>
 #include <string>
@@ -347,8 +346,8 @@ TEST_F(RegisteredOptions, AreCopiedOutOfTheMemoryOfTheRegistry) {
     assigned = declaredOne;
     for (const OptionDescription& copy : {OptionDescription(declaredOne), assigned}) {
         EXPECT_EQ(copy.m_names, (Words{"level", "l"}));
-        EXPECT_EQ(copy.m_names.get_allocator().resource(), std::pmr::get_default_resource());
-        EXPECT_EQ(copy.m_description.get_allocator().resource(), std::pmr::get_default_resource());
+        EXPECT_EQ(copy.m_names.get_allocator().arena(), nullptr);
+        EXPECT_EQ(copy.m_description.get_allocator().arena(), nullptr);
     }
 }
 

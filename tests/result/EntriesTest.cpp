@@ -3,12 +3,12 @@
 #include <gtest/gtest.h>
 
 #include <cstddef>
-#include <memory_resource>
 #include <new>
 #include <stdexcept>
 #include <string>
 #include <vector>
 
+#include "reliability/FailingAllocations.h"
 #include "result/StoredOptions.h"
 
 namespace tarv_3_3 {
@@ -20,7 +20,7 @@ protected:
     /// of the one before.
     static std::string describe(const Entries::List& list) {
         std::string line;
-        const OptionData* before = nullptr;
+        const Entries::Data* before = nullptr;
         for (const Entries::Entry& entry : list) {
             line.append(entry.name.text);
             line += entry.data == before ? "+" : "";
@@ -31,7 +31,7 @@ protected:
 
     std::string inOrder() const { return describe(entries.list()); }
 
-    std::pmr::monotonic_buffer_resource memory;
+    internal::ArenaWithRoom<512> memory;
     Entries entries{memory};
 };
 
@@ -97,7 +97,7 @@ TEST_F(StoredEntries, ShareNothingOnceTheyWereStoredApart) {
 
 TEST_F(StoredEntries, HaveDataOfTheirOwnWhereTheyAreAskedForIt) {
     entries.store({"a", "b", "c"}, occurrences({1}));
-    OptionData& own = entries.ownData("b");
+    Entries::Data& own = entries.ownData("b");
     EXPECT_EQ(&own, entries.find("b"));
     EXPECT_EQ(own.positions.at(0), 1);
     EXPECT_EQ(inOrder(), "abc");
@@ -108,7 +108,7 @@ TEST_F(StoredEntries, HaveDataOfTheirOwnWhereTheyAreAskedForIt) {
 }
 
 TEST_F(StoredEntries, AreMadeWhereDataIsAskedForUnderANewName) {
-    const OptionData& data = entries.ownData("a");
+    const Entries::Data& data = entries.ownData("a");
     EXPECT_EQ(entries.find("a"), &data);
     EXPECT_TRUE(data.positions.empty());
     EXPECT_EQ(data.defaultPosition, 0);
@@ -133,21 +133,26 @@ TEST_F(StoredEntries, KeepTheirPlacesAsTheyGrow) {
 
 // Wherever it runs out: in the set of names, the list, the data or its lists.
 TEST_F(StoredEntries, AreWholeOrNowhereWhenMemoryRunsOut) {
-    const OptionData data = occurrences({1}, {{"a", 2}});
-    for (std::size_t size = 2048; size < 12288; size += 8) {
+    const OptionData data = occurrences({1}, {{"a value too long for its place", 2}});
+    std::vector<Names> names;
+    for (int i = 0; i < 100; ++i) {
+        names.push_back({"a" + std::to_string(i), "b" + std::to_string(i)});
+    }
+    for (std::size_t size = 3072; size < 12288; size += 8) {
         SCOPED_TRACE(size);
         std::vector<std::byte> room(size);
-        std::pmr::monotonic_buffer_resource little(room.data(), room.size(),
-                                                   std::pmr::null_memory_resource());
+        internal::Arena little(room.data(), room.size());
         Entries few(little);
         std::size_t stored = 0;
+        failing::arm(1, failing::Mode::forGood);
         try {
             for (;; ++stored) {
-                few.store({"a" + std::to_string(stored), "b" + std::to_string(stored)}, data);
+                few.store(names[stored], data);
             }
         } catch (const std::bad_alloc&) {
             // Now for what is left behind.
         }
+        failing::disarm();
         ASSERT_GE(few.list().size(), 2 * stored);
         ASSERT_LE(few.list().size(), 2 * stored + 1);
         for (const Entries::Entry& entry : few.list()) {

@@ -6,18 +6,29 @@
 #include "support/RelativePositions.h"
 #include "tarv_3_3/internal/OptionData.h"
 
+inline std::string textOf(const tarv_3_3::OptionValue& value) {
+    return value.text;
+}
+
+/// For the values that a result keeps.
+template <class Value>
+std::string textOf(const Value& value) {
+    return value.text();
+}
+
 /// Stored data as one line: `level@1="5"@2` is an occurrence at 1 with the value "5" at 2,
 /// `verbose@1` one without a value, `files@1@4="a"@2,"b"@3,"c"@5` two occurrences with three values
 /// in all. A default follows as `default="7"@6`.
-inline std::string describe(std::string_view name, const tarv_3_3::OptionData& data,
-                            const RelativePositions& relative) {
+/// `data` is `OptionData` or what the result made of it.
+template <class Data>
+std::string describe(std::string_view name, const Data& data, const RelativePositions& relative) {
     std::string line(name);
     for (const int position : data.positions) {
         line += "@" + std::to_string(relative(position));
     }
     const char* separator = "=";
-    for (const tarv_3_3::OptionValue& value : data.values) {
-        line += separator + ("\"" + value.text + "\"@") + std::to_string(relative(value.position));
+    for (const auto& value : data.values) {
+        line += separator + ("\"" + textOf(value) + "\"@") + std::to_string(relative(value.position));
         separator = ",";
     }
     const bool noDefault =

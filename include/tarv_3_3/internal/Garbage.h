@@ -1,6 +1,6 @@
 #pragma once
 
-#include <memory_resource>
+#include <memory>
 
 #include "tarv_3_3/export.h"
 #include "tarv_3_3/internal/TextSet.h"
@@ -21,8 +21,7 @@ public:
     virtual const char* init(const char* text);
 
 private:
-    std::pmr::monotonic_buffer_resource m_memory;
-    internal::TextSet m_strings;
+    std::unique_ptr<internal::TextSet> m_strings;
 };
 
 } // namespace tarv_3_3

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <memory_resource>
 #include <string>
 #include <vector>
 
@@ -16,22 +15,12 @@ struct OptionValue {
     int position;
 };
 
-/// What a result knows about one option name. Its lists take their memory from the allocator that
-/// the object is made with.
+/// What an argument says about an option, on its way into a result.
 struct OptionData {
-    using allocator_type = std::pmr::polymorphic_allocator<char>;
-
-    OptionData() = default;
-    explicit OptionData(const allocator_type& allocator) : positions(allocator), values(allocator) {}
-    OptionData(const OptionData& other, const allocator_type& allocator)
-        : positions(other.positions, allocator), values(other.values, allocator),
-          defaultText(other.defaultText), defaultValue(other.defaultValue),
-          defaultPosition(other.defaultPosition) {}
-
     /// The position index of each occurrence, in the order stored.
-    std::pmr::vector<int> positions;
+    std::vector<int> positions;
     /// The values of all occurrences, in the order stored.
-    std::pmr::vector<OptionValue> values;
+    std::vector<OptionValue> values;
     /// The default as text; empty when there is none.
     std::string defaultText;
     variant_t defaultValue;

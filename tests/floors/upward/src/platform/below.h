@@ -1,2 +1,3 @@
 #pragma once
+#include <memory_resource>
 #  include "options/above.h" // points up

@@ -1,0 +1,112 @@
+#include "platform/hashOf.h"
+
+#include <sys/auxv.h>
+
+#include <atomic>
+#include <cstring>
+
+namespace tarv_3_3::internal {
+
+namespace {
+
+__extension__ using DoubleWord = unsigned __int128;
+
+struct Product {
+    std::uint64_t low;
+    std::uint64_t high;
+};
+
+Product multiply(std::uint64_t left, std::uint64_t right) {
+    const DoubleWord product = DoubleWord(left) * right;
+    return {static_cast<std::uint64_t>(product), static_cast<std::uint64_t>(product >> 64)};
+}
+
+// Both halves of a product, since the low bits of one half depend on few bits of the factors.
+std::uint64_t mix(std::uint64_t left, std::uint64_t right) {
+    const Product product = multiply(left, right);
+    return product.low ^ product.high;
+}
+
+template <class Word>
+std::uint64_t load(const char* bytes) {
+    Word word;
+    std::memcpy(&word, bytes, sizeof word);
+    return word;
+}
+
+struct TwoWords {
+    std::uint64_t front;
+    std::uint64_t back;
+};
+
+// Up to 16 bytes, each of them at least once.
+TwoWords loadShort(const char* bytes, std::size_t size) {
+    if (size >= 8) {
+        return {load<std::uint64_t>(bytes), load<std::uint64_t>(bytes + size - 8)};
+    }
+    if (size >= 4) {
+        return {load<std::uint32_t>(bytes), load<std::uint32_t>(bytes + size - 4)};
+    }
+    std::uint64_t word = 0;
+    for (std::size_t i = 0; i < size; ++i) {
+        word = word << 8 | static_cast<unsigned char>(bytes[i]);
+    }
+    return {word, 0};
+}
+
+// The kernel gives 16 random bytes to every program that it starts. To read them costs no system call.
+HashKey makeProcessKey() {
+    const unsigned long randomBytes = getauxval(AT_RANDOM);
+    std::uint64_t seed[2] = {reinterpret_cast<std::uintptr_t>(&randomBytes), 0};
+    if (randomBytes != 0) {
+        std::memcpy(seed, reinterpret_cast<const void*>(randomBytes), sizeof seed);
+    }
+    return makeHashKey(seed);
+}
+
+/// The key of the process, null until the first hash was asked for.
+std::atomic<const HashKey*> processKey{nullptr};
+
+// A function of its own, so that every other call need not save what this one would spoil.
+[[gnu::cold, gnu::noinline]] std::size_t makeKeyAndHash(std::string_view text) {
+    static const HashKey key = makeProcessKey();
+    processKey.store(&key, std::memory_order_release);
+    return hashOf(text, key);
+}
+
+} // namespace
+
+// The same bytes guard the stack of the process, so the key shows none of them as they are.
+HashKey makeHashKey(const void* seed) {
+    std::uint64_t words[2];
+    std::memcpy(words, seed, sizeof words);
+    HashKey key;
+    // The first digits of pi, which stand for no choice.
+    constexpr std::uint64_t digits[] = {0x243F6A8885A308D3, 0x13198A2E03707344, 0xA4093822299F31D0,
+                                        0x082EFA98EC4E6C89, 0x452821E638D01377};
+    for (std::size_t i = 0; i < 4; ++i) {
+        key.words[i] = mix(words[0] ^ digits[i], words[1] ^ digits[i + 1]);
+    }
+    return key;
+}
+
+// Every factor of a product is hidden by a word of the key, alone or in a product before: where one were
+// known, texts that make it zero, and with it the product, could be written down for every key.
+std::size_t hashOf(std::string_view text, const HashKey& key) {
+    const char* bytes = text.data();
+    std::size_t left = text.size();
+    std::uint64_t state = key.words[1];
+    for (; left > 16; left -= 16, bytes += 16) {
+        state = mix(load<std::uint64_t>(bytes) ^ key.words[0], load<std::uint64_t>(bytes + 8) ^ state);
+    }
+    const TwoWords last = loadShort(bytes, left);
+    const Product product = multiply(last.front ^ key.words[0], last.back ^ state);
+    return mix(product.low ^ key.words[2] ^ text.size(), product.high ^ key.words[3]);
+}
+
+std::size_t hashOf(std::string_view text) {
+    const HashKey* const key = processKey.load(std::memory_order_acquire);
+    return key != nullptr ? hashOf(text, *key) : makeKeyAndHash(text);
+}
+
+} // namespace tarv_3_3::internal
