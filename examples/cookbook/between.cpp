@@ -10,7 +10,7 @@ namespace {
 /// All values of an option. Collect the outer values first: a result remembers one iteration.
 std::vector<tarv::Value> all(tarv::IParseResult& result, const char* name) {
     std::vector<tarv::Value> values;
-    for (tarv::Value value = result.get(name); value.status == tarv::valueFound; value = result.next(name)) {
+    for (tarv::Value value = result.get(name); value.text != nullptr; value = result.next(name)) {
         values.push_back(value);
     }
     return values;

@@ -18,7 +18,7 @@ int main(int argc, char** argv) {
     int exitCode = 0;
     if (parser->parseArgsVector(argc, argv, result) == tarv::parseOk) {
         const int offset = tarv::getLastValue(result, "offset").value.get<int>();
-        for (tarv::Value number = result->get("number"); number.status == tarv::valueFound;
+        for (tarv::Value number = result->get("number"); number.text != nullptr;
              number = result->next("number")) {
             std::printf("%d\n", number.value.get<int>() + offset);
         }

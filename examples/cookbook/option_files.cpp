@@ -20,8 +20,7 @@ int main(int argc, char** argv) {
     const int status = parser->parseArgsVector(argc, argv, result);
     if (status == tarv::parseOk) {
         for (const char* name : {"title", "page"}) {
-            for (tarv::Value value = result->get(name); value.status == tarv::valueFound;
-                 value = result->next(name)) {
+            for (tarv::Value value = result->get(name); value.text != nullptr; value = result->next(name)) {
                 std::printf("%s: %s\n", name, value.text);
             }
         }

@@ -23,8 +23,7 @@ std::string outcome(tarv::IParser& parser, const char* arguments) {
         text = parser.getErrorDesc();
     } else {
         text = std::string("level=") + tarv::getLastValue(result, "level").text;
-        for (tarv::Value file = result->get("file"); file.status == tarv::valueFound;
-             file = result->next("file")) {
+        for (tarv::Value file = result->get("file"); file.text != nullptr; file = result->next("file")) {
             text += std::string(" file=") + file.text;
         }
     }

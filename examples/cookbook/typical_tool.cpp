@@ -25,7 +25,7 @@ int run(tarv::IParser& parser, tarv::IParseResult& result) {
     }
     const bool verbose = tarv::getLastValue(&result, "verbose").value.get<bool>();
     const int level = tarv::getLastValue(&result, "level").value.get<int>();
-    for (tarv::Value file = result.get("file"); file.status == tarv::valueFound; file = result.next("file")) {
+    for (tarv::Value file = result.get("file"); file.text != nullptr; file = result.next("file")) {
         std::printf("pack %s at level %d%s\n", file.text, level, verbose ? ", and say so" : "");
     }
     std::printf("write %s\n", tarv::getLastValue(&result, "output").text);

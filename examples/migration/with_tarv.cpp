@@ -16,7 +16,7 @@ void declare(tarv::IParser& parser) {
 }
 
 void print(tarv::IParseResult& result, const char* name) {
-    for (tarv::Value value = result.get(name); value.status == tarv::valueFound; value = result.next(name)) {
+    for (tarv::Value value = result.get(name); value.text != nullptr; value = result.next(name)) {
         std::printf("%s %s\n", name, value.text);
     }
 }

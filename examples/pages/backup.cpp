@@ -26,7 +26,7 @@ void run(tarv::IParseResult& result) {
     std::printf("%s to '%s' at level %d\n", dryRun ? "would write" : "writing", target, level);
 
     tarv::Value folder = result.get("folder");
-    while (folder.status == tarv::valueFound) {
+    while (folder.text != nullptr) {
         std::printf("  %s\n", folder.text);
         folder = result.next("folder");
     }

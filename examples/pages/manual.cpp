@@ -19,8 +19,7 @@ int main(int argc, char** argv) {
         std::fprintf(stderr, "%s\n", parser->getErrorDesc());
     } else {
         std::printf("level %s\n", tarv::getLastValue(result, "level").text);
-        for (tarv::Value file = result->get("file"); file.status == tarv::valueFound;
-             file = result->next("file")) {
+        for (tarv::Value file = result->get("file"); file.text != nullptr; file = result->next("file")) {
             std::printf("file %s\n", file.text);
         }
     }

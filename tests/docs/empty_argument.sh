@@ -1,0 +1,54 @@
+#!/bin/bash
+# Every example program survives an argument that is empty, which has neither a text nor a value.
+#
+#     empty_argument.sh FOLDER
+#
+# Each line below is a program of FOLDER, its exit code and what it prints, "|" for a line end. A program
+# that is built there and stands in no line is an error.
+set -u
+
+expected='
+readme 2 Unknown option: |
+seek 2 seek: No action defined.|Try '"'seek --help'"'.|
+pages/backup 0 writing to '"'backup'"' at level 6|
+pages/manual 0 level 2|
+pages/photo 0 image: []|
+pages/tryout 2 tryout: Unknown option: |
+migration/with_tarv 0 level 2, quiet, output a.out|
+cookbook/between 0
+cookbook/count 2 count: Unknown option: |
+cookbook/environment 2 environment: Unknown option: |
+cookbook/exact_names 2 exact_names: Unknown option: |
+cookbook/exclusive 2 exclusive: Unknown option: |
+cookbook/help_topics 2 help_topics: Unknown option: |
+cookbook/hidden 2 hidden: Unknown option: |
+cookbook/lists 2 lists: Unknown option: |
+cookbook/many_results 2 many_results: Unknown option: |
+cookbook/negative 0
+cookbook/option_files 0
+cookbook/own_wording 2 own_wording: what is ?|
+cookbook/required 2 required: Unknown option: |
+cookbook/streams_for_tests 0 pass level=2|pass level=3 file=a.txt file=b.txt|pass level=5|pass level=2 file=name with blanks.txt|pass Value validation problem in argument '"'--level=high': Option 'level' can not parse 'high' value, requires a type 'integer'"' here.|
+cookbook/typical_tool 0 write out.pack|
+cookbook/verbs 2 verbs: Unknown option: |
+cookbook/veto 2 veto: Unknown option: |
+cookbook/wrapper 2 wrapper: Unknown option: |
+'
+
+cd "$1" || exit 1
+failures=0
+programs=0
+for path in readme seek pages/* migration/with_tarv cookbook/*; do
+    [[ -f $path && -x $path ]] || continue
+    programs=$((programs + 1))
+    printed=$(LC_ALL=C ./"$path" "" </dev/null 2>&1 | tr '\n' '|'; exit "${PIPESTATUS[0]}")
+    status=$?
+    line="$path $status${printed:+ $printed}"
+    if [[ $expected != *$'\n'"$line"$'\n'* ]]; then
+        printf 'FAIL: %s\n' "$line"
+        failures=$((failures + 1))
+    fi
+done
+
+echo "$programs programs, $failures failures"
+[[ $failures == 0 && $programs -ge 25 ]]
