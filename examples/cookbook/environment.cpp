@@ -8,10 +8,16 @@ namespace tarv = tarv_3_3;
 
 namespace {
 
+/// The text of a variable, or null; an empty one counts as not set.
+const char* fromEnvironment(const char* variable) {
+    const char* text = std::getenv(variable);
+    return text != nullptr && *text != '\0' ? text : nullptr;
+}
+
 /// Parses `--jobs=$BUILD_JOBS` as a command line of its own: checked like any other, and older
 /// than what the user types, so that the last value is the user's.
 int parseEnvironment(tarv::IParser& parser, tarv::IParseResult& result) {
-    const char* jobs = std::getenv("BUILD_JOBS");
+    const char* jobs = fromEnvironment("BUILD_JOBS");
     if (jobs == nullptr) {
         return tarv::parseOk;
     }
@@ -27,7 +33,7 @@ int main(int argc, char** argv) {
     if (tarv::createParser(&parser, tarv::flagRejectUnknown) != tarv::parseOk) {
         return 1;
     }
-    const char* home = std::getenv("BUILD_HOME");
+    const char* home = fromEnvironment("BUILD_HOME");
     parser->option("home", "Where results go; else BUILD_HOME.", tarv::vtString)
         .tokenize(0)
         .defaultValue(home != nullptr ? home : "build");
