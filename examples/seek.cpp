@@ -104,8 +104,13 @@ void declare(tarv::IParser& parser) {
 }
 
 /// Refuses values that have the right kind and still make no sense, and keeps the reason.
-class ValueCheck final : public tarv::EventHandler {
+class ValueCheck final : private tarv::EventHandler {
 public:
+    void addTo(tarv::IParser& parser) { parser.addHandler(this); }
+
+    const std::string& reason() const { return m_reason; }
+
+private:
     bool onOptionParse(const char* name) override {
         m_isHelp = m_isHelp || std::strcmp(name, "help") == 0;
         return true;
@@ -119,9 +124,6 @@ public:
         return (kind != tarv::vtUInt32 && kind != tarv::vtUInt64) || checkCount(name, value.text);
     }
 
-    const std::string& reason() const { return m_reason; }
-
-private:
     bool checkFile(const char* path) {
         std::error_code error;
         if (!std::filesystem::exists(path, error)) {
@@ -252,7 +254,7 @@ int seekMain(int argc, char** argv) {
     ValueCheck check;
     const Parser parser = createParser();
     declare(*parser);
-    parser->addHandler(&check);
+    check.addTo(*parser);
     const Result result = createResult(*parser);
     switch (parser->parseArgsVector(argc, argv, result.get())) {
     case tarv::parseOk:

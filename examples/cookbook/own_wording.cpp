@@ -8,8 +8,14 @@ namespace tarv = tarv_3_3;
 namespace {
 
 /// Keeps what was wrong, in the words of this program.
-class Complaints : public tarv::EventHandler {
+class Complaints final : private tarv::EventHandler {
 public:
+    void addTo(tarv::IParser& parser) { parser.addHandler(this); }
+    void removeFrom(tarv::IParser& parser) { parser.removeHandler(this); }
+
+    const std::string& text() const { return m_text; }
+
+private:
     bool onValueParse(const char* name, const tarv::Value& value) override {
         if (std::string(name) == "copies" && value.value.get<int>() < 1) {
             m_text = std::string("cannot print ") + value.text + " copies; ask for one or more";
@@ -24,9 +30,6 @@ public:
         return false;
     }
 
-    const std::string& text() const { return m_text; }
-
-private:
     std::string m_text;
 };
 
@@ -39,7 +42,7 @@ int main(int argc, char** argv) {
     }
     parser->option("copies,c", "How many copies to print.", tarv::vtInt32).defaultValue(1);
     Complaints complaints;
-    parser->addHandler(&complaints);
+    complaints.addTo(*parser);
     tarv::IParseResult* result = nullptr;
     parser->createResult(&result);
 
@@ -54,7 +57,7 @@ int main(int argc, char** argv) {
         exitCode = 0;
     }
     result->destroy();
-    parser->removeHandler(&complaints);
+    complaints.removeFrom(*parser);
     parser->destroy();
     return exitCode;
 }

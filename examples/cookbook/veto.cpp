@@ -8,8 +8,12 @@ namespace tarv = tarv_3_3;
 namespace {
 
 /// Accepts only ports that a program may open without privileges.
-class PortRange : public tarv::EventHandler {
+class PortRange final : private tarv::EventHandler {
 public:
+    void addTo(tarv::IParser& parser) { parser.addHandler(this); }
+    void removeFrom(tarv::IParser& parser) { parser.removeHandler(this); }
+
+private:
     bool onValueParse(const char* name, const tarv::Value& value) override {
         if (std::string(name) != "port") {
             return true;
@@ -28,7 +32,7 @@ int main(int argc, char** argv) {
     }
     parser->option("port,p", "The port to listen on, from 1024.", tarv::vtUInt32).tokenize(0);
     PortRange portRange;
-    parser->addHandler(&portRange);
+    portRange.addTo(*parser);
     tarv::IParseResult* result = nullptr;
     parser->createResult(&result);
 
@@ -40,7 +44,7 @@ int main(int argc, char** argv) {
         std::fprintf(stderr, "veto: %s\n", parser->getErrorDesc());
     }
     result->destroy();
-    parser->removeHandler(&portRange);
+    portRange.removeFrom(*parser);
     parser->destroy();
     return status;
 }
