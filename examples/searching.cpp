@@ -4,14 +4,17 @@
 #include <cerrno>
 #include <chrono>
 #include <cstdio>
-#include <cstdlib>
 #include <filesystem>
-#include <memory>
+#include <new>
 #include <string_view>
 #include <system_error>
 
 #include <fnmatch.h>
 #include <unistd.h>
+
+#include "OpenFile.h"
+#include "escaping.h"
+#include "replacing.h"
 
 namespace fs = std::filesystem;
 
@@ -51,55 +54,6 @@ private:
     Clock::time_point m_next;
 };
 
-using File = std::unique_ptr<std::FILE, int (*)(std::FILE*)>;
-
-bool readAll(std::FILE* file, std::string& contents) {
-    char block[65536];
-    while (const std::size_t size = std::fread(block, 1, sizeof block, file)) {
-        contents.append(block, size);
-    }
-    return std::ferror(file) == 0;
-}
-
-bool writeAll(const std::string& path, const std::string& contents) {
-    File file(std::fopen(path.c_str(), "wb"), std::fclose);
-    return file != nullptr &&
-           std::fwrite(contents.data(), 1, contents.size(), file.get()) == contents.size() &&
-           std::fclose(file.release()) == 0;
-}
-
-std::error_code lastError() {
-    return {errno, std::generic_category()};
-}
-
-// The file is replaced in one step: whoever reads it meanwhile sees the old or the new text.
-std::error_code writeInPlace(const std::string& path, const std::string& contents) {
-    std::error_code error;
-    const fs::path target = fs::canonical(path, error);
-    if (error) {
-        return error;
-    }
-    std::string temporary = target.string() + ".XXXXXX";
-    const int descriptor = mkstemp(temporary.data());
-    if (descriptor < 0) {
-        return lastError();
-    }
-    close(descriptor);
-    if (!writeAll(temporary, contents)) {
-        error = lastError();
-    }
-    if (!error) {
-        fs::permissions(temporary, fs::status(target).permissions(), error);
-    }
-    if (!error) {
-        fs::rename(temporary, target, error);
-    }
-    if (error) {
-        std::remove(temporary.c_str());
-    }
-    return error;
-}
-
 std::vector<std::string_view> splitLines(std::string_view text) {
     std::vector<std::string_view> lines;
     while (!text.empty()) {
@@ -115,7 +69,7 @@ public:
 
     ExitCode run() {
         if (m_job.paths.empty()) {
-            searchFile("(standard input)", stdin);
+            searchStandardInput();
         }
         for (const std::string& path : m_job.paths) {
             visit(path, 0);
@@ -125,13 +79,33 @@ public:
             complain(std::to_string(m_filesRead) + " files read, " + std::to_string(m_bytesRead) + " bytes");
         }
         if (std::fflush(stdout) != 0) {
-            report("standard output", lastError().message());
+            report("standard output", std::generic_category().message(errno));
         }
         return m_hasFailed ? failed : m_hasFound ? found : nothingFound;
     }
 
 private:
+    void searchStandardInput() {
+        const std::string name = "(standard input)";
+        try {
+            searchText(name, readAll(STDIN_FILENO, 0));
+        } catch (const FileError& error) {
+            report(name, error.what());
+        }
+    }
+
+    // Whatever goes wrong with one file, the others are visited.
     void visit(const fs::path& path, std::uint32_t depth) {
+        try {
+            visitUnguarded(path, depth);
+        } catch (const FileError& error) {
+            report(path, error.what());
+        } catch (const std::bad_alloc&) {
+            report(path, "Not enough memory");
+        }
+    }
+
+    void visitUnguarded(const fs::path& path, std::uint32_t depth) {
         std::error_code error;
         const bool isGiven = depth == 0;
         const fs::file_status status = isGiven ? fs::status(path, error) : fs::symlink_status(path, error);
@@ -143,10 +117,8 @@ private:
             visitDirectory(path, depth);
         } else if (!isGiven && !fs::is_regular_file(status)) {
             skip(path, "not a regular file");
-        } else if (fs::is_regular_file(status) && fs::file_size(path, error) > m_job.maxSize) {
-            skip(path, "too large");
         } else {
-            visitFile(path);
+            visitFile(path, isGiven);
         }
     }
 
@@ -169,31 +141,48 @@ private:
         }
     }
 
-    void visitFile(const std::string& path) {
+    // A link that was given stands for its target. Only a given file may be a FIFO or a device, and only
+    // to be read.
+    void visitFile(const fs::path& path, bool isGiven) {
         m_progress.show(m_filesRead);
-        const File file(std::fopen(path.c_str(), "rb"), std::fclose);
-        if (file == nullptr) {
-            report(path, lastError().message());
+        std::error_code error;
+        const fs::path target = isGiven && m_job.inPlace ? fs::canonical(path, error) : path;
+        if (error) {
+            report(path, error.message());
+            return;
+        }
+        const bool mustBeRegular = !isGiven || m_job.inPlace;
+        const OpenFile file(target, mustBeRegular ? OpenFile::Kind::regular : OpenFile::Kind::any);
+        if (file.isRegular() && static_cast<std::uint64_t>(file.state().st_size) > m_job.maxSize) {
+            skip(path, "too large");
+        } else if (m_job.inPlace) {
+            replaceInPlace(path, target, file);
         } else {
-            searchFile(path, file.get());
+            searchText(path, file.read());
         }
     }
 
-    void searchFile(const std::string& path, std::FILE* file) {
-        std::string contents;
-        if (!readAll(file, contents)) {
-            report(path, lastError().message());
+    void searchText(const std::string& path, const std::string& contents) {
+        if (!acceptText(path, contents)) {
             return;
         }
-        ++m_filesRead;
-        m_bytesRead += contents.size();
-        if (contents.find('\0') != std::string::npos) {
-            skip(path, "not a text");
-        } else if (m_job.action == Action::replace) {
-            replaceMatches(path, contents);
+        if (m_job.action == Action::replace) {
+            std::string replaced;
+            countReplaced(replaced, contents);
+            std::fwrite(replaced.data(), 1, replaced.size(), stdout);
         } else {
             findMatches(path, splitLines(contents));
         }
+    }
+
+    bool acceptText(const std::string& path, const std::string& contents) {
+        ++m_filesRead;
+        m_bytesRead += contents.size();
+        const bool isText = contents.find('\0') == std::string::npos;
+        if (!isText) {
+            skip(path, "not a text");
+        }
+        return isText;
     }
 
     void findMatches(const std::string& path, const std::vector<std::string_view>& lines) {
@@ -209,14 +198,14 @@ private:
         m_hasFound = true;
         m_progress.clear();
         if (m_job.action == Action::count) {
-            std::printf("%s:%zu\n", path.c_str(), matches.size());
+            std::printf("%s:%zu\n", shown(path).c_str(), matches.size());
         } else {
-            printMatches(path, lines, matches);
+            printMatches(shown(path), lines, matches);
         }
     }
 
     // Contexts that touch or overlap make one group; two dashes stand between groups.
-    void printMatches(const std::string& path, const std::vector<std::string_view>& lines,
+    void printMatches(const std::string& name, const std::vector<std::string_view>& lines,
                       const std::vector<std::size_t>& matches) {
         const std::size_t context = m_job.contextLines;
         std::size_t next = 0;
@@ -229,13 +218,13 @@ private:
             }
             m_hasPrinted = true;
             for (next = first; next < end && next <= match + context; ++next) {
-                printLine(path, next + 1, next == match ? ':' : '-', lines[next]);
+                printLine(name, next + 1, next == match ? ':' : '-', lines[next]);
             }
         }
     }
 
-    void printLine(const std::string& path, std::size_t number, char mark, std::string_view line) const {
-        std::string text = path + mark + std::to_string(number) + mark;
+    void printLine(const std::string& name, std::size_t number, char mark, std::string_view line) const {
+        std::string text = name + mark + std::to_string(number) + mark;
         if (m_job.color && mark == ':') {
             appendReplaced(text, line, "\033[1;31m" + m_job.pattern + "\033[m");
         } else {
@@ -244,21 +233,26 @@ private:
         std::puts(text.c_str());
     }
 
-    void replaceMatches(const std::string& path, const std::string& contents) {
+    void replaceInPlace(const fs::path& path, const fs::path& target, const OpenFile& file) {
+        const std::string contents = file.read();
+        if (!acceptText(path, contents)) {
+            return;
+        }
         std::string replaced;
+        const std::size_t count = countReplaced(replaced, contents);
+        if (count != 0) {
+            replaceFile(target, file, replaced);
+        }
+        if (m_job.verbose) {
+            complain(path.string() + ": " + std::to_string(count) + " replaced");
+        }
+    }
+
+    std::size_t countReplaced(std::string& replaced, const std::string& contents) {
         const std::size_t count = appendReplaced(replaced, contents, m_job.replacement);
         m_hasFound = m_hasFound || count != 0;
         m_progress.clear();
-        if (!m_job.inPlace) {
-            std::fwrite(replaced.data(), 1, replaced.size(), stdout);
-            return;
-        }
-        const std::error_code error = count != 0 ? writeInPlace(path, replaced) : std::error_code();
-        if (error) {
-            report(path, error.message());
-        } else if (m_job.verbose) {
-            complain(path + ": " + std::to_string(count) + " replaced");
-        }
+        return count;
     }
 
     std::size_t appendReplaced(std::string& output, std::string_view text,
@@ -271,6 +265,8 @@ private:
         output.append(text);
         return count;
     }
+
+    std::string shown(const std::string& path) const { return m_isTerminal ? escapeControls(path) : path; }
 
     bool isExcluded(const fs::path& path) const {
         const std::string name = path.filename();
@@ -293,6 +289,7 @@ private:
     }
 
     const Job& m_job;
+    const bool m_isTerminal = isatty(STDOUT_FILENO) != 0;
     Progress m_progress;
     std::uint64_t m_filesRead = 0;
     std::uint64_t m_bytesRead = 0;
@@ -309,7 +306,8 @@ ExitCode run(const Job& job) {
 
 void complain(const std::string& message) {
     std::fflush(stdout);
-    std::fprintf(stderr, "seek: %s\n", message.c_str());
+    const bool isTerminal = isatty(STDERR_FILENO) != 0;
+    std::fprintf(stderr, "seek: %s\n", (isTerminal ? escapeControls(message) : message).c_str());
 }
 
 } // namespace seek

@@ -39,7 +39,8 @@ struct Job {
 /// Does the job: results on standard output, complaints and progress on standard error.
 ExitCode run(const Job& job);
 
-/// Prints a message on standard error behind the name of the program.
+/// Prints a message on standard error behind the name of the program. On a terminal its control characters
+/// are escaped: the names in it are not of seek's choosing.
 void complain(const std::string& message);
 
 } // namespace seek

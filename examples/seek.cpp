@@ -1,5 +1,5 @@
 // seek searches text files: the command line of a real tool. What it does with files is in
-// searching.cpp.
+// searching.cpp, and how it replaces one without losing it in replacing.cpp.
 
 #include <tarv_3_3/tarv.h>
 
