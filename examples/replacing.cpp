@@ -118,15 +118,13 @@ bool copyAccessList(int from, int to) {
     return fremovexattr(to, name) == 0 || errno == ENODATA || errno == ENOTSUP;
 }
 
-// The owner first, since a change of it clears bits of the mode. Bits that the user may not give are dropped
-// without an error, so the outcome counts.
+// The owner first, since a change of it clears bits of the mode. A setgid bit that the user may not give is
+// dropped without an error, so the outcome counts.
 void copyOwnerAndMode(const OpenFile& read, int to) {
     const struct stat& wanted = read.state();
     struct stat actual = {};
-    const bool isDone = fchown(to, wanted.st_uid, wanted.st_gid) == 0 &&
-                        copyAccessList(read.descriptor(), to) && fchmod(to, wanted.st_mode & 07777U) == 0 &&
-                        fstat(to, &actual) == 0;
-    if (!isDone || actual.st_uid != wanted.st_uid || actual.st_gid != wanted.st_gid ||
+    if (fchown(to, wanted.st_uid, wanted.st_gid) != 0 || !copyAccessList(read.descriptor(), to) ||
+        fchmod(to, wanted.st_mode & 07777U) != 0 || fstat(to, &actual) != 0 ||
         actual.st_mode != wanted.st_mode) {
         throw FileError("Its owner, group and mode cannot be kept");
     }

@@ -19,6 +19,7 @@
 #include <filesystem>
 #include <fstream>
 #include <functional>
+#include <iostream>
 #include <iterator>
 #include <string>
 #include <vector>
@@ -111,6 +112,13 @@ protected:
         }
     }
 
+    /// Writes another text of the same length, this much later than the first one.
+    void writeLater(std::chrono::nanoseconds delay) const {
+        const fs::file_time_type time = fs::last_write_time(path);
+        directory.write("text", "OLD TEXT\n");
+        fs::last_write_time(path, time + delay);
+    }
+
     std::vector<std::string> names() const {
         std::vector<std::string> found;
         for (const fs::directory_entry& entry : fs::directory_iterator(directory.pathOf(""))) {
@@ -198,7 +206,7 @@ TEST_F(ReplaceFile, LeavesAFileDeletedThatGoesInTheLastMoment) {
 
 TEST_F(ReplaceFile, LeavesWhatSomebodyElseHasMadeOfTheFile) {
     const struct {
-        const char* what;
+        std::string what;
         std::function<void()> change;
         std::string contents;
     } rows[] = {
@@ -211,12 +219,31 @@ TEST_F(ReplaceFile, LeavesWhatSomebodyElseHasMadeOfTheFile) {
          "old text\n"},
         {"other mode", [this] { chmod(path.c_str(), 0600); }, "old text\n"},
         {"another link", [this] { fs::create_hard_link(path, directory.pathOf("twin")); }, "old text\n"},
-        {"other time",
-         [this] { fs::last_write_time(path, fs::file_time_type::clock::now() + std::chrono::hours(1)); },
+        {"a link to it",
+         [this] {
+             fs::rename(path, directory.pathOf("moved"));
+             fs::create_symlink("moved", path);
+         },
          "old text\n"},
+        {"other length, same time",
+         [this] {
+             const fs::file_time_type time = fs::last_write_time(path);
+             directory.write("text", "their longer text\n");
+             fs::last_write_time(path, time);
+         },
+         "their longer text\n"},
+        {"an hour later", [this] { writeLater(std::chrono::hours(1)); }, "OLD TEXT\n"},
+        {"a nanosecond later", [this] { writeLater(std::chrono::nanoseconds(1)); }, "OLD TEXT\n"},
+        {"other owner", [this] { EXPECT_EQ(chown(path.c_str(), 65534, getegid()), 0); }, "old text\n"},
+        {"other group", [this] { EXPECT_EQ(chown(path.c_str(), geteuid(), 65533), 0); }, "old text\n"},
     };
     for (const auto& row : rows) {
         SCOPED_TRACE(row.what);
+        if (geteuid() != 0 && (row.what == "other owner" || row.what == "other group")) {
+            std::cout << row.what << " is left out: it needs root\n";
+            continue;
+        }
+        fs::remove(directory.pathOf("moved"));
         fs::remove(directory.pathOf("twin"));
         fs::remove(path);
         directory.write("text", "old text\n");
@@ -308,6 +335,25 @@ TEST_F(ReplaceFile, RefusesAFileOfAnotherUserAndOneOfAnotherGroup) {
     }
 }
 
+TEST_F(ReplaceFile, RefusesASetgidFileOfAGroupThatTheUserIsNotIn) {
+    if (geteuid() != 0) {
+        GTEST_SKIP() << "needs root, to make a file of another group";
+    }
+    // New files in a setgid folder have its group, whoever makes them.
+    const std::string folder = directory.pathOf("");
+    ASSERT_EQ(chown(folder.c_str(), 0, 65533), 0);
+    ASSERT_EQ(chmod(folder.c_str(), 02777), 0);
+    ASSERT_EQ(chown(path.c_str(), 65534, 65533), 0);
+    ASSERT_EQ(chmod(path.c_str(), 02755), 0);
+    {
+        const OrdinaryUser user;
+        EXPECT_EQ(replace(path), "Its owner, group and mode cannot be kept");
+    }
+    EXPECT_EQ(stateOf(path).st_mode, S_IFREG | 02755U);
+    EXPECT_EQ(contentsOf(path), "old text\n");
+    EXPECT_EQ(names(), Names{"text"});
+}
+
 const char* const accessList = "system.posix_acl_access";
 
 /// Gives a file a list by which user 65534 may read and write it, and the file's own group not.
@@ -360,6 +406,8 @@ TEST_F(ReplaceFile, TakesNoAccessListFromTheFolder) {
 int statusOfReplacing(const std::string& path) {
     const pid_t child = fork();
     if (child == 0) {
+        const struct rlimit noCore = {0, 0};
+        setrlimit(RLIMIT_CORE, &noCore);
         const OpenFile read(path, OpenFile::Kind::regular);
         replaceFile(path, read, "new text\n");
         _exit(7);
@@ -379,6 +427,18 @@ TEST_F(ReplaceFile, LeavesTheOldTextOnASignalBeforeTheNewOneIsWritten) {
         EXPECT_EQ(names(), Names{"text"});
         EXPECT_EQ(contentsOf(path), "old text\n");
     }
+}
+
+TEST_F(ReplaceFile, LeavesTheOldTextWhereALimitOfFileSizesEndsTheProgram) {
+    calls.onRandom = [] {
+        const struct rlimit small = {4, 4};
+        setrlimit(RLIMIT_FSIZE, &small);
+    };
+    const int status = statusOfReplacing(path);
+    EXPECT_TRUE(WIFSIGNALED(status));
+    EXPECT_EQ(WTERMSIG(status), SIGXFSZ);
+    EXPECT_EQ(names(), Names{"text"});
+    EXPECT_EQ(contentsOf(path), "old text\n");
 }
 
 TEST_F(ReplaceFile, TakesTheLastStepsBeforeItEndsOnALaterSignal) {
