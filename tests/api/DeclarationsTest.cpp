@@ -114,4 +114,17 @@ TEST(CreateParser, StartsWithAnEmptyErrorWhateverTheFlags) {
     }
 }
 
+// The names of the last declaration may be looked up at any time, and it may get more of them behind that.
+TEST(Declarations, RefuseEverySynonymOfTheLastOneWheneverItWasGiven) {
+    CommandLine commandLine;
+    tarv::IParser& parser = *commandLine.parser;
+    tarv::IOption& option = parser.option("", "", tarv::vtString);
+    option.synonym("a");
+    EXPECT_STREQ(parser.getDescription("a"), "\n");
+    option.synonym("b");
+    EXPECT_EQ(parser.option("b", "", tarv::vtString).m_status, tarv::declarationRefused);
+    EXPECT_EQ(parser.option("a", "", tarv::vtString).m_status, tarv::declarationRefused);
+    EXPECT_EQ(parser.option("c", "", tarv::vtString).m_status, tarv::declarationStored);
+}
+
 } // namespace

@@ -150,4 +150,18 @@ TEST(Messages, AreNotWrittenForNullAmongTheArguments) {
     EXPECT_EQ(line.error(), "Unknown option: a");
 }
 
+TEST(Messages, QuoteAPositionalArgumentAsItWasGivenWhereItsValueWasCompleted) {
+    CommandLine commandLine;
+    EventLog handler("smooth");
+    commandLine.parser->addHandler(&handler);
+    commandLine.parser->option("shape", "", tarv::vtString)
+        .allowValue("smooth")
+        .allowValue("round")
+        .tokenize(0)
+        .positional();
+    EXPECT_EQ(commandLine.parse({"r", "sm"}), 1);
+    EXPECT_EQ(handler.events, "option shape; value shape=round; option shape; value shape=smooth");
+    EXPECT_EQ(commandLine.error(), "Value 'smooth' is not valid for option 'shape' in argument 'sm'");
+}
+
 } // namespace

@@ -95,5 +95,17 @@ TEST(PositionalLog, OfAVetoHasNoColonBehindTheName) {
         "signaled the value is not valid.\n");
 }
 
+TEST(PositionalLog, ShowsAnArgumentAsItWasGivenWhenItIsRemoved) {
+    Recognition<PositionalOptionsParser> positional;
+    positional.declare("shape", vtString).allowValue("round").tokenize(0).positional();
+    EXPECT_EQ(traceOf(positional, {"r"}), "PositionalOptionsParser: recognizing argument 'r'\n"
+                                          "PositionalOptionsParser: parsing argument 'r'\n"
+                                          "PositionalOptionsParser: option is 'shape'\n"
+                                          "PositionalOptionsParser: adding values to result container:\n"
+                                          "PositionalOptionsParser: not using tokenizer\n"
+                                          "PositionalOptionsParser: stored option to result container.\n"
+                                          "PositionalOptionsParser: removing argument: 'r'\n");
+}
+
 } // namespace
 } // namespace tarv_3_3
