@@ -28,6 +28,9 @@ public:
 
     std::string rest() { return until('\0'); }
 
+    /// The next byte, which stays; not at the end.
+    char front() const { return m_rest.front(); }
+
     bool empty() const { return m_rest.empty(); }
 
     /// What is left as arguments, one a line, each up to its first zero byte.

@@ -112,18 +112,18 @@ bool isDoubleWrittenAs(const char* text, const variant_t& value) {
 
 namespace {
 
-/// Takes the trace, which a command line may switch on, and drops it.
+/// Takes what is written and drops it.
 struct Silence : std::streambuf {
     int overflow(int character) override { return character; }
 };
+
+} // namespace
 
 void silenceTrace() {
     // Standard output is flushed behind the end of every static object.
     static auto* const silence = new Silence;
     std::cout.rdbuf(silence);
 }
-
-} // namespace
 
 Parse::Parse(int flags) {
     silenceTrace();

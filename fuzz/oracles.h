@@ -8,6 +8,9 @@
 /// Ends the process, in a way that a fuzzer notices, when `holds` is false.
 void require(bool holds, const char* what, const std::string& shown = std::string());
 
+/// Drops what goes to standard output from now on: the trace, which a command line may switch on.
+void silenceTrace();
+
 /// One parser with its result, destroyed at the end.
 struct Parse {
     explicit Parse(int flags);

@@ -1,7 +1,5 @@
-#include <sys/mman.h>
-#include <unistd.h>
-
 #include "Input.h"
+#include "MemoryFile.h"
 #include "tool.h"
 
 using namespace tarv_3_3;
@@ -32,23 +30,6 @@ std::vector<std::string> linesOf(const std::string& text) {
     }
     return lines;
 }
-
-/// A file in memory with a name to open it by.
-class MemoryFile {
-public:
-    explicit MemoryFile(const std::string& contents) : m_file(memfd_create("options", MFD_CLOEXEC)) {
-        require(write(m_file, contents.data(), contents.size()) == static_cast<ssize_t>(contents.size()),
-                "memfd");
-    }
-    MemoryFile(const MemoryFile&) = delete;
-    MemoryFile& operator=(const MemoryFile&) = delete;
-    ~MemoryFile() { close(m_file); }
-
-    std::string path() const { return "/proc/self/fd/" + std::to_string(m_file); }
-
-private:
-    int m_file;
-};
 
 } // namespace
 
