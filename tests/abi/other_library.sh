@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
 # Builds a host against the installed library, then runs the same file with another build of the
-# library: by another compiler, with larger hidden objects and one more function.
+# library: by another compiler, with larger hidden objects and one more function. So does a host of an
+# earlier time.
 #   other_library.sh PREFIX COMPILER OTHER-COMPILER WORK
 set -euo pipefail
 prefix=$1
@@ -34,6 +35,10 @@ END
     "$work"/src/*/*.cpp "$work/src/added.cpp" \
     -Wl,-soname,libtarv.so.3.3 -Wl,--version-script="$root/cmake/tarv.map" -o "$work/lib/libtarv.so.3.3"
 nm --dynamic --defined-only "$work/lib/libtarv.so.3.3" | grep ' _ZN8tarv_3_310addedLaterEv' >/dev/null
+
+if [[ $(uname -m) == x86_64 ]]; then
+    "$root/tests/abi/oldHost/run.sh" "$root/tests/abi/oldHost/host-x86_64" "$work/lib/libtarv.so.3.3"
+fi
 
 expected='Hello, Ann!
 Hello, Ann!
