@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <string>
+#include <string_view>
 
 namespace seek {
 namespace {
@@ -31,6 +32,10 @@ TEST(EscapeControls, ReplacesControlCharactersAndNothingElse) {
         SCOPED_TRACE(row.expected);
         EXPECT_EQ(escapeControls(row.text), row.expected);
     }
+}
+
+TEST(EscapeControls, LooksAtNothingBehindTheEnd) {
+    EXPECT_EQ(escapeControls(std::string_view("\xc2\x80", 1)), "\xc2");
 }
 
 } // namespace
