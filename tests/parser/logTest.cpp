@@ -200,6 +200,19 @@ TEST(WriteLogLine, GoesOnWhereStandardOutputWorksAgain) {
     EXPECT_EQ(log.text(), "written\n");
 }
 
+TEST(WriteLogLine, LeavesAStreamAloneThatHasFailedAndThrows) {
+    const CapturedLog log;
+    Nullbuf full;
+    std::streambuf* const captured = std::cout.rdbuf(&full);
+    std::cout.exceptions(std::ios::badbit | std::ios::failbit);
+    EXPECT_THROW(writeLogLine("lost"), std::ios::failure);
+    EXPECT_NO_THROW(writeLogLine("lost as well"));
+    std::cout.exceptions(std::ios::goodbit);
+    std::cout.rdbuf(captured);
+    writeLogLine("written");
+    EXPECT_EQ(log.text(), "written\n");
+}
+
 TEST(LogSwitch, HoldsUntilTheNextParse) {
     struct Destroyer {
         void operator()(IParser* parser) const { parser->destroy(); }
