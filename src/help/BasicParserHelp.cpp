@@ -24,17 +24,28 @@ bool isShown(const std::string& topicName, bool hidden) {
     return (topicName == hiddenTopic) == hidden;
 }
 
-using NamedOption = std::pair<std::string_view, const OptionDescription*>;
+/// An option and what it is sorted by. Compared more often than the option is looked at.
+struct Listed {
+    std::string_view topic;
+    std::string_view name;
+    const OptionDescription* option;
+};
 
-// As `OptionDescription::operator<` orders them.
-std::vector<NamedOption> sortedByName(const std::vector<OptionDescription>& options) {
-    std::vector<NamedOption> sorted;
+bool isTopicBefore(const Listed& left, const Listed& right) {
+    return NameOrder()(left.topic, right.topic);
+}
+
+// Under each topic in the order of their names, as `OptionDescription::operator<` has it.
+std::vector<Listed> sortedByTopicAndName(const std::vector<OptionDescription>& options) {
+    std::vector<Listed> sorted;
     sorted.reserve(options.size());
     for (const OptionDescription& option : options) {
-        sorted.emplace_back(option.primaryName(), &option);
+        if (!option.m_positional) {
+            sorted.push_back({option.m_topic.first, option.primaryName(), &option});
+        }
     }
-    std::stable_sort(sorted.begin(), sorted.end(), [](const NamedOption& left, const NamedOption& right) {
-        return NameOrder()(left.first, right.first);
+    std::stable_sort(sorted.begin(), sorted.end(), [](const Listed& left, const Listed& right) {
+        return left.topic == right.topic ? NameOrder()(left.name, right.name) : isTopicBefore(left, right);
     });
     return sorted;
 }
@@ -61,7 +72,7 @@ void appendEntry(std::string& text, const OptionDescription& option) {
 
 std::string renderHelp(const std::vector<Topic>& topics, const std::vector<OptionDescription>& options,
                        bool hidden) {
-    const std::vector<NamedOption> sorted = sortedByName(options);
+    const std::vector<Listed> sorted = sortedByTopicAndName(options);
     std::string text;
     text.reserve(usualEntrySize * options.size());
     for (const Topic& topic : topics) {
@@ -69,10 +80,10 @@ std::string renderHelp(const std::vector<Topic>& topics, const std::vector<Optio
             continue;
         }
         appendHeading(text, topic);
-        for (const auto& [name, option] : sorted) {
-            if (!option->m_positional && option->m_topic.first == topic.first) {
-                appendEntry(text, *option);
-            }
+        const auto [first, last] =
+            std::equal_range(sorted.begin(), sorted.end(), Listed{topic.first, {}, nullptr}, isTopicBefore);
+        for (auto listed = first; listed != last; ++listed) {
+            appendEntry(text, *listed->option);
         }
         text.append("\n");
     }

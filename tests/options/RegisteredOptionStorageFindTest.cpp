@@ -1,9 +1,11 @@
 #include <gtest/gtest.h>
 
+#include <random>
 #include <string>
 
 #include "options/RegisteredOptionStorage.h"
 #include "options/WantedNames.h"
+#include "options/findOption.h"
 #include "tarv_3_3/internal/Garbage.h"
 
 namespace tarv_3_3 {
@@ -125,6 +127,42 @@ TEST_F(RegisteredOptionsFind, FindsNoNameOfARefusedDeclarationUntilItIsDeclared)
     EXPECT_EQ(declare("free", vtBool).m_status, 0);
     EXPECT_EQ(place("free"), 1);
     EXPECT_EQ(place("no-free"), 1);
+}
+
+// Names of three letters and their negations, so that every second one is repeated.
+TEST_F(RegisteredOptionsFind, FindsWhatAWalkOverTheTableFinds) {
+    std::mt19937 random(1);
+    const auto anyName = [&] {
+        std::string name = random() % 3 == 0 ? "no-" : "";
+        for (auto letters = random() % 3; letters != 0; --letters) {
+            name += static_cast<char>('a' + random() % 3);
+        }
+        return name;
+    };
+    for (int table = 0; table < 200; ++table) {
+        RegisteredOptionStorage some;
+        some.m_garbage = &garbage;
+        for (int i = 0; i < 12; ++i) {
+            const std::string name = anyName();
+            unsigned long index = 77;
+            const bool isTaken = findOption(name, index, some.m_options) == 0;
+            IOption& declared =
+                some.option(name.c_str(), nullptr, "", false, random() % 2 == 0 ? vtBool : vtInt32, "");
+            // A text without a name is never taken.
+            ASSERT_EQ(declared.m_status, isTaken && !name.empty() ? 1 : 0) << name;
+            for (auto synonyms = random() % 3; synonyms != 0; --synonyms) {
+                declared.synonym(anyName().c_str());
+            }
+            for (int look = 0; look < 20; ++look) {
+                const std::string wanted = anyName();
+                unsigned long found = 77;
+                unsigned long expected = 77;
+                const int status = some.find(wanted, found);
+                ASSERT_EQ(status, findOption(wanted, expected, some.m_options)) << wanted;
+                ASSERT_EQ(found, expected) << wanted;
+            }
+        }
+    }
 }
 
 TEST_F(RegisteredOptionsFind, RefusesTheNegationOfASwitchWithAnEmptyName) {

@@ -118,6 +118,44 @@ TEST_F(ParseResultQueries, StartBelowTheUpperBoundAndGoOnUpToIt) {
     }
 }
 
+// Positions ascend, but where a handler parses into the same result, and where the counter wraps around: then
+// what was stored first is found first.
+TEST_F(ParseResultQueries, FindTheFirstInRangeWhetherPositionsAscendOrNot) {
+    const std::vector<std::vector<int>> lists = {
+        {10},
+        {10, 20, 30, 40, 50},
+        {10, 30, 20, 50, 40},
+        {50, 40, 30, 20, 10},
+        {30, 10, 20, 20, 40},
+        {40, 50, 60, -50, -40, -30},
+    };
+    for (const std::vector<int>& positions : lists) {
+        const std::string name = testing::PrintToString(positions);
+        for (const int position : positions) {
+            result.store(optionNamed({name + " switch"}), occurrences({position}));
+            result.store(optionNamed({name}), occurrences({position}, {{"text", position + 1}}));
+        }
+        for (int lo = -61; lo <= 61; lo += 3) {
+            for (int hi = lo; hi <= 63; hi += 2) {
+                SCOPED_TRACE(name + " from " + std::to_string(lo) + " to " + std::to_string(hi));
+                std::size_t first = 0;
+                while (first < positions.size() && (positions[first] < lo || positions[first] >= hi)) {
+                    ++first;
+                }
+                const bool isThere = first < positions.size();
+                ASSERT_EQ(result.present((name + " switch").c_str(), lo, hi), isThere);
+                ASSERT_EQ(result.nextPosition(), isThere ? positions[first] : end);
+                std::size_t value = 0;
+                while (value < positions.size() && positions[value] + 1 < lo) {
+                    ++value;
+                }
+                const bool hasValue = isThere && value < positions.size() && positions[value] + 1 <= hi;
+                ASSERT_EQ(result.get(name.c_str(), lo, hi).position, hasValue ? positions[value] + 1 : end);
+            }
+        }
+    }
+}
+
 // The occurrence is in the range, its value is not.
 TEST_F(ParseResultQueries, FindNoValueBehindTheUpperBoundOfAnOccurrenceInRange) {
     result.store(optionNamed({"wide"}), occurrences({60}, {{"far", 99}}));
