@@ -11,4 +11,4 @@ shift $(($# > 0))
 tools/apt-install.sh build test
 cmake --preset "$preset" "$@"
 cmake --build --preset "$preset" --parallel "$(nproc)"
-ctest --preset "$preset" --parallel "$(nproc)"
+ctest --preset "$preset" --parallel "$(nproc)" --output-junit "$PWD/build/$preset/tests.xml"

@@ -44,6 +44,19 @@ if [[ $(id -u) -ne 0 ]]; then
     as_root=(sudo)
 fi
 echo "Installing: ${missing[*]}"
-"${as_root[@]}" apt-get update -qq
+
+# Somebody else may be installing: `install` waits for that itself, `update` does not.
+readonly lock_seconds=600
+update() {
+    local output
+    until output=$("${as_root[@]}" env LC_ALL=C apt-get update -qq 2>&1); do
+        if [[ $output != *"Could not get lock"* || $SECONDS -ge $lock_seconds ]]; then
+            echo "$output" >&2
+            return 1
+        fi
+        sleep 5
+    done
+}
+update
 "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive \
-    apt-get install -y -qq --no-install-recommends "${missing[@]}"
+    apt-get -o DPkg::Lock::Timeout=$lock_seconds install -y -qq --no-install-recommends "${missing[@]}"

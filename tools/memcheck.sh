@@ -26,6 +26,12 @@ check() {
     if (cd tests && valgrind --quiet --leak-check=full --show-leak-kinds=definite \
         --errors-for-leak-kinds=definite --error-exitcode=99 --child-silent-after-fork=yes "$@" \
         "$build/tests/${suite}_tests" --gtest_brief=1 --gtest_filter="$filter") >"$report" 2>&1; then
+        # A filter that selects nothing, or leaves nothing, finds nothing.
+        if grep -q ' 0 tests from ' "$report"; then
+            echo "$suite: NO TESTS with the filter $filter"
+            rm "$report"
+            return 1
+        fi
         echo "$suite: $(sed -n 's/^\[=*\] \(.* ran\).*/\1/p' "$report"), no errors"
         rm "$report"
     else
