@@ -135,8 +135,9 @@ public:
     /// the same result reads all of its files again. The names are read with `IParseResult::next` between the
     /// files. A handler that queries the same result meanwhile redirects that: instead of the files that are
     /// left, the values that are left of the option it asked for are read as files. A file that names itself,
-    /// also by way of others, is read again and again until memory is exhausted: hosts that let strangers
-    /// write option files must not use this. Always returns true.
+    /// also by way of others, is read again and again until memory is exhausted; a chain of files of which
+    /// each names the next one twice doubles the work with every file. Hosts that let strangers write option
+    /// files must not use this. Always returns true.
     virtual bool addOptionFileOption(const char* description, const char* topic = "") = 0;
 
     virtual ~IParser();

@@ -24,28 +24,56 @@ bool isShown(const std::string& topicName, bool hidden) {
     return (topicName == hiddenTopic) == hidden;
 }
 
-/// An option and what it is sorted by. Compared more often than the option is looked at.
+using TopicNames = std::vector<std::string_view>;
+
+TopicNames sortedNames(const std::vector<Topic>& topics) {
+    TopicNames names;
+    names.reserve(topics.size());
+    for (const Topic& topic : topics) {
+        names.emplace_back(topic.first);
+    }
+    std::sort(names.begin(), names.end(), NameOrder());
+    return names;
+}
+
+// The place of a topic among the sorted names; their number when it is none of them.
+std::size_t rankOf(std::string_view topic, const TopicNames& names) {
+    const auto found = std::lower_bound(names.begin(), names.end(), topic, NameOrder());
+    return found != names.end() && *found == topic ? static_cast<std::size_t>(found - names.begin())
+                                                   : names.size();
+}
+
+/// An option and what it is sorted by.
 struct Listed {
-    std::string_view topic;
+    std::size_t topicRank;
     std::string_view name;
     const OptionDescription* option;
 };
 
 bool isTopicBefore(const Listed& left, const Listed& right) {
-    return NameOrder()(left.topic, right.topic);
+    return left.topicRank < right.topicRank;
 }
 
 // Under each topic in the order of their names, as `OptionDescription::operator<` has it.
-std::vector<Listed> sortedByTopicAndName(const std::vector<OptionDescription>& options) {
+std::vector<Listed> sortedByTopicAndName(const std::vector<OptionDescription>& options,
+                                         const TopicNames& names) {
     std::vector<Listed> sorted;
     sorted.reserve(options.size());
+    std::string_view topic;
+    std::size_t rank = rankOf(topic, names);
     for (const OptionDescription& option : options) {
+        // Most options have the topic of the one before.
+        if (option.m_topic.first != topic) {
+            topic = option.m_topic.first;
+            rank = rankOf(topic, names);
+        }
         if (!option.m_positional) {
-            sorted.push_back({option.m_topic.first, option.primaryName(), &option});
+            sorted.push_back({rank, option.primaryName(), &option});
         }
     }
     std::stable_sort(sorted.begin(), sorted.end(), [](const Listed& left, const Listed& right) {
-        return left.topic == right.topic ? NameOrder()(left.name, right.name) : isTopicBefore(left, right);
+        return left.topicRank != right.topicRank ? isTopicBefore(left, right)
+                                                 : NameOrder()(left.name, right.name);
     });
     return sorted;
 }
@@ -72,7 +100,8 @@ void appendEntry(std::string& text, const OptionDescription& option) {
 
 std::string renderHelp(const std::vector<Topic>& topics, const std::vector<OptionDescription>& options,
                        bool hidden) {
-    const std::vector<Listed> sorted = sortedByTopicAndName(options);
+    const TopicNames names = sortedNames(topics);
+    const std::vector<Listed> sorted = sortedByTopicAndName(options, names);
     std::string text;
     text.reserve(usualEntrySize * options.size());
     for (const Topic& topic : topics) {
@@ -80,8 +109,8 @@ std::string renderHelp(const std::vector<Topic>& topics, const std::vector<Optio
             continue;
         }
         appendHeading(text, topic);
-        const auto [first, last] =
-            std::equal_range(sorted.begin(), sorted.end(), Listed{topic.first, {}, nullptr}, isTopicBefore);
+        const Listed here = {rankOf(topic.first, names), {}, nullptr};
+        const auto [first, last] = std::equal_range(sorted.begin(), sorted.end(), here, isTopicBefore);
         for (auto listed = first; listed != last; ++listed) {
             appendEntry(text, *listed->option);
         }
