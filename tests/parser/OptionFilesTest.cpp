@@ -97,12 +97,14 @@ TEST_F(OptionFiles, AreRedirectedByAHandlerThatQueriesTheResult) {
     struct Querying : EventHandler {
         explicit Querying(IParseResult& queried) : result(queried) {}
         bool onOptionParse(const char* name) override {
-            if (name == std::string("name")) {
+            if (name == std::string("name") && !hasAsked) {
+                hasAsked = true;
                 result.get("other", 0, 2147483647);
             }
             return true;
         }
         IParseResult& result;
+        bool hasAsked = false;
     };
     Querying handler(parsing.result);
     parsing.parser.addHandler(&handler);
