@@ -17,9 +17,7 @@ SOURCE = os.path.join(os.path.dirname(os.path.abspath(__file__)), "hosts", "{}.c
 STANDARD = re.compile(r"<(cstdio|cstdlib|cstring|string|vector)>")
 
 RUNS = 11
-# Where a compilation takes seconds, fewer runs tell its share as well.
-FEWEST_RUNS = 3
-ENOUGH_SECONDS = 5
+COMPILATIONS = 9
 
 
 class Host:
@@ -87,11 +85,11 @@ class Host:
         return after.ru_utime + after.ru_stime - before.ru_utime - before.ru_stime
 
     def compile_ratio(self, text):
-        """Time to compile `text`, in turn with an empty program; the medians."""
-        pairs = []
-        while len(pairs) < FEWEST_RUNS or len(pairs) < RUNS and sum(map(sum, pairs)) < ENOUGH_SECONDS:
-            pairs.append((self.compile_seconds(text), self.compile_seconds(EMPTY)))
-        return statistics.median(mine for mine, _ in pairs) / statistics.median(empty for _, empty in pairs)
+        """Time to compile `text`, in turn with an empty program: the ratio of the least times, which a busy
+        machine disturbs least, and by how much the greatest time for `text` was above its least."""
+        pairs = [(self.compile_seconds(text), self.compile_seconds(EMPTY)) for _ in range(COMPILATIONS)]
+        mine, empty = zip(*pairs)
+        return f"{min(mine) / min(empty):.2f}; {max(mine) / min(mine) - 1:.0%}"
 
     def includes_ratio(self):
         return self.compile_ratio(self.includes() + EMPTY)
@@ -119,9 +117,10 @@ class Host:
         """Relocations of the program and of its libraries, beyond those of the empty program."""
         return sum(relocations(file) for file in [self.path, *self.libraries]) - relocations(self.empty)
 
-    def process_instructions(self, bound):
+    def process_instructions(self, bound, cxx_first=False):
         """Instructions of a whole process, the loader's included, beyond those of the empty one."""
-        return instructions([self.path, *self.arguments], bound) - instructions([self.empty], bound)
+        path = self.path + "-cxx-first" if cxx_first else self.path
+        return instructions([path, *self.arguments], bound) - instructions([self.empty], bound)
 
     def process_kilobytes(self):
         """Greatest resident memory of a process beyond that of the empty one; the medians."""

@@ -11,12 +11,16 @@ import tempfile
 from hosts import Host
 from programs import ENVIRONMENT, Program, order
 
-LIBRARIES = ["tarv", "handwritten", "getopt", "popt", "argtable2", "llvm", "gflags", "abseil", "tclap",
+LIBRARIES = ["tarv", "handwritten", "getopt", "getoptInOrder", "popt", "argtable2", "llvm", "gflags", "abseil", "tclap",
              "boost", "cli11", "cxxopts"]
+# Programs that differ from another one in their workload alone have no host of their own.
+HOSTLESS = {"getoptInOrder"}
 PACKAGES = ["libpopt-dev", "libargtable2-dev", "llvm-14-dev", "libgflags-dev", "libabsl-dev", "libtclap-dev",
             "libboost-program-options1.74-dev", "libcli11-dev", "libcxxopts-dev"]
 
 EVERYDAY = ("everyday", 24)
+DEFAULTS = ("defaults", 24)
+WATCHED = ("watched", 24)
 ARGUMENTS = [10, 100, 1000, 10000, 100000]
 OPTIONS = [10, 100, 1000, 3000]
 NONE = "–"
@@ -28,11 +32,25 @@ def whole(number):
 
 def check_answers(programs):
     """Ends the run unless all programs print the same answers as the first one."""
-    collecting = [program for program in programs if program.collects]
+    collecting = able(programs, "collects")
     check_answer(programs, *EVERYDAY)
+    check_answer(programs, *DEFAULTS)
+    check_answer(able(programs, "watches"), *WATCHED)
     check_answer(programs, "options", 1000)
+    check_answer(programs, "features", 1000)
+    check_answer(programs, "numbered", 1000)
+    check_answer(able(programs, "negates"), "switches", 1000)
+    check_answer(able(programs, "negates"), "feature-switches", 1000)
     check_answer(collecting, "options", 10)
     check_answer(collecting, "arguments", 1000)
+    for program in able(programs, "abbreviates"):
+        for whole_names, cut_names in (("options", "cut-options"), ("features", "cut-features")):
+            if program.text("answer", whole_names, 1000) != program.text("answer", cut_names, 1000):
+                sys.exit(f"{program.title} reads {cut_names} in another way than {whole_names}")
+
+
+def able(programs, ability):
+    return [program for program in programs if ability in program.abilities]
 
 
 def check_answer(programs, workload, size):
@@ -47,9 +65,9 @@ def check_help(programs):
     names = [line.split(":")[0] for line in programs[0].text("answer", *EVERYDAY).splitlines()]
     names.remove("input")
     for program in programs:
-        text = program.text("help", *EVERYDAY).replace("_", "-") if program.helps else ""
+        text = program.text("help", *EVERYDAY).replace("_", "-") if "helps" in program.abilities else ""
         missing = [name for name in names if name not in text]
-        if program.helps and missing:
+        if "helps" in program.abilities and missing:
             sys.exit(f"{program.title} has no help for {', '.join(missing)}")
 
 
@@ -74,8 +92,9 @@ class Table:
         """A line of `cell(library)`, which is a text, or None where a library has no such figure."""
         cells = []
         for library in self.libraries:
-            progress(f"{label}: {library.name}")
-            cells.append(cell(library) or NONE)
+            if library is not None:
+                progress(f"{label}: {library.name}")
+            cells.append(library is not None and cell(library) or NONE)
         print("| " + " | ".join([label, *cells]) + " |", flush=True)
 
 
@@ -84,9 +103,19 @@ def progress(text):
         print("\r\033[K" + text, end="", file=sys.stderr)
 
 
-def instructions(program, *phases):
-    counts = program.instructions("measure-again", *EVERYDAY)
-    return whole(sum(counts[phase] for phase in phases))
+def instructions(program, *phases, workload=EVERYDAY, mode="measure-again", per=1):
+    counts = program.instructions(mode, *workload)
+    return whole(sum(counts[phase] for phase in phases) / per)
+
+
+def warm(program, *phases, per=1):
+    """The figure of a library that has been declared, used and released before in the same process."""
+    return instructions(program, *phases, per=per) if "takes-back" in program.abilities else None
+
+
+def cold(program, *phases):
+    """The figure of the first life in a process."""
+    return instructions(program, *phases, mode="measure-cold")
 
 
 def allocations(program, *phases, per=1):
@@ -95,28 +124,37 @@ def allocations(program, *phases, per=1):
 
 
 def everyday_rows(table):
-    table.row("W1, a whole life: declare, parse, read, release",
-              lambda each: instructions(each, "declare", "parse", "read", "release"))
-    table.row("W1: declare, parse, read", lambda each: instructions(each, "declare", "parse", "read"))
-    for phase in ("declare", "parse", "read", "release"):
-        table.row(f"W1, {phase}", lambda each: instructions(each, phase))
+    life = ("declare", "parse", "read", "release")
+    table.row("W1, a whole life: declare, parse, read, release", lambda each: warm(each, *life))
+    table.row("the same, cold: the first life in a process", lambda each: cold(each, *life))
+    table.row("W1: declare, parse, read", lambda each: warm(each, *life[:-1]))
+    table.row("the same, cold", lambda each: cold(each, *life[:-1]))
+    for phase in life:
+        table.row(f"W1, {phase}", lambda each: warm(each, phase))
+        table.row(f"W1, {phase}, cold", lambda each: cold(each, phase))
+    table.row("W1, declare, per option", lambda each: warm(each, "declare", per=24))
     table.row("W1 again: forget, parse, read",
               lambda each: instructions(each, "again-forget", "again-parse", "again-read"))
     table.row("W1 again: parse, read", lambda each: instructions(each, "again-parse", "again-read"))
     for phase in ("forget", "parse", "read"):
         table.row(f"W1 again, {phase}", lambda each: instructions(each, "again-" + phase))
+    table.row("W1 again: parse, read, with a default on all but lists",
+              lambda each: instructions(each, "again-parse", "again-read", workload=DEFAULTS))
+    table.row("W1 again, parse, with a function called for every value",
+              lambda each: instructions(each, "again-parse", workload=WATCHED)
+              if "watches" in each.abilities else None)
     table.row("allocations, per declared option", lambda each: allocations(each, "declare", per=24))
     for phase in ("parse", "read"):
         table.row(f"allocations, W1 {phase}", lambda each: allocations(each, phase))
 
 
 def per_argument(program, size, phase, sizes):
-    costs = program.growth("arguments", sizes) if program.collects else {}
+    costs = program.growth("arguments", sizes) if "collects" in program.abilities else {}
     return whole(costs[size][phase] / size) if size in costs else None
 
 
 def argument_order(program, phase, sizes):
-    if not program.collects:
+    if "collects" not in program.abilities:
         return None
     costs = program.growth("arguments", sizes)
     largest = "" if max(costs) == max(sizes) else f" (to {max(costs):,})"
@@ -136,7 +174,15 @@ def argument_rows(table, sizes, keeping):
 
 def option_costs(program, sizes):
     """Ten options receive a hundred arguments only where an option keeps more than one value."""
-    return program.growth("options", sizes if program.collects else [size for size in sizes if size >= 100])
+    collects = "collects" in program.abilities
+    return program.growth("options", sizes if collects else [size for size in sizes if size >= 100])
+
+
+def large_table(program, workload, ability=None):
+    """Instructions an argument, of a hundred for a table of 1,000 options."""
+    if ability is not None and ability not in program.abilities:
+        return None
+    return whole(program.instructions("measure", workload, 1000)["parse"] / 100)
 
 
 def per_option(program, size, phase, units, sizes):
@@ -148,6 +194,15 @@ def option_rows(table, sizes):
     for size in sizes:
         table.row(f"W3, {size:,} options: parse, per argument",
                   lambda each: per_option(each, size, "parse", 100, sizes))
+    for label, workload, ability in (
+            ("names \"feature-…\"", "features", None),
+            ("names \"feature-0000\" to \"feature-0999\"", "numbered", None),
+            ("switches, each negated", "switches", "negates"),
+            ("switches \"feature-…\", each negated", "feature-switches", "negates"),
+            ("names without their last letter", "cut-options", "abbreviates"),
+            ("names \"feature-…\" without their last letter", "cut-features", "abbreviates")):
+        table.row(f"W3, 1,000 options, {label}: parse, per argument",
+                  lambda each: large_table(each, workload, ability))
     table.row("W3, order of parse, 100 to 3,000 options",
               lambda each: f"{order(option_costs(each, sizes), 'parse', 100):.2f}")
     for size in sizes:
@@ -165,15 +220,15 @@ def help_ratio(program):
 
 def help_rows(table):
     table.row("W4, help for 24 options",
-              lambda each: whole(help_instructions(each, *EVERYDAY)) if each.helps else None)
+              lambda each: whole(help_instructions(each, *EVERYDAY)) if "helps" in each.abilities else None)
     table.row("W4, help for 500 options",
-              lambda each: whole(help_instructions(each, "options", 500)) if each.helps else None)
-    table.row("W4, 500 options to 24", lambda each: help_ratio(each) if each.helps else None)
+              lambda each: whole(help_instructions(each, "options", 500)) if "helps" in each.abilities else None)
+    table.row("W4, 500 options to 24", lambda each: help_ratio(each) if "helps" in each.abilities else None)
 
 
 def compilation_rows(table):
-    table.row("W5, compile time of its headers to that of an empty file", lambda each: f"{each.includes_ratio():.2f}")
-    table.row("W5, compile time of the host to that of an empty file", lambda each: f"{each.source_ratio():.2f}")
+    table.row("W5, compile time of its headers to that of an empty file; spread", lambda each: each.includes_ratio())
+    table.row("W5, compile time of the host to that of an empty file; spread", lambda each: each.source_ratio())
 
 
 def host_rows(table):
@@ -186,6 +241,8 @@ def host_rows(table):
               lambda each: whole(each.process_instructions(bound=True)))
     table.row("W5, process beyond an empty one, bound lazily",
               lambda each: whole(each.process_instructions(bound=False)))
+    table.row("the same with the C++ library linked first",
+              lambda each: whole(each.process_instructions(bound=False, cxx_first=True)) if each.needs_cxx else None)
     table.row("W5, memory of the process beyond an empty one, KB", lambda each: whole(each.process_kilobytes()))
 
 
@@ -238,10 +295,10 @@ def print_circumstances(build):
 def measure_all(build, data):
     programs = [Program(build, name) for name in LIBRARIES]
     keeping = Program(build, "keeping")
-    hosts = [Host(build, name) for name in LIBRARIES]
+    hosts = [None if name in HOSTLESS else Host(build, name) for name in LIBRARIES]
     check_answers([*programs, keeping])
     check_help(programs)
-    check_hosts(hosts)
+    check_hosts([host for host in hosts if host is not None])
     print_circumstances(build)
     table = Table(programs)
     table.head([program.title for program in programs])
@@ -260,8 +317,8 @@ def write_data(programs, folder):
     """The figures behind the plot, as tables that gnuplot reads."""
     os.makedirs(folder, exist_ok=True)
     phases = ("declare", "parse", "read", "release")
-    counts = {each.title: each.instructions("measure-again", *EVERYDAY) for each in programs}
-    costs = {each.title: each.growth("arguments", ARGUMENTS) for each in programs if each.collects}
+    counts = {each.title: each.instructions("measure-again", *EVERYDAY) for each in able(programs, "takes-back")}
+    costs = {each.title: each.growth("arguments", ARGUMENTS) for each in able(programs, "collects")}
     everyday = [([counts[title][phase] for phase in phases], title) for title in counts]
     everyday.sort(key=lambda bar: sum(bar[0]))
     with open(os.path.join(folder, "everyday.tsv"), "w", encoding="utf-8") as file:

@@ -22,9 +22,7 @@ class Program:
         self.path = os.path.join(build, "benchmarks", "bench-" + name)
         self.counter = os.path.join(build, "benchmarks", "libbench_allocations.so")
         self.name = name
-        self.title, *abilities = self.run("about", "everyday", 24).stdout.splitlines()
-        self.collects = "collects" in abilities
-        self.helps = "helps" in abilities
+        self.title, *self.abilities = self.run("about", "everyday", 24).stdout.splitlines()
 
     def run(self, mode, workload, size, **environment):
         command = [self.path, mode, workload, str(size)]

@@ -4,6 +4,21 @@
 
 namespace bench {
 
+namespace {
+
+void readDefault(const Option& option, Answer& answer) {
+    if (!option.hasDefault)
+        return;
+    if (option.kind == Kind::Integer)
+        answer.integers[option.slot] = defaultInteger;
+    else if (option.kind == Kind::Number)
+        answer.numbers[option.slot] = defaultNumber;
+    else if (option.kind == Kind::Text)
+        answer.texts[option.slot] = defaultText;
+}
+
+} // namespace
+
 void HostValues::resize(std::size_t options) {
     m_values.resize(options);
 }
@@ -17,8 +32,10 @@ void HostValues::read(const std::vector<Option>& options, Answer& answer) const 
     for (std::size_t i = 0; i < options.size(); ++i) {
         const std::vector<const char*>& values = m_values[i];
         const std::size_t slot = options[i].slot;
-        if (values.empty())
+        if (values.empty()) {
+            readDefault(options[i], answer);
             continue;
+        }
         switch (options[i].kind) {
         case Kind::Switch:
             answer.switches[slot] = true;

@@ -15,6 +15,7 @@
 #include <absl/flags/internal/usage.h>
 
 #include <sstream>
+#include <type_traits>
 
 namespace bench {
 
@@ -25,8 +26,31 @@ using Texts = std::vector<std::string>;
 constexpr const char* ownFile = "program.cpp";
 
 template <class T>
-void makeDefault(void* memory) {
+void makeEmpty(void* memory) {
     new (memory) T();
+}
+
+template <class T>
+T valueAtFirst(const Option& option) {
+    if constexpr (std::is_same_v<T, bool>)
+        return option.isOnAtFirst;
+    else if constexpr (std::is_same_v<T, int>)
+        return option.hasDefault ? defaultInteger : 0;
+    else if constexpr (std::is_same_v<T, double>)
+        return option.hasDefault ? defaultNumber : 0;
+    else if constexpr (std::is_same_v<T, std::string>)
+        return option.hasDefault ? defaultText : "";
+    else
+        return T();
+}
+
+// ABSL_FLAG makes such a function of every default, so it knows nothing of the option.
+template <class T>
+void makeDefault(void* memory) {
+    Option option = {};
+    option.hasDefault = true;
+    option.isOnAtFirst = true;
+    new (memory) T(valueAtFirst<T>(option));
 }
 
 template <class T>
@@ -35,6 +59,7 @@ using FlagOf = std::unique_ptr<absl::Flag<T>>;
 class Abseil final : public Library {
 public:
     void declare(const std::vector<Option>& options) override {
+        m_options = &options;
         m_flags.resize(options.size());
         for (std::size_t i = 0; i < options.size(); ++i) {
             const Option& option = options[i];
@@ -93,12 +118,14 @@ public:
     }
 
     void forget() override {
-        for (Flags& flags : m_flags) {
-            reset(flags.on);
-            reset(flags.integer);
-            reset(flags.number);
-            reset(flags.text);
-            reset(flags.list);
+        for (std::size_t i = 0; i < m_flags.size(); ++i) {
+            Flags& flags = m_flags[i];
+            const Option& option = (*m_options)[i];
+            reset(option, flags.on);
+            reset(option, flags.integer);
+            reset(option, flags.number);
+            reset(option, flags.text);
+            reset(option, flags.list);
         }
     }
 
@@ -125,18 +152,20 @@ private:
         namespace internal = absl::flags_internal;
         const internal::FlagHelpArg help{internal::FlagHelpMsg(option.description.c_str()),
                                          internal::FlagHelpKind::kLiteral};
-        const internal::FlagDefaultArg initial{internal::FlagDefaultSrc(makeDefault<T>),
+        const bool isEmpty = valueAtFirst<T>(option) == T();
+        const internal::FlagDefaultArg initial{internal::FlagDefaultSrc(isEmpty ? makeEmpty<T> : makeDefault<T>),
                                                internal::FlagDefaultKind::kGenFunc};
         flag.reset(new absl::Flag<T>{option.declared.c_str(), ownFile, help, initial});
         internal::FlagRegistrar<T, true>(*flag, ownFile);
     }
 
     template <class T>
-    static void reset(const FlagOf<T>& flag) {
+    static void reset(const Option& option, const FlagOf<T>& flag) {
         if (flag)
-            absl::SetFlag(flag.get(), T());
+            absl::SetFlag(flag.get(), valueAtFirst<T>(option));
     }
 
+    const std::vector<Option>* m_options = nullptr;
     // The registry refers to the flags until the process ends, so they are never deleted.
     std::vector<Flags>& m_flags = *new std::vector<Flags>;
     std::vector<char*> m_positionals;
@@ -144,6 +173,7 @@ private:
 
 } // namespace
 
-const Candidate abseilCandidate = {"abseil flags", {true, '_'}, underscoredName, make<Abseil>, true, false};
+const Candidate abseilCandidate = {
+    "abseil flags", {true, '_', "no"}, underscoredName, make<Abseil>, helps | negates};
 
 } // namespace bench

@@ -21,6 +21,8 @@ public:
         for (const Option& option : options)
             m_table.push_back(make(option));
         m_table.push_back(arg_end(20));
+        m_options = &options;
+        setDefaults();
         if (arg_nullcheck(m_table.data()) != 0)
             fail("no memory");
     }
@@ -40,17 +42,17 @@ public:
                 break;
             case Kind::Integer: {
                 const arg_int& found = *static_cast<arg_int*>(entry);
-                answer.integers[slot] = found.count > 0 ? found.ival[0] : 0;
+                answer.integers[slot] = found.count > 0 || options[i].hasDefault ? found.ival[0] : 0;
                 break;
             }
             case Kind::Number: {
                 const arg_dbl& found = *static_cast<arg_dbl*>(entry);
-                answer.numbers[slot] = found.count > 0 ? found.dval[0] : 0;
+                answer.numbers[slot] = found.count > 0 || options[i].hasDefault ? found.dval[0] : 0;
                 break;
             }
             case Kind::Text: {
                 const arg_str& found = *static_cast<arg_str*>(entry);
-                if (found.count > 0)
+                if (found.count > 0 || options[i].hasDefault)
                     answer.texts[slot] = found.sval[0];
                 break;
             }
@@ -69,8 +71,8 @@ public:
         }
     }
 
-    /// `arg_parse` resets every entry itself.
-    void forget() override {}
+    /// `arg_parse` resets the counts itself; defaults are what stands in the entries before it.
+    void forget() override { setDefaults(); }
 
     std::string help() override {
         char* text = nullptr;
@@ -84,6 +86,20 @@ public:
     }
 
 private:
+    void setDefaults() {
+        for (std::size_t i = 0; i < m_options->size(); ++i) {
+            const Option& option = (*m_options)[i];
+            if (!option.hasDefault)
+                continue;
+            if (option.kind == Kind::Integer)
+                static_cast<arg_int*>(m_table[i])->ival[0] = defaultInteger;
+            else if (option.kind == Kind::Number)
+                static_cast<arg_dbl*>(m_table[i])->dval[0] = defaultNumber;
+            else if (option.kind == Kind::Text)
+                static_cast<arg_str*>(m_table[i])->sval[0] = defaultText;
+        }
+    }
+
     static void* make(const Option& option) {
         const char* letter = option.alias ? option.declared.c_str() : nullptr;
         const char* name = option.name.c_str();
@@ -105,6 +121,7 @@ private:
         }
     }
 
+    const std::vector<Option>* m_options = nullptr;
     std::vector<void*> m_table;
 };
 

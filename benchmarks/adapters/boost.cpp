@@ -27,13 +27,19 @@ public:
                 add(names, po::bool_switch(), description);
                 break;
             case Kind::Integer:
-                add(names, po::value<int>(), description);
+                add(names, option.hasDefault ? po::value<int>()->default_value(defaultInteger) : po::value<int>(),
+                    description);
                 break;
             case Kind::Number:
-                add(names, po::value<double>(), description);
+                add(names,
+                    option.hasDefault ? po::value<double>()->default_value(defaultNumber) : po::value<double>(),
+                    description);
                 break;
             case Kind::Text:
-                add(names, po::value<std::string>(), description);
+                add(names,
+                    option.hasDefault ? po::value<std::string>()->default_value(defaultText)
+                                      : po::value<std::string>(),
+                    description);
                 break;
             case Kind::List:
                 add(names, po::value<Texts>(), description);

@@ -10,6 +10,7 @@ extern const Candidate boostCandidate;
 extern const Candidate cli11Candidate;
 extern const Candidate cxxoptsCandidate;
 extern const Candidate getoptCandidate;
+extern const Candidate getoptInOrderCandidate;
 extern const Candidate gflagsCandidate;
 extern const Candidate handwrittenCandidate;
 extern const Candidate keepingCandidate;

@@ -14,14 +14,17 @@ namespace {
 class Cli11 final : public Library {
 public:
     void declare(const std::vector<Option>& options) override {
+        m_options = &options;
         m_variables.resize(options.size());
+        setDefaults();
         for (std::size_t i = 0; i < options.size(); ++i) {
             const std::string& names = options[i].declared;
             const std::string& description = options[i].description;
             Variable& variable = m_variables[i];
             switch (options[i].kind) {
             case Kind::Switch:
-                m_app.add_flag(names.c_str(), variable.on, description.c_str());
+                m_app.add_flag(options[i].isOnAtFirst ? withNegation(names) : names, variable.on,
+                               description.c_str());
                 break;
             case Kind::Integer:
                 m_app.add_option(names.c_str(), variable.integer, description.c_str());
@@ -42,6 +45,11 @@ public:
                 break;
             }
         }
+    }
+
+    void watch() override {
+        for (CLI::Option* option : m_app.get_options())
+            option->check(CLI::Validator([](std::string&) { return std::string(); }, ""));
     }
 
     void parse(int argc, char** argv) override { m_app.parse(argc, argv); }
@@ -74,6 +82,7 @@ public:
     void forget() override {
         for (Variable& variable : m_variables)
             variable = Variable();
+        setDefaults();
     }
 
     std::string help() override { return m_app.help(); }
@@ -87,6 +96,21 @@ private:
         std::vector<std::string> list;
     };
 
+    static std::string withNegation(const std::string& names) { return names + ",!--no-" + names.substr(2); }
+
+    void setDefaults() {
+        for (std::size_t i = 0; i < m_variables.size(); ++i) {
+            const Option& option = (*m_options)[i];
+            m_variables[i].on = option.isOnAtFirst;
+            if (!option.hasDefault)
+                continue;
+            m_variables[i].integer = defaultInteger;
+            m_variables[i].number = defaultNumber;
+            m_variables[i].text = defaultText;
+        }
+    }
+
+    const std::vector<Option>* m_options = nullptr;
     CLI::App m_app{"A program with a command line."};
     std::deque<Variable> m_variables;
 };
@@ -99,6 +123,6 @@ std::string dashedNames(const Option& option) {
 
 } // namespace
 
-const Candidate cli11Candidate = {"CLI11", {}, dashedNames, make<Cli11>};
+const Candidate cli11Candidate = {"CLI11", {}, dashedNames, make<Cli11>, takesBack | collects | helps | negates | watches};
 
 } // namespace bench

@@ -15,7 +15,7 @@ public:
     void declare(const std::vector<Option>& options) override {
         cxxopts::OptionAdder add = m_options.add_options();
         for (const Option& option : options) {
-            add(option.declared.c_str(), option.description.c_str(), valueOf(option.kind));
+            add(option.declared.c_str(), option.description.c_str(), valueOf(option));
             if (option.kind == Kind::Positional)
                 m_options.parse_positional({option.name.c_str()});
         }
@@ -27,7 +27,7 @@ public:
         for (const Option& option : options) {
             const cxxopts::OptionValue& found = (*m_result)[option.name.c_str()];
             const std::size_t slot = option.slot;
-            if (found.count() == 0)
+            if (found.count() == 0 && !option.hasDefault)
                 continue;
             switch (option.kind) {
             case Kind::Switch:
@@ -57,6 +57,22 @@ public:
     std::string help() override { return m_options.help(); }
 
 private:
+    static std::shared_ptr<cxxopts::Value> valueOf(const Option& option) {
+        const std::shared_ptr<cxxopts::Value> value = valueOf(option.kind);
+        if (!option.hasDefault)
+            return value;
+        switch (option.kind) {
+        case Kind::Switch:
+            return value->default_value("false");
+        case Kind::Integer:
+            return value->default_value(std::to_string(defaultInteger));
+        case Kind::Number:
+            return value->default_value("1.5");
+        default:
+            return value->default_value(defaultText);
+        }
+    }
+
     static std::shared_ptr<cxxopts::Value> valueOf(Kind kind) {
         switch (kind) {
         case Kind::Switch:

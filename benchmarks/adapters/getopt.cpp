@@ -1,5 +1,8 @@
 /// getopt_long of the C library: names only. Conversion, lists and the storage are the host's.
 /// Its table is built while "declaring"; a host would write it as a constant.
+///
+/// By itself it moves the positional arguments to the end, at a cost that grows with the square of the
+/// command line. With "-" before the letters it yields them in order, as occurrences of an option 1.
 
 #include "adapters/HostValues.h"
 #include "adapters/candidates.h"
@@ -11,11 +14,13 @@ namespace bench {
 
 namespace {
 
+template <bool inOrder>
 class Getopt final : public Library {
 public:
     void declare(const std::vector<Option>& options) override {
         m_values.resize(options.size());
         m_positional = options.size() - 1;
+        m_letters = inOrder ? "-" : "";
         for (std::size_t i = 0; i < options.size(); ++i) {
             const Option& option = options[i];
             if (option.kind == Kind::Positional)
@@ -36,9 +41,7 @@ public:
         for (int code; (code = getopt_long(argc, argv, m_letters.c_str(), m_table.data(), nullptr)) != -1;) {
             if (code == '?')
                 fail("refused");
-            const std::size_t index =
-                code >= firstCode ? static_cast<std::size_t>(code - firstCode) : m_indexOfLetter[code];
-            m_values.add(index, optarg ? optarg : "1");
+            m_values.add(indexOf(code), optarg ? optarg : "1");
         }
         for (; optind < argc; ++optind)
             m_values.add(m_positional, argv[optind]);
@@ -51,7 +54,14 @@ public:
     std::string help() override { return {}; }
 
 private:
+    static constexpr int positionalCode = 1;
     static constexpr int firstCode = 256;
+
+    std::size_t indexOf(int code) const {
+        if (code == positionalCode)
+            return m_positional;
+        return code >= firstCode ? static_cast<std::size_t>(code - firstCode) : m_indexOfLetter[code];
+    }
 
     std::vector<option> m_table;
     std::string m_letters;
@@ -62,6 +72,8 @@ private:
 
 } // namespace
 
-const Candidate getoptCandidate = {"getopt_long", {}, nameAlone, make<Getopt>, false, true, false};
+const Candidate getoptCandidate = {"getopt_long", {}, nameAlone, make<Getopt<false>>, takesBack | collects};
+const Candidate getoptInOrderCandidate = {
+    "getopt_long, in order", {}, nameAlone, make<Getopt<true>>, takesBack | collects};
 
 } // namespace bench

@@ -18,11 +18,13 @@ namespace {
 class Gflags final : public Library {
 public:
     void declare(const std::vector<Option>& options) override {
+        m_options = &options;
         m_variables.resize(options.size());
         for (std::size_t i = 0; i < options.size(); ++i) {
             const char* name = options[i].declared.c_str();
             const char* description = options[i].description.c_str();
             Variable& variable = m_variables[i];
+            setDefaults(options[i], variable);
             switch (options[i].kind) {
             case Kind::Switch:
                 define(name, description, variable.on);
@@ -36,6 +38,32 @@ public:
             case Kind::Text:
             case Kind::List:
                 define(name, description, variable.text);
+                break;
+            case Kind::Positional:
+                break;
+            }
+        }
+    }
+
+    void watch() override {
+        for (std::size_t i = 0; i < m_options->size(); ++i) {
+            const Variable& variable = m_variables[i];
+            switch ((*m_options)[i].kind) {
+            case Kind::Switch:
+                gflags::RegisterFlagValidator(&variable.on.current, [](const char*, bool) { return true; });
+                break;
+            case Kind::Integer:
+                gflags::RegisterFlagValidator(&variable.integer.current,
+                                              [](const char*, gflags::int32) { return true; });
+                break;
+            case Kind::Number:
+                gflags::RegisterFlagValidator(&variable.number.current,
+                                              [](const char*, double) { return true; });
+                break;
+            case Kind::Text:
+            case Kind::List:
+                gflags::RegisterFlagValidator(&variable.text.current,
+                                              [](const char*, const std::string&) { return true; });
                 break;
             case Kind::Positional:
                 break;
@@ -76,8 +104,10 @@ public:
     }
 
     void forget() override {
-        for (Variable& variable : m_variables)
-            variable = Variable();
+        for (std::size_t i = 0; i < m_variables.size(); ++i) {
+            m_variables[i] = Variable();
+            setDefaults((*m_options)[i], m_variables[i]);
+        }
     }
 
     std::string help() override {
@@ -106,17 +136,29 @@ private:
         Flag<std::string> text;
     };
 
+    static void setDefaults(const Option& option, Variable& variable) {
+        variable.on = {option.isOnAtFirst, option.isOnAtFirst};
+        if (!option.hasDefault)
+            return;
+        variable.integer = {defaultInteger, defaultInteger};
+        variable.number = {defaultNumber, defaultNumber};
+        if (option.kind == Kind::Text)
+            variable.text = {defaultText, defaultText};
+    }
+
     template <class T>
     static void define(const char* name, const char* description, Flag<T>& flag) {
         gflags::FlagRegisterer(name, description, ownFile, &flag.current, &flag.initial);
     }
 
+    const std::vector<Option>* m_options = nullptr;
     std::deque<Variable> m_variables;
     std::vector<const char*> m_positionals;
 };
 
 } // namespace
 
-const Candidate gflagsCandidate = {"gflags", {}, underscoredName, make<Gflags>, true, false};
+const Candidate gflagsCandidate = {
+    "gflags", {true, '-', "no"}, underscoredName, make<Gflags>, helps | negates | watches};
 
 } // namespace bench

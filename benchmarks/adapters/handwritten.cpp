@@ -59,6 +59,6 @@ private:
 
 } // namespace
 
-const Candidate handwrittenCandidate = {"handwritten", {}, nameAlone, make<Handwritten>, false, true, false};
+const Candidate handwrittenCandidate = {"handwritten", {}, nameAlone, make<Handwritten>, takesBack | collects};
 
 } // namespace bench

@@ -109,6 +109,6 @@ private:
 
 } // namespace
 
-const Candidate keepingCandidate = {"keeping", {}, nameAlone, make<Keeping>, false, true, false};
+const Candidate keepingCandidate = {"keeping", {}, nameAlone, make<Keeping>, takesBack | collects};
 
 } // namespace bench

@@ -24,11 +24,36 @@ public:
     }
 
     void declare(const std::vector<Option>& options) override {
+        m_declared = &options;
         for (const Option& option : options) {
-            m_options.push_back(make(option));
+            m_options.push_back(option.hasDefault ? makeWithDefault(option) : make(option));
             if (option.alias)
                 m_aliases.emplace_back(
                     new cl::alias(llvm::StringRef(&option.alias, 1), cl::aliasopt(*m_options.back())));
+        }
+    }
+
+    void watch() override {
+        for (std::size_t i = 0; i < m_options.size(); ++i) {
+            cl::Option& option = *m_options[i];
+            switch ((*m_declared)[i].kind) {
+            case Kind::Switch:
+                static_cast<cl::opt<bool>&>(option).setCallback([](const bool&) {});
+                break;
+            case Kind::Integer:
+                static_cast<cl::opt<int>&>(option).setCallback([](const int&) {});
+                break;
+            case Kind::Number:
+                static_cast<cl::opt<double>&>(option).setCallback([](const double&) {});
+                break;
+            case Kind::Text:
+                static_cast<cl::opt<std::string>&>(option).setCallback([](const std::string&) {});
+                break;
+            case Kind::List:
+            case Kind::Positional:
+                static_cast<cl::list<std::string>&>(option).setCallback([](const std::string&) {});
+                break;
+            }
         }
     }
 
@@ -95,12 +120,29 @@ private:
         }
     }
 
+    static Made makeWithDefault(const Option& option) {
+        const llvm::StringRef name(option.name);
+        const cl::desc description(option.description);
+        switch (option.kind) {
+        case Kind::Switch:
+            return Made(new cl::opt<bool>(name, description, cl::init(false)));
+        case Kind::Integer:
+            return Made(new cl::opt<int>(name, description, cl::init(defaultInteger)));
+        case Kind::Number:
+            return Made(new cl::opt<double>(name, description, cl::init(defaultNumber)));
+        default:
+            return Made(new cl::opt<std::string>(name, description, cl::init(defaultText)));
+        }
+    }
+
+    const std::vector<Option>* m_declared = nullptr;
     std::vector<Made> m_options;
     std::vector<Made> m_aliases;
 };
 
 } // namespace
 
-const Candidate llvmCandidate = {"LLVM CommandLine", {}, nameAlone, make<Llvm>};
+const Candidate llvmCandidate = {
+    "LLVM CommandLine", {}, nameAlone, make<Llvm>, takesBack | collects | helps | watches};
 
 } // namespace bench

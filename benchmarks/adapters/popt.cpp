@@ -8,6 +8,7 @@
 
 #include <cstdio>
 #include <cstdlib>
+#include <cstring>
 #include <deque>
 
 namespace bench {
@@ -16,10 +17,16 @@ namespace {
 
 class Popt final : public Library {
 public:
-    ~Popt() override { forget(); }
+    ~Popt() override {
+        for (Variable& variable : m_variables)
+            clear(variable);
+        poptFreeContext(m_context);
+    }
 
     void declare(const std::vector<Option>& options) override {
+        m_options = &options;
         m_variables.resize(options.size());
+        setDefaults();
         for (std::size_t i = 0; i < options.size(); ++i) {
             const Option& option = options[i];
             if (option.kind != Kind::Positional)
@@ -67,13 +74,9 @@ public:
     }
 
     void forget() override {
-        for (Variable& variable : m_variables) {
-            std::free(variable.text);
-            for (char** value = variable.list; value && *value; ++value)
-                std::free(*value);
-            std::free(variable.list);
-            variable = Variable();
-        }
+        for (Variable& variable : m_variables)
+            clear(variable);
+        setDefaults();
         m_context = poptFreeContext(m_context);
     }
 
@@ -99,6 +102,27 @@ private:
         char* text = nullptr;
         char** list = nullptr;
     };
+
+    static void clear(Variable& variable) {
+        std::free(variable.text);
+        for (char** value = variable.list; value && *value; ++value)
+            std::free(*value);
+        std::free(variable.list);
+        variable = Variable();
+    }
+
+    /// A text belongs to popt, which replaces it.
+    void setDefaults() {
+        for (std::size_t i = 0; i < m_variables.size(); ++i) {
+            const Option& option = (*m_options)[i];
+            if (!option.hasDefault)
+                continue;
+            m_variables[i].integer = defaultInteger;
+            m_variables[i].number = defaultNumber;
+            if (option.kind == Kind::Text)
+                m_variables[i].text = strdup(defaultText);
+        }
+    }
 
     static unsigned typeOf(Kind kind) {
         switch (kind) {
@@ -130,6 +154,7 @@ private:
         }
     }
 
+    const std::vector<Option>* m_options = nullptr;
     std::deque<Variable> m_variables;
     std::vector<poptOption> m_table;
     poptContext m_context = nullptr;

@@ -34,8 +34,12 @@ public:
                 declared.tokenize(',');
             else if (option.kind == Kind::Positional)
                 declared.positional();
+            if (option.hasDefault)
+                declared.defaultValue(defaultOf(option.kind));
         }
     }
+
+    void watch() override { m_parser->addHandler(&m_watcher); }
 
     void parse(int argc, char** argv) override {
         tarv::IParseResult* result = nullptr;
@@ -49,8 +53,11 @@ public:
         for (const Option& option : options) {
             const char* name = option.name.c_str();
             const tarv::Value found = m_result->get(name);
-            if (found.status != tarv::valueFound)
+            if (found.status != tarv::valueFound) {
+                if (option.isOnAtFirst)
+                    answer.switches[option.slot] = true;
                 continue;
+            }
             switch (option.kind) {
             case Kind::Switch:
                 answer.switches[option.slot] = found.value.get<bool>();
@@ -90,17 +97,36 @@ private:
         }
     }
 
+    static tarv::variant_t defaultOf(Kind kind) {
+        switch (kind) {
+        case Kind::Switch:
+            return false;
+        case Kind::Integer:
+            return int32_t{defaultInteger};
+        case Kind::Number:
+            return defaultNumber;
+        default:
+            return defaultText;
+        }
+    }
+
     void readList(const char* name, tarv::Value value, std::vector<std::string_view>& list) {
         for (; value.status == tarv::valueFound; value = m_result->next(name))
             list.push_back(value.text);
     }
 
+    /// Accepts everything, as the class that it derives from does.
+    struct Watcher final : tarv::EventHandler {};
+
+    Watcher m_watcher;
     std::unique_ptr<tarv::IParser, Destroy> m_parser;
     std::unique_ptr<tarv::IParseResult, Destroy> m_result;
 };
 
 } // namespace
 
-const Candidate tarvCandidate = {"tarv", {}, nameAndAlias, make<Tarv>};
+const Candidate tarvCandidate = {
+    "tarv", {}, nameAndAlias, make<Tarv>,
+    takesBack | collects | helps | negates | abbreviates | watches};
 
 } // namespace bench

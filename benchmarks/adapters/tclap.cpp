@@ -84,11 +84,14 @@ private:
         case Kind::Switch:
             return Argument(new TCLAP::SwitchArg(alias, name, text));
         case Kind::Integer:
-            return Argument(new TCLAP::ValueArg<int>(alias, name, text, false, 0, "number"));
+            return Argument(new TCLAP::ValueArg<int>(alias, name, text, false,
+                                                     option.hasDefault ? defaultInteger : 0, "number"));
         case Kind::Number:
-            return Argument(new TCLAP::ValueArg<double>(alias, name, text, false, 0, "number"));
+            return Argument(new TCLAP::ValueArg<double>(
+                alias, name, text, false, option.hasDefault ? defaultNumber : 0, "number"));
         case Kind::Text:
-            return Argument(new TCLAP::ValueArg<std::string>(alias, name, text, false, "", "text"));
+            return Argument(new TCLAP::ValueArg<std::string>(
+                alias, name, text, false, option.hasDefault ? defaultText : "", "text"));
         case Kind::List:
             return Argument(new TCLAP::MultiArg<std::string>(alias, name, text, false, "text"));
         default:

@@ -13,8 +13,9 @@ std::vector<std::string> textsOf(const Workload& workload, const Dialect& dialec
             texts.push_back(given.value);
             continue;
         }
-        std::string name = "--" + given.option->name;
-        std::replace(name.begin() + 2, name.end(), '-', dialect.wordSeparator);
+        std::string name = given.option->name.substr(0, given.option->name.size() - given.cut);
+        std::replace(name.begin(), name.end(), '-', dialect.wordSeparator);
+        name.insert(0, given.option->isOnAtFirst ? std::string("--") + dialect.negation : "--");
         if (given.option->kind == Kind::Switch) {
             texts.push_back(name);
         } else if (given.joined && dialect.joinsValues) {

@@ -13,6 +13,8 @@ struct Dialect {
     bool joinsValues = true;
     /// What stands between the words of a name.
     char wordSeparator = '-';
+    /// What stands before the name of a switch that is turned off.
+    const char* negation = "no-";
 };
 
 /// A command line as main receives it.

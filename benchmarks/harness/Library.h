@@ -11,6 +11,10 @@
 
 namespace bench {
 
+[[noreturn]] inline void fail(const std::string& message) {
+    throw std::runtime_error(message);
+}
+
 /// A command-line library in use, as a host uses it. Every operation fails with an exception.
 class Library {
 public:
@@ -18,6 +22,9 @@ public:
 
     /// Declares all of `options`, which outlive this object.
     virtual void declare(const std::vector<Option>& options) = 0;
+
+    /// Has a function called for every value of the next parses, which accepts it.
+    virtual void watch() { fail("no function to call"); }
 
     /// Parses a command line. The arguments are the library's to reorder; they outlive `read`.
     virtual void parse(int argc, char** argv) = 0;
@@ -37,6 +44,23 @@ std::unique_ptr<Library> make() {
     return std::make_unique<T>();
 }
 
+/// What not every library can do.
+enum Ability : unsigned {
+    /// Its declarations can be taken back. If not, they belong to the process, and are made once: such a
+    /// library has no warm-up, and is not measured in times.
+    takesBack = 1,
+    /// An option given twice keeps both values. If not, there is no answer for `longCommandLine`.
+    collects = 2,
+    /// It has a help text.
+    helps = 4,
+    /// It turns a switch off by a prefix of its name, undeclared.
+    negates = 8,
+    /// It understands names whose words are cut short, also where others begin like the whole of it.
+    abbreviates = 16,
+    /// It calls a function of the host for every value.
+    watches = 32
+};
+
 /// A library, and what the measurement has to know about it.
 struct Candidate {
     const char* name;
@@ -44,23 +68,22 @@ struct Candidate {
     /// `Option::declared` for one option.
     std::string (*declared)(const Option& option);
     std::unique_ptr<Library> (*make)();
-    /// Its declarations belong to the process: they are made once and never taken back. Such a
-    /// library is measured without a warm-up, and not in times.
-    bool onePerProcess = false;
-    /// An option given twice keeps both values. If not, there is no answer for `longCommandLine`.
-    bool collects = true;
-    bool hasHelp = true;
+    /// Bits of `Ability`.
+    unsigned abilities = takesBack | collects | helps;
 };
+
+/// Does what a host does before it parses.
+inline void declare(Library& library, const Workload& workload) {
+    library.declare(workload.options);
+    if (workload.isWatched)
+        library.watch();
+}
 
 /// The workload with every `Option::declared` in the candidate's notation.
 inline Workload prepared(const Candidate& candidate, Workload workload) {
     for (Option& option : workload.options)
         option.declared = candidate.declared(option);
     return workload;
-}
-
-[[noreturn]] inline void fail(const std::string& message) {
-    throw std::runtime_error(message);
 }
 
 } // namespace bench

@@ -52,7 +52,7 @@ public:
 
     void add(std::string name, char alias, Kind kind, std::string description) {
         std::size_t& slot = m_used[storageOf(kind)];
-        m_options.push_back({std::move(name), alias, kind, std::move(description), slot++, m_atMost, {}});
+        m_options.push_back({std::move(name), alias, kind, std::move(description), slot++, m_atMost});
     }
 
 private:
@@ -67,24 +67,18 @@ void declareEverydayOptions(std::vector<Option>& options, std::size_t atMost) {
         declarations.add(each.name, each.alias, each.kind, each.description);
 }
 
+void declareMany(std::vector<Option>& options, std::size_t count, Kind kind, Naming naming) {
+    Declarations declarations(options, 100);
+    for (std::size_t i = 0; i < count; ++i)
+        declarations.add(naming(i), 0, kind, "A setting of the program, number " + std::to_string(i) + ".");
+    declarations.add("input", 0, Kind::Positional, "The files to work on.");
+    for (Option& option : options)
+        option.isOnAtFirst = option.kind == Kind::Switch;
+}
+
 const Option* named(const std::vector<Option>& options, std::string_view name) {
     return &*std::find_if(options.begin(), options.end(),
                           [name](const Option& option) { return option.name == name; });
-}
-
-/// Names of one to three words. Every first word begins a twentieth of the table, as the groups of
-/// options of a large program do.
-std::string generatedName(std::size_t index) {
-    static constexpr std::array<const char*, 20> words = {
-        "archive", "backup", "cache",  "debug",   "error",  "filter", "graph", "history", "index", "join",
-        "kernel",  "link",   "memory", "network", "object", "print",  "query", "report",  "stack", "trace"};
-    const std::size_t count = words.size();
-    std::string name = words[index % count];
-    if (index >= count)
-        name.append("-").append(words[index / count % count]);
-    if (index >= count * count)
-        name.append("-").append(words[index / count / count % count]);
-    return name;
 }
 
 } // namespace
@@ -119,6 +113,19 @@ Workload everydayWorkload() {
     return workload;
 }
 
+Workload everydayWithDefaults() {
+    Workload workload = everydayWorkload();
+    for (Option& option : workload.options)
+        option.hasDefault = option.kind != Kind::List && option.kind != Kind::Positional;
+    return workload;
+}
+
+Workload everydayWatched() {
+    Workload workload = everydayWorkload();
+    workload.isWatched = true;
+    return workload;
+}
+
 Workload longCommandLine(std::size_t arguments) {
     Workload workload;
     declareEverydayOptions(workload.options, arguments);
@@ -139,13 +146,31 @@ Workload longCommandLine(std::size_t arguments) {
     return workload;
 }
 
-Workload manyOptions(std::size_t options) {
+std::string groupedName(std::size_t index) {
+    static constexpr std::array<const char*, 20> words = {
+        "archive", "backup", "cache",  "debug",   "error",  "filter", "graph", "history", "index", "join",
+        "kernel",  "link",   "memory", "network", "object", "print",  "query", "report",  "stack", "trace"};
+    const std::size_t count = words.size();
+    std::string name = words[index % count];
+    if (index >= count)
+        name.append("-").append(words[index / count % count]);
+    if (index >= count * count)
+        name.append("-").append(words[index / count / count % count]);
+    return name;
+}
+
+std::string featureName(std::size_t index) {
+    return "feature-" + groupedName(index);
+}
+
+std::string numberedName(std::size_t index) {
+    const std::string number = std::to_string(index);
+    return "feature-" + std::string(4 - std::min<std::size_t>(number.size(), 4), '0') + number;
+}
+
+Workload manyOptions(std::size_t options, Naming naming, std::size_t cut) {
     Workload workload;
-    Declarations declarations(workload.options, 100);
-    for (std::size_t i = 0; i < options; ++i)
-        declarations.add(generatedName(i), 0, Kind::List,
-                         "A setting of the program, number " + std::to_string(i) + ".");
-    declarations.add("input", 0, Kind::Positional, "The files to work on.");
+    declareMany(workload.options, options, Kind::List, naming);
     for (std::size_t i = 0; i < 85; ++i) {
         const std::string number = std::to_string(i);
         if (i % 17 == 5 || i % 17 == 12) {
@@ -153,7 +178,19 @@ Workload manyOptions(std::size_t options) {
             continue;
         }
         const bool joined = i % 17 % 5 != 0;
-        workload.given.push_back({&workload.options[i * options / 85], "value-" + number, joined});
+        workload.given.push_back({&workload.options[i * options / 85], "value-" + number, joined, cut});
+    }
+    return workload;
+}
+
+Workload manySwitches(std::size_t options, Naming naming) {
+    Workload workload;
+    declareMany(workload.options, options, Kind::Switch, naming);
+    for (std::size_t i = 0; i < 100; ++i) {
+        if (i % 10 == 5)
+            workload.given.push_back({nullptr, "file-" + std::to_string(i) + ".cpp", false});
+        else
+            workload.given.push_back({&workload.options[i * options / 100], "", false});
     }
     return workload;
 }

@@ -6,8 +6,8 @@
 ///
 /// MODE is `about` (prints the library's name and what it can do), `answer` (prints what was read),
 /// `measure` (writes every phase and its allocations to the standard error), `measure-again` (the
-/// same, and a second command line), `help` (prints the help text) or `measure-help`. WORKLOAD is
-/// `everyday`, which has one size, `arguments` or `options`.
+/// same, and a second command line), `measure-cold` (the same without a warm-up), `help` (prints the
+/// help text) or `measure-help`. WORKLOAD is one of `workloads`; those of the everyday have one size.
 
 #include "adapters/candidates.h"
 
@@ -47,29 +47,42 @@ void measure(const char* phase, Action action) {
     std::fprintf(stderr, "%s %lu\n", phase, after - before);
 }
 
+constexpr std::pair<const char*, Workload (*)(std::size_t size)> workloads[] = {
+    {"everyday", [](std::size_t) { return everydayWorkload(); }},
+    {"defaults", [](std::size_t) { return everydayWithDefaults(); }},
+    {"watched", [](std::size_t) { return everydayWatched(); }},
+    {"arguments", longCommandLine},
+    {"options", [](std::size_t size) { return manyOptions(size); }},
+    {"features", [](std::size_t size) { return manyOptions(size, featureName); }},
+    {"numbered", [](std::size_t size) { return manyOptions(size, numberedName); }},
+    {"cut-options", [](std::size_t size) { return manyOptions(size, groupedName, 1); }},
+    {"cut-features", [](std::size_t size) { return manyOptions(size, featureName, 1); }},
+    {"switches", [](std::size_t size) { return manySwitches(size, groupedName); }},
+    {"feature-switches", [](std::size_t size) { return manySwitches(size, featureName); }},
+};
+
 Workload workloadNamed(const std::string& name, std::size_t size) {
-    if (name == "everyday")
-        return prepared(candidate, everydayWorkload());
-    if (name == "arguments")
-        return prepared(candidate, longCommandLine(size));
-    if (name == "options")
-        return prepared(candidate, manyOptions(size));
+    for (const auto& [known, make] : workloads)
+        if (name == known)
+            return prepared(candidate, make(size));
     fail("no workload " + name);
 }
 
 void printAbout() {
     std::printf("%s\n", candidate.name);
-    if (candidate.collects)
-        std::puts("collects");
-    if (candidate.hasHelp)
-        std::puts("helps");
+    constexpr std::pair<Ability, const char*> names[] = {
+        {takesBack, "takes-back"}, {collects, "collects"},       {helps, "helps"},
+        {negates, "negates"},      {abbreviates, "abbreviates"}, {watches, "watches"}};
+    for (const auto& [ability, name] : names)
+        if ((candidate.abilities & ability) != 0)
+            std::puts(name);
 }
 
 void printAnswer(const Workload& workload) {
     CommandLine line(workload, candidate.dialect);
     Answer answer(workload);
     const std::unique_ptr<Library> library = candidate.make();
-    library->declare(workload.options);
+    declare(*library, workload);
     library->parse(line.count(), line.arguments());
     library->read(workload.options, answer);
     const std::string first = answer.canonicalText(workload.options);
@@ -84,7 +97,7 @@ void printAnswer(const Workload& workload) {
 
 /// A whole life before the measured one: allocates what the process allocates once.
 void warmUp() {
-    if (candidate.onePerProcess)
+    if ((candidate.abilities & takesBack) == 0)
         return;
     const Workload workload = workloadNamed("everyday", 0);
     CommandLine line(workload, candidate.dialect);
@@ -106,17 +119,31 @@ void measureAgain(Library& library, const Workload& workload, Answer& answer) {
     measure("again-read", [&] { library.read(workload.options, answer); });
 }
 
-void measurePhases(const Workload& workload, bool again) {
+/// Declarations that cannot be taken back have no whole life before: only the parser is warmed up.
+void warmUpDeclared(Library& library, const Workload& workload, Answer& answer) {
+    if ((candidate.abilities & takesBack) != 0)
+        return;
+    CommandLine line(workload, candidate.dialect);
+    library.parse(line.count(), line.arguments());
+    library.read(workload.options, answer);
+    library.forget();
+    answer.clear();
+}
+
+void measurePhases(const Workload& workload, bool isWarm, bool again) {
     CommandLine line(workload, candidate.dialect);
     char** const arguments = line.arguments();
     Answer answer(workload);
-    warmUp();
+    if (isWarm)
+        warmUp();
     measure("nothing", [] {});
     std::unique_ptr<Library> library;
     measure("declare", [&] {
         library = candidate.make();
-        library->declare(workload.options);
+        declare(*library, workload);
     });
+    if (isWarm)
+        warmUpDeclared(*library, workload, answer);
     measure("parse", [&] { library->parse(line.count(), arguments); });
     measure("read", [&] { library->read(workload.options, answer); });
     if (again)
@@ -157,9 +184,11 @@ int run(int argc, char** argv) {
     else if (mode == "answer")
         printAnswer(workload);
     else if (mode == "measure")
-        measurePhases(workload, false);
+        measurePhases(workload, true, false);
     else if (mode == "measure-again")
-        measurePhases(workload, true);
+        measurePhases(workload, true, true);
+    else if (mode == "measure-cold")
+        measurePhases(workload, false, false);
     else if (mode == "help")
         printHelp(workload);
     else if (mode == "measure-help")

@@ -82,7 +82,7 @@ void addAll() {
         add("W1 again", *candidate, usedAgain, everydayWorkload);
         add("W2", *candidate, parseAlone, [] { return longCommandLine(10000); });
         add("W3", *candidate, parseAlone, [] { return manyOptions(1000); });
-        if (candidate->hasHelp)
+        if ((candidate->abilities & helps) != 0)
             add("W4", *candidate, helpAlone, everydayWorkload);
     }
 }
