@@ -82,9 +82,8 @@ public:
 
 private:
     std::size_t find(std::string_view name) const {
-        const std::uint64_t firstByte = tarv::Names::bitOf(name.front());
         for (std::size_t i = 0; i < m_names.size(); ++i)
-            if ((m_names[i].firstBytes() & firstByte) != 0 && m_names[i].front() == name)
+            if (m_names[i].front() == name)
                 return i;
         fail("unknown option " + std::string(name));
     }

@@ -12,8 +12,8 @@
 
 namespace tarv_3_3 {
 
-/// The names of one option, the primary one first. Knows with which bytes they begin: whoever looks for
-/// a name in a large table need not look at each.
+/// The names of one option, the primary one first. Knows with which bytes their first two words begin:
+/// whoever looks for a name in a large table need not look at each.
 class TARV_API Names {
 public:
     using allocator_type = internal::ArenaAllocator<std::string>;
@@ -28,7 +28,7 @@ public:
         : m_names(std::move(other.m_names), allocator), m_firstBytes(other.m_firstBytes) {}
     Names(std::initializer_list<std::string> names) : m_names(names) {
         for (const std::string& name : names) {
-            m_firstBytes |= bitOf(name[0]);
+            noteFirstBytes(name);
         }
     }
 
@@ -38,7 +38,7 @@ public:
     /// Adds the name that a string is made of.
     template <class... Parts>
     void emplace_back(Parts&&... parts) {
-        m_firstBytes |= bitOf(m_names.emplace_back(std::forward<Parts>(parts)...)[0]);
+        noteFirstBytes(m_names.emplace_back(std::forward<Parts>(parts)...));
     }
     void push_back(std::string name) { emplace_back(std::move(name)); }
 
@@ -51,16 +51,36 @@ public:
     const_iterator begin() const { return m_names.begin(); }
     const_iterator end() const { return m_names.end(); }
 
-    /// The bits of the first bytes of all names.
-    std::uint64_t firstBytes() const { return m_firstBytes; }
-    /// The bit for a byte, which is also that of others.
+    /// Two sets of bytes, one bit for each, which is also that of others: those with which first words
+    /// begin, and those with which second words do.
+    struct Pattern {
+        std::uint64_t firstWord;
+        std::uint64_t secondWord;
+    };
     static std::uint64_t bitOf(char byte) { return std::uint64_t(1) << (static_cast<unsigned>(byte) % 64); }
+    /// In the second set, for a name of one word. No word begins with a dash.
+    static constexpr std::uint64_t noWord = std::uint64_t(1) << ('-' % 64);
+    static constexpr std::uint64_t anyByte = ~std::uint64_t(0);
+    static constexpr Pattern anything = {anyByte, anyByte};
+
+    /// Whether some name may begin as `pattern` says. False only where none does.
+    bool mayFit(const Pattern& pattern) const {
+        return (m_firstBytes.firstWord & pattern.firstWord) != 0 &&
+               (m_firstBytes.secondWord & pattern.secondWord) != 0;
+    }
 
     friend bool operator==(const Names& left, const Names& right) { return left.m_names == right.m_names; }
 
 private:
+    // An empty word counts as one that begins with a dash, or with the zero behind the name.
+    void noteFirstBytes(const std::string& name) {
+        m_firstBytes.firstWord |= bitOf(name[0]);
+        const std::size_t wordEnd = name.find('-');
+        m_firstBytes.secondWord |= wordEnd != std::string::npos ? bitOf(name[wordEnd + 1]) : noWord;
+    }
+
     List m_names;
-    std::uint64_t m_firstBytes = 0;
+    Pattern m_firstBytes = {0, 0};
 };
 
 } // namespace tarv_3_3

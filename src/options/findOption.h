@@ -12,6 +12,10 @@ namespace tarv_3_3 {
 /// What stands before the name of a switch to turn it off.
 inline constexpr std::string_view negation = "no-";
 
+inline bool beginsWithNegation(std::string_view name) {
+    return name.substr(0, negation.size()) == negation;
+}
+
 /// Finds the first record that has exactly the name `name`, or is a switch and has the name behind
 /// "no-". Returns 0 with its place in `index`, or 1 with `index` untouched.
 TARV_API int findOption(const std::string& name, unsigned long& index,

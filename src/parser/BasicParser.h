@@ -99,7 +99,7 @@ private:
     TARV_HIDDEN int parseArguments(int argc, const char* const* argv, IParseResult* result);
     TARV_HIDDEN int parseUpToMarker(const std::string& endMarker, std::vector<std::string>& arguments,
                                     IParseResult* result);
-    TARV_HIDDEN int dropUnknown(std::vector<std::string>& arguments, std::string& error);
+    TARV_HIDDEN int dropUnknown(const std::string& argument, std::string& error, std::size_t& consumed);
     TARV_HIDDEN int parseAsPositional(const std::string& argument, ParseResult* result, std::string& error);
     TARV_HIDDEN int checkDeclared(const Entries::List& entries);
     TARV_HIDDEN int checkActions(const Entries::List& entries, std::string& error);

@@ -6,7 +6,7 @@
 #include "parser/messages.h"
 #include "platform/logLine.h"
 #include "recognition/AbbreviationParser.h"
-#include "recognition/ArgumentWindow.h"
+#include "recognition/ArgumentSpan.h"
 #include "recognition/PositionalOptionsParser.h"
 #include "result/ParseResult.h"
 
@@ -25,22 +25,6 @@ void switchLog(std::vector<std::string>& arguments) {
     if (isOn) {
         arguments.erase(arguments.begin());
     }
-}
-
-// The recognizer of the highest priority that takes the front argument; null when none does.
-template <class Recognizers>
-IArgumentParser* chooseRecognizer(const Recognizers& recognizers, std::vector<std::string>& arguments,
-                                  std::vector<OptionDescription>& options) {
-    IArgumentParser* chosen = nullptr;
-    int highest = -99999999;
-    for (IArgumentParser* recognizer : recognizers) {
-        std::string message;
-        if (recognizer->recognize(arguments, options, message) == 0 && recognizer->getPriority() > highest) {
-            chosen = recognizer;
-            highest = recognizer->getPriority();
-        }
-    }
-    return chosen;
 }
 
 bool isAction(const OptionDescription& option) {
@@ -106,19 +90,21 @@ int BasicParser::parse_phase_one(const std::string& endMarker, std::vector<std::
     const auto flags = static_cast<unsigned int>(m_flags);
     PositionalOptionsParser positional(this, &m_garbage, flags, listeners());
     AbbreviationParser abbreviation(this, &m_garbage, flags, listeners());
-    IArgumentParser* const recognizers[] = {&positional, &abbreviation};
     IResultCollector* const collector = static_cast<ParseResult*>(result);
-    std::vector<OptionDescription>& options = m_registry.m_options;
-    ArgumentWindow window(arguments);
-    while (window.fill() && window.arguments().front() != endMarker) {
-        IArgumentParser* const recognizer = chooseRecognizer(recognizers, window.arguments(), options);
-        if (recognizer == &positional && (m_flags & flagPositionalTakesRest) != 0) {
-            window.fillWithRest();
+    const std::vector<OptionDescription>& options = m_registry.m_options;
+    ConsumedArguments consumed(arguments);
+    while (consumed.count < arguments.size() && arguments[consumed.count] != endMarker) {
+        const ArgumentSpan left = consumed.left();
+        // Both look at the argument; the named option has the higher priority.
+        const bool mayBePositional = positional.takes(left.front(), options);
+        int status = parseOk;
+        if (abbreviation.takes(left.front(), options)) {
+            status = abbreviation.bind(left, collector, options, error, consumed.count);
+        } else if (mayBePositional) {
+            status = positional.bind(left, collector, options, error, consumed.count);
+        } else {
+            status = dropUnknown(left.front(), error, consumed.count);
         }
-        unsigned long index = 0;
-        const int status = recognizer != nullptr
-                               ? recognizer->parse(window.arguments(), collector, options, index, error)
-                               : dropUnknown(window.arguments(), error);
         if (status != parseOk) {
             return status;
         }
@@ -131,15 +117,14 @@ Listeners BasicParser::listeners() const {
     return m_handlers.empty() && typeid(*this) == typeid(BasicParser) ? Listeners::none : Listeners::some;
 }
 
-int BasicParser::dropUnknown(std::vector<std::string>& arguments, std::string& error) {
-    const std::string& argument = arguments.front();
+int BasicParser::dropUnknown(const std::string& argument, std::string& error, std::size_t& consumed) {
     const bool unknownToAll = onUknownArgument(argument.c_str());
     if (unknownToAll && (m_flags & flagRejectUnknown) != 0) {
         error = messages::unknownArgument(argument);
         return parseFailed;
     }
     internal::writeLogLine("ignoring ", argument);
-    arguments.erase(arguments.begin());
+    ++consumed;
     return parseOk;
 }
 
@@ -171,14 +156,15 @@ int BasicParser::parseAsPositional(const std::string& argument, ParseResult* res
     const RegisteredOptionStorage::Pin pin(m_registry);
     PositionalOptionsParser recognizer(
         this, &m_garbage, static_cast<unsigned int>(m_flags & ~flagDashIsNotPositional), listeners());
-    std::vector<std::string> arguments(1, argument);
-    int status = recognizer.recognize(arguments, m_registry.m_options, error);
-    internal::writeLogLine("collectNonparsingArguments: recognize result: ", status, ", message: ", error);
-    if (status != 0) {
+    const bool isTaken = recognizer.takes(argument, m_registry.m_options);
+    internal::writeLogLine("collectNonparsingArguments: recognize result: ", isTaken ? 0 : 1,
+                           ", message: ", error);
+    if (!isTaken) {
         return parseOk;
     }
-    unsigned long index = 0;
-    status = recognizer.parse(arguments, result, m_registry.m_options, index, error);
+    std::size_t consumed = 0;
+    const int status =
+        recognizer.bind({&argument, &argument + 1}, result, m_registry.m_options, error, consumed);
     internal::writeLogLine("collectNonparsingArguments: parse result: ", status, ", message: ", error);
     return status;
 }

@@ -1,12 +1,12 @@
 #include "recognition/AbbreviationParser.h"
 
-#include <algorithm>
 #include <string_view>
 #include <utility>
 
 #include "options/OptionDescription.h"
 #include "options/findOption.h"
 #include "recognition/messages.h"
+#include "recognition/nameMatching.h"
 #include "recognition/tokenSyntax.h"
 #include "tarv_3_3/EventHandler.h"
 
@@ -15,54 +15,6 @@ namespace tarv_3_3 {
 namespace messages = internal::messages;
 
 namespace {
-
-std::string negate(const std::string& name) {
-    std::string negated(negation);
-    return negated.append(name);
-}
-
-// Goes through both names at once; at the end of each typed word skips what the candidate's has more.
-NameScore scoreName(std::string_view typed, std::string_view candidate) {
-    if (typed == candidate) {
-        return {true, 2 * static_cast<std::int32_t>(1 + std::count(typed.begin(), typed.end(), '-'))};
-    }
-    std::int32_t score = 0;
-    std::size_t place = 0;
-    for (std::size_t i = 0; i <= typed.size(); ++i, ++place) {
-        const bool isLastWord = i == typed.size();
-        if (!isLastWord && typed[i] != '-') {
-            if (place == candidate.size() || candidate[place] != typed[i]) {
-                return {false, 0};
-            }
-            continue;
-        }
-        const std::size_t wordEnd = std::min(candidate.find('-', place), candidate.size());
-        score += place == wordEnd ? 2 : 1;
-        place = wordEnd;
-        if (isLastWord == (wordEnd < candidate.size())) {
-            // One of the names has more words; what the candidate has more is no misfit.
-            return {false, isLastWord ? score : 0};
-        }
-    }
-    return {true, score};
-}
-
-// Whether the first word of a typed name of several may stand for "no".
-bool beginsLikeNegation(std::string_view typed) {
-    for (std::size_t i = 0; i < std::min(typed.size(), negation.size()); ++i) {
-        if (typed[i] == '-' || typed[i] != negation[i]) {
-            return typed[i] == '-';
-        }
-    }
-    return false;
-}
-
-// What scoreName would say of "no-" and a name that fits, for a typed name that begins like it.
-NameScore scoreNegated(std::string_view typed, std::string_view name) {
-    const std::size_t firstWord = typed.find('-');
-    const NameScore rest = scoreName(typed.substr(firstWord + 1), name);
-    return {rest.sameWordCount, rest.score + (firstWord + 1 == negation.size() ? 2 : 1)};
-}
 
 std::string quotedNames(const std::vector<std::string>& names) {
     std::string list;
@@ -94,7 +46,16 @@ int AbbreviationParser::getPriority() {
 
 int AbbreviationParser::recognize(std::vector<std::string>& args, std::vector<OptionDescription>& options,
                                   std::string& err) {
-    const std::string& argument = args.at(0);
+    return look(args.at(0), options, err);
+}
+
+bool AbbreviationParser::takes(const std::string& argument, const std::vector<OptionDescription>& options) {
+    std::string message;
+    return look(argument, options, message) == 0;
+}
+
+int AbbreviationParser::look(const std::string& argument, const std::vector<OptionDescription>& options,
+                             std::string& err) {
     log(": recognizing argument '", argument, "'");
     m_optionIndex = -1;
     forgetBest();
@@ -103,7 +64,7 @@ int AbbreviationParser::recognize(std::vector<std::string>& args, std::vector<Op
         return 1;
     }
     if (m_listeners != Listeners::none) {
-        m_classifier = SpaceClassifier();
+        m_classifier.follow();
     }
     m_token = splitToken(argument, m_classifier);
     const std::string_view name = m_token.nameIn(argument);
@@ -126,41 +87,23 @@ int AbbreviationParser::recognize(std::vector<std::string>& args, std::vector<Op
 void AbbreviationParser::makeOptionNamesList(std::vector<OptionDescription>& options,
                                              std::vector<DecomposedName>& names) {
     for (const OptionDescription& option : options) {
-        for (const std::string& name : option.m_names) {
-            names.emplace_back(name);
-            if (option.m_type == vtBool) {
-                names.emplace_back(negate(name));
-            }
-        }
+        forEachCandidate(option, [&](const Candidate& candidate) { names.emplace_back(candidate.text()); });
     }
 }
 
 // What makeOptionNamesList, makeNameMatch and findBest do one after the other, in one pass over the
-// table. Most records are done with after the first byte of the typed name, unless its first word is
-// empty, as which every name begins, or may stand for the "no" of a switch.
+// table.
 void AbbreviationParser::keepBest(std::string_view typed, const std::vector<OptionDescription>& options) {
-    const bool anyMayFit = typed.empty() || beginsLikeNegation(typed);
-    const std::uint64_t firstByte = anyMayFit ? ~std::uint64_t(0) : Names::bitOf(typed.front());
+    const Names::Pattern pattern = patternOf(typed);
     for (const OptionDescription& option : options) {
-        if ((option.m_names.firstBytes() & firstByte) != 0) {
-            for (const std::string& name : option.m_names) {
-                keepIfBest(typed, name, option, options);
-            }
+        if (option.m_names.mayFit(pattern)) {
+            forEachCandidate(option, [&](const Candidate& candidate) {
+                if (isBest(scoreCandidate(typed, candidate))) {
+                    m_bestNames.push_back(candidate.text());
+                    m_optionIndex = &option - options.data();
+                }
+            });
         }
-    }
-}
-
-// Not inlined, so that the loop over the table has the registers to itself.
-[[gnu::noinline]] void AbbreviationParser::keepIfBest(std::string_view typed, const std::string& name,
-                                                      const OptionDescription& option,
-                                                      const std::vector<OptionDescription>& options) {
-    if (name.size() >= typed.size() && isBest(scoreName(typed, name))) {
-        m_bestNames.push_back(name);
-        m_optionIndex = &option - options.data();
-    }
-    if (option.m_type == vtBool && beginsLikeNegation(typed) && isBest(scoreNegated(typed, name))) {
-        m_bestNames.push_back(negate(name));
-        m_optionIndex = &option - options.data();
     }
 }
 
@@ -220,73 +163,86 @@ int AbbreviationParser::parse(std::vector<std::string>& args, IResultCollector* 
                               std::vector<OptionDescription>& options, unsigned long& index,
                               std::string& err) {
     index = static_cast<unsigned long>(m_optionIndex);
-    log(": parsing argument '", args.at(0), "'");
-    const std::string_view name = m_token.nameIn(args[0]);
+    args.at(0);
+    ConsumedArguments consumed(args);
+    return bind(consumed.left(), collector, options, err, consumed.count);
+}
+
+int AbbreviationParser::bind(ArgumentSpan left, IResultCollector* collector,
+                             const std::vector<OptionDescription>& options, std::string& err,
+                             std::size_t& consumed) {
+    const std::string& argument = left.front();
+    log(": parsing argument '", argument, "'");
+    const std::string_view name = m_token.nameIn(argument);
     if (name.empty() || name.front() == '-') {
-        return fail(err, messages::unknownOption(args[0]));
+        return fail(err, messages::unknownOption(argument));
     }
     if (m_bestNames.size() > 1) {
-        return fail(err, messages::ambiguousOption(std::string(name), formatTokenMessage(args[0]),
+        return fail(err, messages::ambiguousOption(std::string(name), inArgument(argument),
                                                    quotedNames(m_bestNames)));
     }
-    const OptionDescription& option = recordToBind(options.at(index));
-    std::string value(m_token.valueIn(args[0]));
+    const OptionDescription& option = recordToBind(options, static_cast<std::size_t>(m_optionIndex));
     log(": detected option: '", option.primaryName(), "'");
+    std::string_view value = m_token.valueIn(argument);
     if (m_token.hasValue) {
         log(": value from the same argument taken: '", value, "'");
     }
-    std::size_t consumed = 1;
-    int status = findValue(option, args, value, consumed, err);
+    std::size_t used = 1;
+    int status = findValue(option, left, value, used, err);
     if (status != parseOk) {
         return status;
     }
     m_handler->onOptionParse(option.primaryName().c_str());
     log(": sent event on option parsed");
-    status = parseValueAndAddOption(value, err, option, args, collector);
+    status = bindValue(value, option, argument, collector, err);
     if (status != parseOk) {
         return status;
     }
-    const auto firstLeft = args.begin() + static_cast<std::ptrdiff_t>(consumed);
-    for (auto argument = args.begin(); argument != firstLeft; ++argument) {
-        log(": removing argument: '", *argument, "'");
+    for (std::size_t i = 0; i < used; ++i) {
+        log(": removing argument: '", left.first[i], "'");
     }
-    args.erase(args.begin(), firstLeft);
+    consumed += used;
     return parseOk;
 }
 
-int AbbreviationParser::findValue(const OptionDescription& option, std::vector<std::string>& args,
-                                  std::string& value, std::size_t& consumed, std::string& err) {
+int AbbreviationParser::findValue(const OptionDescription& option, ArgumentSpan left, std::string_view& value,
+                                  std::size_t& used, std::string& err) {
+    const std::string& argument = left.front();
     if (option.m_type == vtNull) {
-        return value.empty()
-                   ? static_cast<int>(parseOk)
-                   : fail(err, messages::takesNoValue(option.primaryName(), formatTokenMessage(args[0])));
+        return value.empty() ? static_cast<int>(parseOk)
+                             : fail(err, messages::takesNoValue(option.primaryName(), inArgument(argument)));
     }
     if (option.m_type == vtBool) {
         if (!value.empty()) {
-            return fail(err, messages::isBoolean(option.primaryName(), formatTokenMessage(args[0])));
+            return fail(err, messages::isBoolean(option.primaryName(), inArgument(argument)));
         }
-        value += m_bestNames.at(0).compare(0, negation.size(), negation) == 0 ? '0' : '1';
+        value = beginsWithNegation(m_bestNames.at(0)) ? "0" : "1";
         return parseOk;
     }
-    return value.empty() ? takeNextArgument(option, args, value, consumed, err) : static_cast<int>(parseOk);
+    return value.empty() ? takeNextArgument(option, left, value, used, err) : static_cast<int>(parseOk);
 }
 
-int AbbreviationParser::takeNextArgument(const OptionDescription& option, std::vector<std::string>& args,
-                                         std::string& value, std::size_t& consumed, std::string& err) {
+int AbbreviationParser::takeNextArgument(const OptionDescription& option, ArgumentSpan left,
+                                         std::string_view& value, std::size_t& used, std::string& err) {
     log(": no value in the same argument, looking next");
-    if (args.size() < 2) {
-        return fail(err, messages::requiresValue(option.primaryName(), formatTokenMessage(args[0])));
+    const std::string* const next = left.next();
+    if (next == nullptr) {
+        return fail(err, messages::requiresValue(option.primaryName(), inArgument(left.front())));
     }
-    value = args[1];
-    if (beginsWithHyphen(value)) {
-        return fail(err, messages::nextLooksLikeOption(option.primaryName(), value));
+    if (beginsWithHyphen(*next)) {
+        return fail(err, messages::nextLooksLikeOption(option.primaryName(), *next));
     }
-    consumed = 2;
+    value = *next;
+    used = 2;
     log(": got value from the next argument: '", value, "'");
     if (value.empty()) {
-        return fail(err, messages::requiresValue(option.primaryName(), formatTokenMessage(args[0])));
+        return fail(err, messages::requiresValue(option.primaryName(), inArgument(left.front())));
     }
     return parseOk;
+}
+
+std::string AbbreviationParser::inArgument(std::string argument) {
+    return formatTokenMessage(argument);
 }
 
 int AbbreviationParser::fail(std::string& err, std::string message) const {

@@ -3,20 +3,14 @@
 #include <cstdint>
 #include <string_view>
 
+#include "recognition/ArgumentSpan.h"
 #include "recognition/DecomposedName.h"
 #include "recognition/IArgumentParser.h"
 #include "recognition/SpaceClassifier.h"
+#include "recognition/nameMatching.h"
 #include "recognition/tokenSyntax.h"
 
 namespace tarv_3_3 {
-
-/// How well a candidate name fits a typed one.
-struct NameScore {
-    /// Whether both have the same number of words.
-    bool sameWordCount;
-    /// 0 when some word does not fit, or the typed name has more words.
-    std::int32_t score;
-};
 
 /// Recognizes named options, each word of a name abbreviated to any prefix.
 ///
@@ -52,6 +46,15 @@ public:
 
     int getPriority() override;
 
+    ///@{
+    /// What `recognize` and `parse` do, for the options of a registry, and without removing anything: what is
+    /// consumed is added to `consumed`.
+    TARV_HIDDEN bool takes(const std::string& argument, const std::vector<OptionDescription>& options);
+    TARV_HIDDEN int bind(ArgumentSpan left, IResultCollector* collector,
+                         const std::vector<OptionDescription>& options, std::string& err,
+                         std::size_t& consumed);
+    ///@}
+
     /// Appends every candidate name, in the order of the table.
     void makeOptionNamesList(std::vector<OptionDescription>& options, std::vector<DecomposedName>& names);
 
@@ -65,18 +68,18 @@ public:
     int findBest(const std::vector<NameMatch>& matches, DecomposedName& best, std::string& err);
 
 private:
+    TARV_HIDDEN int look(const std::string& argument, const std::vector<OptionDescription>& options,
+                         std::string& err);
     TARV_HIDDEN void forgetBest();
     TARV_HIDDEN void keepBest(std::string_view typed, const std::vector<OptionDescription>& options);
-    TARV_HIDDEN void keepIfBest(std::string_view typed, const std::string& name,
-                                const OptionDescription& option,
-                                const std::vector<OptionDescription>& options);
     TARV_HIDDEN bool isBest(NameScore found);
     TARV_HIDDEN int findOutcome(std::string& err) const;
+    TARV_HIDDEN std::string inArgument(std::string argument);
     TARV_HIDDEN int fail(std::string& err, std::string message) const;
-    TARV_HIDDEN int findValue(const OptionDescription& option, std::vector<std::string>& args,
-                              std::string& value, std::size_t& consumed, std::string& err);
-    TARV_HIDDEN int takeNextArgument(const OptionDescription& option, std::vector<std::string>& args,
-                                     std::string& value, std::size_t& consumed, std::string& err);
+    TARV_HIDDEN int findValue(const OptionDescription& option, ArgumentSpan left, std::string_view& value,
+                              std::size_t& used, std::string& err);
+    TARV_HIDDEN int takeNextArgument(const OptionDescription& option, ArgumentSpan left,
+                                     std::string_view& value, std::size_t& used, std::string& err);
 
     /// The place of the option that the last `recognize` found; -1 for none.
     std::int64_t m_optionIndex = -1;

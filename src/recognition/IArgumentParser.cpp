@@ -1,6 +1,6 @@
 #include "recognition/IArgumentParser.h"
 
-#include <utility>
+#include <algorithm>
 #if __has_include(<sys/single_threaded.h>)
 #include <sys/single_threaded.h>
 #endif
@@ -53,8 +53,11 @@ int IArgumentParser::getNewPositionIndex() {
     return index;
 }
 
-const OptionDescription& IArgumentParser::recordToBind(const OptionDescription& record) {
-    if (m_listeners == Listeners::none) {
+const OptionDescription& IArgumentParser::recordToBind(const std::vector<OptionDescription>& options,
+                                                       std::size_t index) {
+    const OptionDescription& record = options.at(index);
+    const bool mayBeRefined = m_listeners != Listeners::none && &record == &options.back();
+    if (!mayBeRefined) {
         return record;
     }
     m_copy = std::make_unique<OptionDescription>(record);
@@ -64,13 +67,22 @@ const OptionDescription& IArgumentParser::recordToBind(const OptionDescription& 
 int IArgumentParser::parseValueAndAddOption(std::string& value, std::string& err,
                                             const OptionDescription& option, std::vector<std::string>& args,
                                             IResultCollector* collector) {
+    const int status = bindValue(value, option, args[0], collector, err);
+    if (option.m_tokenizer == 0 && !m_occurrence.values.empty()) {
+        value = m_occurrence.values.front().text;
+    }
+    return status;
+}
+
+int IArgumentParser::bindValue(std::string_view value, const OptionDescription& option,
+                               const std::string& argument, IResultCollector* collector, std::string& err) {
     m_occurrence.positions.clear();
     m_occurrence.positions.push_back(getNewPositionIndex());
     m_occurrence.values.clear();
     if (!value.empty()) {
         log(": adding values to result container:");
-        const int status = option.m_tokenizer == 0 ? bindSingleValue(value, err, option, args[0])
-                                                   : bindList(value, err, option, args[0]);
+        const int status = option.m_tokenizer == 0 ? bindSingleValue(value, option, argument, err)
+                                                   : bindList(value, option, argument, err);
         if (status != parseOk) {
             return status;
         }
@@ -82,13 +94,12 @@ int IArgumentParser::parseValueAndAddOption(std::string& value, std::string& err
     return parseOk;
 }
 
-int IArgumentParser::bindSingleValue(std::string& value, std::string& err, const OptionDescription& option,
-                                     const std::string& argument) {
+int IArgumentParser::bindSingleValue(std::string_view value, const OptionDescription& option,
+                                     const std::string& argument, std::string& err) {
     log(": not using tokenizer");
-    OptionValue& bound = m_occurrence.values.emplace_back();
-    const int status = bindText(value, bound, value, err, option, argument);
-    bound.text = value;
-    return status;
+    const int status = bindText(value, option, argument, err);
+    const std::string& text = m_occurrence.values.front().text;
+    return status == parseVetoed ? failVetoed(text, option, argument, err) : status;
 }
 
 // Room for one more value, and, where it has to be made, for all that the pieces of `rest` will need: a long
@@ -106,48 +117,56 @@ void IArgumentParser::makeRoomForValues(std::string_view rest, char separator) {
     values.reserve(values.size() + pieces);
 }
 
-int IArgumentParser::bindList(const std::string& value, std::string& err, const OptionDescription& option,
-                              const std::string& argument) {
+int IArgumentParser::bindList(std::string_view value, const OptionDescription& option,
+                              const std::string& argument, std::string& err) {
     const char separator = option.m_tokenizer;
     log(": using tokenizer on char: '", separator, "'");
     std::size_t start = value.find_first_not_of(separator);
-    if (start == std::string::npos) {
-        err = messages::noValueParsed(value, option.primaryName());
+    if (start == std::string_view::npos) {
+        err = messages::noValueParsed(std::string(value), option.primaryName());
         log(": ", err);
         return parseFailed;
     }
-    while (start != std::string::npos) {
-        const std::size_t end = value.find(separator, start);
-        makeRoomForValues(std::string_view(value).substr(start), separator);
-        OptionValue& bound = m_occurrence.values.emplace_back();
-        bound.text.assign(value, start, end - start);
-        log(": value is: '", bound.text, "'");
-        const int status = bindText(bound.text, bound, value, err, option, argument);
+    while (start != std::string_view::npos) {
+        const std::size_t end = std::min(value.find(separator, start), value.size());
+        const std::string_view piece = value.substr(start, end - start);
+        log(": value is: '", piece, "'");
+        makeRoomForValues(value.substr(start), separator);
+        const int status = bindText(piece, option, argument, err);
         if (status != parseOk) {
-            return status;
+            return status == parseVetoed ? failVetoed(std::string(value), option, argument, err) : status;
         }
-        log(": sent event on value parsed, option: '", option.primaryName(), "', value: '", bound.text, "'");
+        log(": sent event on value parsed, option: '", option.primaryName(), "', value: '",
+            m_occurrence.values.back().text, "'");
         start = value.find_first_not_of(separator, end);
     }
     return parseOk;
 }
 
-int IArgumentParser::bindText(std::string& text, OptionValue& bound, const std::string& value,
-                              std::string& err, const OptionDescription& option,
-                              const std::string& argument) {
-    if (!option.validate(text, bound.value, err)) {
+// Appends one value to the occurrence.
+int IArgumentParser::bindText(std::string_view text, const OptionDescription& option,
+                              const std::string& argument, std::string& err) {
+    OptionValue& bound = m_occurrence.values.emplace_back();
+    bound.text = text;
+    if (!option.validate(bound.text, bound.value, err)) {
         err = messages::invalidValue(argument, err);
         log(": ", err);
         return parseFailed;
     }
     bound.position = getNewPositionIndex();
-    const Value shown(text.c_str(), bound.value, bound.position);
-    if (!m_handler->onValueParse(option.primaryName().c_str(), shown)) {
-        err = messages::vetoedValue(value, option.primaryName(), argument);
-        log(err, " One of the handler signaled the value is not valid.");
-        return parseVetoed;
-    }
-    return parseOk;
+    return isAccepted(bound, option) ? parseOk : parseVetoed;
+}
+
+bool IArgumentParser::isAccepted(const OptionValue& bound, const OptionDescription& option) {
+    const Value shown(bound.text.c_str(), bound.value, bound.position);
+    return m_handler->onValueParse(option.primaryName().c_str(), shown);
+}
+
+int IArgumentParser::failVetoed(const std::string& value, const OptionDescription& option,
+                                const std::string& argument, std::string& err) {
+    err = messages::vetoedValue(value, option.primaryName(), argument);
+    log(err, " One of the handler signaled the value is not valid.");
+    return parseVetoed;
 }
 
 } // namespace tarv_3_3

@@ -75,9 +75,15 @@ protected:
     int parseValueAndAddOption(std::string& value, std::string& err, const OptionDescription& option,
                                std::vector<std::string>& args, IResultCollector* collector);
 
-    /// The record to bind an argument to: `record`, or, since a handler may refine it when it is told,
-    /// a copy as it is now.
-    const OptionDescription& recordToBind(const OptionDescription& record);
+    /// The same without the completed value.
+    TARV_HIDDEN int bindValue(std::string_view value, const OptionDescription& option,
+                              const std::string& argument, IResultCollector* collector, std::string& err);
+
+    /// The record to bind an argument to. A handler may refine the last record when it is told of the
+    /// argument; of that one it is a copy as it is now. Throws `std::out_of_range` when there is no such
+    /// record.
+    TARV_HIDDEN const OptionDescription& recordToBind(const std::vector<OptionDescription>& options,
+                                                      std::size_t index);
 
     /// Traces one line: the recognizer's name, then the parts.
     template <class... Parts>
@@ -92,13 +98,16 @@ protected:
     Listeners m_listeners;
 
 private:
-    TARV_HIDDEN int bindSingleValue(std::string& value, std::string& err, const OptionDescription& option,
-                                    const std::string& argument);
-    TARV_HIDDEN int bindList(const std::string& value, std::string& err, const OptionDescription& option,
-                             const std::string& argument);
+    TARV_HIDDEN int bindSingleValue(std::string_view value, const OptionDescription& option,
+                                    const std::string& argument, std::string& err);
+    TARV_HIDDEN int bindList(std::string_view value, const OptionDescription& option,
+                             const std::string& argument, std::string& err);
     TARV_HIDDEN void makeRoomForValues(std::string_view rest, char separator);
-    TARV_HIDDEN int bindText(std::string& text, OptionValue& bound, const std::string& value,
-                             std::string& err, const OptionDescription& option, const std::string& argument);
+    TARV_HIDDEN int bindText(std::string_view text, const OptionDescription& option,
+                             const std::string& argument, std::string& err);
+    TARV_HIDDEN bool isAccepted(const OptionValue& bound, const OptionDescription& option);
+    TARV_HIDDEN int failVetoed(const std::string& value, const OptionDescription& option,
+                               const std::string& argument, std::string& err);
 
     std::unique_ptr<OptionDescription> m_copy;
     /// The one being bound. It keeps its memory for the next one. A parse that a handler starts

@@ -1,23 +1,11 @@
 #include "recognition/PositionalOptionsParser.h"
 
-#include <algorithm>
-
 #include "options/OptionDescription.h"
-#include "recognition/ArgumentWindow.h"
 #include "recognition/tokenSyntax.h"
 #include "tarv_3_3/EventHandler.h"
 #include "tarv_3_3/IParser.h"
 
 namespace tarv_3_3 {
-
-namespace {
-
-auto findPositional(const std::vector<OptionDescription>& options) {
-    return std::find_if(options.begin(), options.end(),
-                        [](const OptionDescription& option) { return option.m_positional; });
-}
-
-} // namespace
 
 PositionalOptionsParser::PositionalOptionsParser(EventHandler* handler, Garbage* garbage, unsigned int flags)
     : PositionalOptionsParser(handler, garbage, flags, Listeners::some) {}
@@ -32,43 +20,55 @@ PositionalOptionsParser::~PositionalOptionsParser() = default;
 
 int PositionalOptionsParser::recognize(std::vector<std::string>& args,
                                        std::vector<OptionDescription>& options, std::string& /*err*/) {
-    log(": recognizing argument '", args.at(0), "'");
-    if ((m_flags & flagDashIsNotPositional) != 0 && beginsWithHyphen(args[0])) {
-        return 1;
+    return takes(args.at(0), options) ? 0 : 1;
+}
+
+bool PositionalOptionsParser::takes(const std::string& argument,
+                                    const std::vector<OptionDescription>& options) {
+    log(": recognizing argument '", argument, "'");
+    if ((m_flags & flagDashIsNotPositional) != 0 && beginsWithHyphen(argument)) {
+        return false;
     }
-    return findPositional(options) != options.end() ? 0 : 1;
+    return findPositional(options) != options.size();
 }
 
 int PositionalOptionsParser::parse(std::vector<std::string>& args, IResultCollector* collector,
                                    std::vector<OptionDescription>& options, unsigned long& index,
                                    std::string& err) {
-    log(": parsing argument '", args.at(0), "'");
-    index = static_cast<unsigned long>(findPositional(options) - options.begin());
-    const OptionDescription& option = recordToBind(options.at(index));
-    // The trace and the event name the first declaration, whichever option takes the argument.
-    log(": option is '", options.front().primaryName(), "'");
-    if ((m_flags & flagPositionalTakesRest) == 0) {
-        return bindFront(args, collector, options, option, err);
-    }
-    ArgumentWindow window(args);
-    int status = parseOk;
-    while (status == parseOk && window.fill()) {
-        status = bindFront(window.arguments(), collector, options, option, err);
-    }
-    return status;
+    args.at(0);
+    index = findPositional(options);
+    ConsumedArguments consumed(args);
+    return bind(consumed.left(), collector, options, err, consumed.count);
 }
 
-int PositionalOptionsParser::bindFront(std::vector<std::string>& args, IResultCollector* collector,
-                                       const std::vector<OptionDescription>& options,
-                                       const OptionDescription& option, std::string& err) {
-    std::string value = args[0];
-    m_handler->onOptionParse(options.front().primaryName().c_str());
-    const int status = parseValueAndAddOption(value, err, option, args, collector);
-    if (status == parseOk) {
-        log(": removing argument: '", args[0], "'");
-        args.erase(args.begin());
+int PositionalOptionsParser::bind(ArgumentSpan left, IResultCollector* collector,
+                                  const std::vector<OptionDescription>& options, std::string& err,
+                                  std::size_t& consumed) {
+    log(": parsing argument '", left.front(), "'");
+    const OptionDescription& option = recordToBind(options, findPositional(options));
+    // The trace and the event name the first declaration, whichever option takes the argument.
+    log(": option is '", options.front().primaryName(), "'");
+    const bool takesRest = (m_flags & flagPositionalTakesRest) != 0;
+    const std::string* const end = takesRest ? left.end : left.first + 1;
+    for (const std::string* argument = left.first; argument != end; ++argument) {
+        m_handler->onOptionParse(options.front().primaryName().c_str());
+        const int status = bindValue(*argument, option, *argument, collector, err);
+        if (status != parseOk) {
+            return status;
+        }
+        log(": removing argument: '", *argument, "'");
+        ++consumed;
     }
-    return status;
+    return parseOk;
+}
+
+// Only the last record may become positional, so those before it are looked at once.
+std::size_t PositionalOptionsParser::findPositional(const std::vector<OptionDescription>& options) {
+    while (m_place + 1 < options.size() && !options[m_place].m_positional) {
+        ++m_place;
+    }
+    const bool isFound = m_place < options.size() && options[m_place].m_positional;
+    return isFound ? m_place : options.size();
 }
 
 int PositionalOptionsParser::getPriority() {

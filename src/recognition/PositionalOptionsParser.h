@@ -1,5 +1,6 @@
 #pragma once
 
+#include "recognition/ArgumentSpan.h"
 #include "recognition/IArgumentParser.h"
 
 namespace tarv_3_3 {
@@ -24,10 +25,20 @@ public:
 
     int getPriority() override;
 
+    ///@{
+    /// What `recognize` and `parse` do, without removing anything: what is consumed is added to `consumed`.
+    /// `options` is the same table every time, which may only have grown.
+    TARV_HIDDEN bool takes(const std::string& argument, const std::vector<OptionDescription>& options);
+    TARV_HIDDEN int bind(ArgumentSpan left, IResultCollector* collector,
+                         const std::vector<OptionDescription>& options, std::string& err,
+                         std::size_t& consumed);
+    ///@}
+
 private:
-    TARV_HIDDEN int bindFront(std::vector<std::string>& args, IResultCollector* collector,
-                              const std::vector<OptionDescription>& options, const OptionDescription& option,
-                              std::string& err);
+    TARV_HIDDEN std::size_t findPositional(const std::vector<OptionDescription>& options);
+
+    /// The place of the positional option, or of one that lies before it.
+    std::size_t m_place = 0;
 };
 
 } // namespace tarv_3_3

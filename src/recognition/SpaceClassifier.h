@@ -10,6 +10,13 @@ class SpaceClassifier {
 public:
     SpaceClassifier() : m_classes(&std::use_facet<std::ctype<char>>(m_locale)) {}
 
+    /// Goes over to what is the global locale now.
+    void follow() {
+        if (m_locale != std::locale()) {
+            *this = SpaceClassifier();
+        }
+    }
+
     bool isSpace(char character) const { return m_classes->is(std::ctype_base::space, character); }
 
 private:

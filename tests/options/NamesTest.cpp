@@ -13,7 +13,7 @@ TEST(Names, AreEmptyAtFirst) {
     EXPECT_TRUE(names.empty());
     EXPECT_EQ(names.size(), 0U);
     EXPECT_EQ(names.begin(), names.end());
-    EXPECT_EQ(names.firstBytes(), 0U);
+    EXPECT_FALSE(names.mayFit(Names::anything));
     EXPECT_THROW(names.at(0), std::out_of_range);
 }
 
@@ -35,13 +35,39 @@ TEST(Names, AreEqualInTheSameOrderOnly) {
     EXPECT_FALSE(Names({"a", "b"}) == Names({"a"}));
 }
 
-TEST(Names, HaveTheBitOfTheFirstByteOfEach) {
-    Names names = {"level", "Xy"};
-    EXPECT_EQ(names.firstBytes(), Names::bitOf('l') | Names::bitOf('X'));
-    names.emplace_back("\xE4");
-    EXPECT_EQ(names.firstBytes(), Names::bitOf('l') | Names::bitOf('X') | Names::bitOf('\xE4'));
-    names.emplace_back("");
-    EXPECT_NE(names.firstBytes() & Names::bitOf('\0'), 0U);
+// '\1' and 'A' have the same bit.
+TEST(Names, MayFitWhatTheirFirstTwoWordsBeginWith) {
+    const struct {
+        const char* name;
+        Names::Pattern pattern;
+        bool mayFit;
+    } rows[] = {
+        {"level", {Names::bitOf('l'), Names::noWord}, true},
+        {"level", {Names::bitOf('e'), Names::noWord}, false},
+        {"level", {Names::bitOf('l'), Names::bitOf('e')}, false},
+        {"level", {Names::bitOf('l'), Names::anyByte}, true},
+        {"level", {Names::anyByte, Names::noWord}, true},
+        {"log-file", {Names::bitOf('l'), Names::bitOf('f')}, true},
+        {"log-file", {Names::bitOf('l'), Names::bitOf('i')}, false},
+        {"log-file", {Names::bitOf('l'), Names::noWord}, false},
+        {"log-file", {Names::anyByte, Names::bitOf('f')}, true},
+        {"log-file-name", {Names::bitOf('l'), Names::bitOf('f')}, true},
+        {"log-file-name", {Names::bitOf('l'), Names::bitOf('n')}, false},
+        {"log-", {Names::bitOf('l'), Names::anyByte}, true},
+        {"log--x", {Names::bitOf('l'), Names::anyByte}, true},
+        {"-file", {Names::anyByte, Names::bitOf('f')}, true},
+        {"", {Names::anyByte, Names::noWord}, true},
+        {"\xE4-\xF6", {Names::bitOf('\xE4'), Names::bitOf('\xF6')}, true},
+        {"\1", {Names::bitOf('A'), Names::noWord}, true},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.name);
+        EXPECT_EQ(Names({row.name}).mayFit(row.pattern), row.mayFit);
+        EXPECT_TRUE(Names({row.name}).mayFit(Names::anything));
+        Names last = {"+-+"};
+        last.emplace_back(row.name);
+        EXPECT_EQ(last.mayFit(row.pattern), row.mayFit);
+    }
 }
 
 TEST(Names, HaveABitForEveryByte) {
@@ -58,19 +84,23 @@ TEST(Names, HaveABitForEveryByte) {
 }
 
 TEST(Names, TakeTheirBitsAlongWhenTheyAreCopiedOrMoved) {
-    const std::uint64_t bits = Names::bitOf('l') | Names::bitOf('d');
+    const Names::Pattern own = {Names::bitOf('d'), Names::noWord};
+    const Names::Pattern other = {Names::bitOf('e'), Names::noWord};
     Names names = {"level", "depth"};
     const Names copy = names;
     EXPECT_EQ(copy, names);
-    EXPECT_EQ(copy.firstBytes(), bits);
+    EXPECT_TRUE(copy.mayFit(own));
+    EXPECT_FALSE(copy.mayFit(other));
     internal::ArenaWithRoom<64> memory;
     const Names there(std::move(names), memory);
     EXPECT_EQ(there, copy);
-    EXPECT_EQ(there.firstBytes(), bits);
+    EXPECT_TRUE(there.mayFit(own));
+    EXPECT_FALSE(there.mayFit(other));
     Names assigned;
     assigned = there;
     EXPECT_EQ(assigned, copy);
-    EXPECT_EQ(assigned.firstBytes(), bits);
+    EXPECT_TRUE(assigned.mayFit(own));
+    EXPECT_FALSE(assigned.mayFit(other));
 }
 
 } // namespace

@@ -1,0 +1,78 @@
+#include "recognition/nameMatching.h"
+
+#include <algorithm>
+
+#include "options/findOption.h"
+
+namespace tarv_3_3 {
+
+namespace {
+
+// The word of a name that `mayBeNegated` and `scoreNegated` compare with the one in front of the first dash.
+constexpr std::string_view negativeWord = negation.substr(0, negation.size() - 1);
+
+NameScore scoreNegated(std::string_view typed, std::string_view name) {
+    if (!mayBeNegated(typed)) {
+        return {false, 0};
+    }
+    const std::size_t wordEnd = typed.find('-');
+    const NameScore rest = scoreName(typed.substr(wordEnd + 1), name);
+    return {rest.sameWordCount, rest.score + (wordEnd == negativeWord.size() ? 2 : 1)};
+}
+
+} // namespace
+
+std::string Candidate::text() const {
+    std::string text(isNegated ? negation : std::string_view());
+    return text.append(name);
+}
+
+// Goes through both names at once; at the end of each typed word skips what the candidate's has more.
+NameScore scoreName(std::string_view typed, std::string_view name) {
+    if (typed == name) {
+        return {true, 2 * static_cast<std::int32_t>(1 + std::count(typed.begin(), typed.end(), '-'))};
+    }
+    std::int32_t score = 0;
+    std::size_t place = 0;
+    for (std::size_t i = 0; i <= typed.size(); ++i, ++place) {
+        const bool isLastWord = i == typed.size();
+        if (!isLastWord && typed[i] != '-') {
+            if (place == name.size() || name[place] != typed[i]) {
+                return {false, 0};
+            }
+            continue;
+        }
+        const std::size_t wordEnd = std::min(name.find('-', place), name.size());
+        score += place == wordEnd ? 2 : 1;
+        place = wordEnd;
+        if (isLastWord == (wordEnd < name.size())) {
+            // One of the names has more words; what the candidate has more is no misfit.
+            return {false, isLastWord ? score : 0};
+        }
+    }
+    return {true, score};
+}
+
+NameScore scoreCandidate(std::string_view typed, const Candidate& candidate) {
+    return candidate.isNegated ? scoreNegated(typed, candidate.name) : scoreName(typed, candidate.name);
+}
+
+bool mayBeNegated(std::string_view typed) {
+    const std::size_t wordEnd = typed.find('-');
+    return wordEnd <= negativeWord.size() && typed.substr(0, wordEnd) == negativeWord.substr(0, wordEnd);
+}
+
+// An empty word abbreviates every word, and the words of a negated candidate are not those of its name.
+Names::Pattern patternOf(std::string_view typed) {
+    if (typed.empty() || mayBeNegated(typed)) {
+        return Names::anything;
+    }
+    const std::size_t wordEnd = typed.find('-');
+    if (wordEnd == std::string_view::npos) {
+        return {Names::bitOf(typed.front()), Names::noWord};
+    }
+    const bool isSecondEmpty = wordEnd + 1 == typed.size() || typed[wordEnd + 1] == '-';
+    return {Names::bitOf(typed.front()), isSecondEmpty ? Names::anyByte : Names::bitOf(typed[wordEnd + 1])};
+}
+
+} // namespace tarv_3_3

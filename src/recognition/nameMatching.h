@@ -1,0 +1,51 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+#include "options/OptionDescription.h"
+
+namespace tarv_3_3 {
+
+/// A name that an argument may give, whole or abbreviated: a name of an option, or that name behind "no-".
+struct Candidate {
+    std::string text() const;
+
+    std::string_view name;
+    bool isNegated = false;
+};
+
+/// How well a candidate fits a typed name.
+struct NameScore {
+    /// Whether both have the same number of words. Only such a candidate can be chosen.
+    bool sameWordCount;
+    /// 2 for every typed word that is whole, 1 for every one that is abbreviated; 0 when some word does not
+    /// fit, or the typed name has more words.
+    std::int32_t score;
+};
+
+/// Calls `look` with every candidate of an option, in their order.
+template <class Look>
+void forEachCandidate(const OptionDescription& option, Look look) {
+    for (const std::string& name : option.m_names) {
+        look(Candidate{name, false});
+        if (option.m_type == vtBool) {
+            look(Candidate{name, true});
+        }
+    }
+}
+
+NameScore scoreName(std::string_view typed, std::string_view name);
+
+/// The same for a candidate. Where the number of words differs, the score of a negated one is 0.
+NameScore scoreCandidate(std::string_view typed, const Candidate& candidate);
+
+/// Whether the first word of a typed name may stand for the "no" of a negated candidate.
+bool mayBeNegated(std::string_view typed);
+
+/// What an option that has a candidate for `typed` fits. Saves most options of a table from being looked at
+/// more closely.
+Names::Pattern patternOf(std::string_view typed);
+
+} // namespace tarv_3_3
