@@ -119,6 +119,23 @@ int RegisteredOptionStorage::find(const internal::HashedText& name, unsigned lon
     return 0;
 }
 
+bool RegisteredOptionStorage::findOnly(const internal::HashedText& name, std::size_t& index) {
+    if (hasNewSynonyms()) {
+        learnSynonyms();
+    }
+    const Index::Entry* const whole = m_names.find(name);
+    const Index::Entry* const negated =
+        beginsWithNegation(name.text) ? m_names.find(name.text.substr(negation.size())) : nullptr;
+    const bool hasName = whole != nullptr && whole->value.first != nowhere;
+    const bool hasSwitch = negated != nullptr && negated->value.firstSwitch != nowhere;
+    if (hasName == hasSwitch) {
+        return false;
+    }
+    const Owners& owners = hasName ? whole->value : negated->value;
+    index = hasName ? owners.first : owners.firstSwitch;
+    return !owners.isRepeated;
+}
+
 // Of the record that has the name as it is, and the switch that has it behind "no-", the first one.
 std::size_t RegisteredOptionStorage::placeOf(std::string_view name, const Owners& owners) const {
     if (!isNegated(name)) {
@@ -131,6 +148,7 @@ std::size_t RegisteredOptionStorage::placeOf(std::string_view name, const Owners
 // That the last record has it.
 void RegisteredOptionStorage::learnName(Owners& owners) {
     const std::size_t last = m_options.size() - 1;
+    owners.isRepeated = owners.first != nowhere;
     owners.first = std::min(owners.first, last);
     if (m_options[last].m_type == vtBool) {
         owners.firstSwitch = std::min(owners.firstSwitch, last);

@@ -47,6 +47,11 @@ public:
     /// that a record was given before the next declaration.
     int find(const internal::HashedText& name, unsigned long& index);
 
+    /// Finds the record of the only candidate that equals `name`: a name that was declared once, as it is,
+    /// or, being that of a switch, behind "no-". False when there is none or more than one, and when that is
+    /// not certain.
+    bool findOnly(const internal::HashedText& name, std::size_t& index);
+
     /// Keeps the records where they are while somebody works on them: a parse, whose handlers may
     /// declare options. Pins nest.
     class Pin {
@@ -83,6 +88,8 @@ private:
     struct Owners {
         std::size_t first = nowhere;
         std::size_t firstSwitch = nowhere;
+        /// More than one record has the name, or one has it twice.
+        bool isRepeated = false;
     };
     using Index = internal::TextMap<Owners>;
     using NameEntries = std::array<Index::Entry*, mostNames>;

@@ -98,7 +98,7 @@ int BasicParser::parse_phase_one(const std::string& endMarker, std::vector<std::
         // Both look at the argument; the named option has the higher priority.
         const bool mayBePositional = positional.takes(left.front(), options);
         int status = parseOk;
-        if (abbreviation.takes(left.front(), options)) {
+        if (abbreviation.takes(left.front(), m_registry)) {
             status = abbreviation.bind(left, collector, options, error, consumed.count);
         } else if (mayBePositional) {
             status = positional.bind(left, collector, options, error, consumed.count);

@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "options/OptionDescription.h"
+#include "options/RegisteredOptionStorage.h"
 #include "options/findOption.h"
 #include "recognition/messages.h"
 #include "recognition/nameMatching.h"
@@ -46,16 +47,16 @@ int AbbreviationParser::getPriority() {
 
 int AbbreviationParser::recognize(std::vector<std::string>& args, std::vector<OptionDescription>& options,
                                   std::string& err) {
-    return look(args.at(0), options, err);
+    return look(args.at(0), options, nullptr, err);
 }
 
-bool AbbreviationParser::takes(const std::string& argument, const std::vector<OptionDescription>& options) {
+bool AbbreviationParser::takes(const std::string& argument, RegisteredOptionStorage& registry) {
     std::string message;
-    return look(argument, options, message) == 0;
+    return look(argument, registry.m_options, &registry, message) == 0;
 }
 
 int AbbreviationParser::look(const std::string& argument, const std::vector<OptionDescription>& options,
-                             std::string& err) {
+                             RegisteredOptionStorage* registry, std::string& err) {
     log(": recognizing argument '", argument, "'");
     m_optionIndex = -1;
     forgetBest();
@@ -68,7 +69,9 @@ int AbbreviationParser::look(const std::string& argument, const std::vector<Opti
     }
     m_token = splitToken(argument, m_classifier);
     const std::string_view name = m_token.nameIn(argument);
-    keepBest(name, options);
+    if (registry == nullptr || !keepWholeName(name, *registry)) {
+        keepBest(name, options);
+    }
     const int outcome = findOutcome(err);
     if (outcome == 2) {
         m_optionIndex = -1;
@@ -89,6 +92,18 @@ void AbbreviationParser::makeOptionNamesList(std::vector<OptionDescription>& opt
     for (const OptionDescription& option : options) {
         forEachCandidate(option, [&](const Candidate& candidate) { names.emplace_back(candidate.text()); });
     }
+}
+
+// Only an equal candidate has every word whole, so nothing beats it, and only another equal one ties with
+// it. Where there is just one, the table need not be walked.
+bool AbbreviationParser::keepWholeName(std::string_view typed, RegisteredOptionStorage& registry) {
+    std::size_t index = 0;
+    if (!registry.findOnly(typed, index)) {
+        return false;
+    }
+    m_bestNames.emplace_back(typed);
+    m_optionIndex = static_cast<std::int64_t>(index);
+    return true;
 }
 
 // What makeOptionNamesList, makeNameMatch and findBest do one after the other, in one pass over the

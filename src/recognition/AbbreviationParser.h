@@ -12,6 +12,8 @@
 
 namespace tarv_3_3 {
 
+class RegisteredOptionStorage;
+
 /// Recognizes named options, each word of a name abbreviated to any prefix.
 ///
 /// Every name and synonym of every option is a candidate of its own, and so is its "no-" form for a
@@ -49,7 +51,7 @@ public:
     ///@{
     /// What `recognize` and `parse` do, for the options of a registry, and without removing anything: what is
     /// consumed is added to `consumed`.
-    TARV_HIDDEN bool takes(const std::string& argument, const std::vector<OptionDescription>& options);
+    TARV_HIDDEN bool takes(const std::string& argument, RegisteredOptionStorage& registry);
     TARV_HIDDEN int bind(ArgumentSpan left, IResultCollector* collector,
                          const std::vector<OptionDescription>& options, std::string& err,
                          std::size_t& consumed);
@@ -69,7 +71,8 @@ public:
 
 private:
     TARV_HIDDEN int look(const std::string& argument, const std::vector<OptionDescription>& options,
-                         std::string& err);
+                         RegisteredOptionStorage* registry, std::string& err);
+    TARV_HIDDEN bool keepWholeName(std::string_view typed, RegisteredOptionStorage& registry);
     TARV_HIDDEN void forgetBest();
     TARV_HIDDEN void keepBest(std::string_view typed, const std::vector<OptionDescription>& options);
     TARV_HIDDEN bool isBest(NameScore found);
