@@ -75,8 +75,11 @@ private:
     // An empty word counts as one that begins with a dash, or with the zero behind the name.
     void noteFirstBytes(const std::string& name) {
         m_firstBytes.firstWord |= bitOf(name[0]);
-        const std::size_t wordEnd = name.find('-');
-        m_firstBytes.secondWord |= wordEnd != std::string::npos ? bitOf(name[wordEnd + 1]) : noWord;
+        std::size_t wordEnd = 0;
+        while (wordEnd < name.size() && name[wordEnd] != '-') {
+            ++wordEnd;
+        }
+        m_firstBytes.secondWord |= wordEnd < name.size() ? bitOf(name[wordEnd + 1]) : noWord;
     }
 
     List m_names;

@@ -36,6 +36,7 @@ IOption& OptionDescription::allowValue(const variant_t& value) {
 
 IOption& OptionDescription::defaultValue(const variant_t& value) {
     m_default = value;
+    m_defaultText = variant_t();
     m_hasDefault = true;
     return *this;
 }

@@ -61,12 +61,18 @@ public:
     /// either way: null when the text did not convert.
     bool validate(std::string& text, variant_t& value, std::string& message) const;
 
+    /// Whether `validate` accepts every text and leaves it as it is.
+    bool takesAnyText() const { return m_type == vtString && m_allowedValues.empty(); }
+
     /// The value of `text` in the option's kind, null when it does not convert; see conversions.h.
     variant_t fromString(const char* text, Garbage* garbage) const;
 
     /// `value`, which must be of the option's kind, as text kept by `garbage`. Null for the null
     /// kind.
     const char* toString(Garbage* garbage, variant_t value) const;
+
+    /// The default as a text variant, null where there is no text. Renders it once.
+    const variant_t& defaultText();
 
     /// The kind as help and messages name it.
     std::string getTypeName() const;
@@ -94,6 +100,9 @@ public:
     Garbage* m_garbage = nullptr;
 
 private:
+    /// What `defaultText` has found.
+    variant_t m_defaultText;
+
     TARV_HIDDEN static const std::string& noName();
     TARV_HIDDEN bool acceptAbbreviation(std::string& text, variant_t& value, std::string& message) const;
     TARV_HIDDEN std::string allowedValueList() const;

@@ -96,6 +96,17 @@ const char* OptionDescription::toString(Garbage* garbage, variant_t value) const
     return nullptr;
 }
 
+// A default of another kind is a mistake of the host, which is told of it every time.
+const variant_t& OptionDescription::defaultText() {
+    const bool isRendered = m_defaultText.type() == vtString && m_default.type() == m_type;
+    if (!isRendered) {
+        const bool isText = m_type == vtString && m_default.type() == vtString;
+        const char* const text = isText ? nullptr : toString(m_garbage, m_default);
+        m_defaultText = isText ? m_default : text != nullptr ? variant_t(text) : variant_t();
+    }
+    return m_defaultText;
+}
+
 std::string OptionDescription::getTypeName() const {
     OperatorGetTypeName operation;
     switch (m_type) {

@@ -25,10 +25,6 @@ constexpr std::size_t growth = 4;
 // Most declarations have a name, or a name and a short form.
 constexpr std::size_t usualNames = 2;
 
-bool isNegated(std::string_view name) {
-    return name.size() >= negation.size() && std::memcmp(name.data(), negation.data(), negation.size()) == 0;
-}
-
 } // namespace
 
 RegisteredOptionStorage::RegisteredOptionStorage() : m_names(m_memory), m_topicNames(m_memory) {}
@@ -59,6 +55,7 @@ IOption& RegisteredOptionStorage::option(const char* names, const char* tags, co
     if (isAction) {
         OptionDescription::insertTags(tagWords, names);
     }
+    m_hasActions = m_hasActions || isAction;
     makeRoom();
     m_options.emplace_back(std::move(nameList), std::move(tagWords), registeredTopic, orEmpty(description),
                            isAction ? Action : Option, type, m_garbage, m_memory);
@@ -138,7 +135,7 @@ bool RegisteredOptionStorage::findOnly(const internal::HashedText& name, std::si
 
 // Of the record that has the name as it is, and the switch that has it behind "no-", the first one.
 std::size_t RegisteredOptionStorage::placeOf(std::string_view name, const Owners& owners) const {
-    if (!isNegated(name)) {
+    if (!beginsWithNegation(name)) {
         return owners.first;
     }
     const Index::Entry* const negated = m_names.find(name.substr(negation.size()));

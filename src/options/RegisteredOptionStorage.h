@@ -70,6 +70,8 @@ private:
     internal::ArenaWithRoom<6144> m_memory;
 
 public:
+    /// Whether an action was declared.
+    bool m_hasActions = false;
     /// The list separator of new declarations.
     char m_defaultTokenizer = ',';
     std::vector<OptionDescription> m_options;

@@ -110,6 +110,11 @@ template bool OperationFromString::execute<std::int64_t>();
 // A stream reads a bool as a number, and fails unless that is 0 or 1.
 template <>
 bool OperationFromString::execute<bool>() {
+    const bool isDigit = (input[0] == '0' || input[0] == '1') && input[1] == '\0';
+    if (isDigit) {
+        result = input[0] == '1';
+        return true;
+    }
     std::int64_t number;
     if (!convertWholeText(input, number) || (number != 0 && number != 1)) {
         return false;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstring>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -13,7 +14,7 @@ namespace tarv_3_3 {
 inline constexpr std::string_view negation = "no-";
 
 inline bool beginsWithNegation(std::string_view name) {
-    return name.substr(0, negation.size()) == negation;
+    return name.size() >= negation.size() && std::memcmp(name.data(), negation.data(), negation.size()) == 0;
 }
 
 /// Finds the first record that has exactly the name `name`, or is a switch and has the name behind

@@ -1,6 +1,7 @@
 #include "parser/BasicParser.h"
 
 #include <algorithm>
+#include <atomic>
 
 #include "result/ParseResult.h"
 
@@ -8,7 +9,16 @@ namespace tarv_3_3 {
 
 IParser::~IParser() = default;
 
-BasicParser::BasicParser(int flags) : m_flags(flags) {
+namespace {
+
+std::uint64_t nextNumber() {
+    static std::atomic<std::uint64_t> last = 0;
+    return last.fetch_add(1, std::memory_order_relaxed) + 1;
+}
+
+} // namespace
+
+BasicParser::BasicParser(int flags) : m_flags(flags), m_number(nextNumber()) {
     m_registry.m_garbage = &m_garbage;
     if ((flags & flagNoLists) != 0) {
         m_registry.m_defaultTokenizer = 0;

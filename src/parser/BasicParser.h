@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <set>
 #include <string>
 #include <vector>
@@ -115,6 +116,8 @@ private:
     /// Not owned; called in the order of their addresses.
     std::set<EventHandler*> m_handlers;
     bool m_optionFileDeclared = false;
+    /// Unlike that of any other parser of the process, also of one that lay in the same place.
+    std::uint64_t m_number;
 };
 
 } // namespace tarv_3_3

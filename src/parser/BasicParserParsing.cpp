@@ -44,6 +44,7 @@ int BasicParser::parseArgsVector(int argc, const char* const* argv, IParseResult
 int BasicParser::parseArguments(int argc, const char* const* argv, IParseResult* result) {
     if (result != nullptr) {
         std::string message;
+        static_cast<ParseResult*>(result)->noteParser(m_number);
         const int status = static_cast<ParseResult*>(result)->applyDefault(m_registry.m_options, message);
         if (status != parseOk) {
             setLastError(message);
@@ -86,6 +87,9 @@ int BasicParser::parseUpToMarker(const std::string& endMarker, std::vector<std::
 int BasicParser::parse_phase_one(const std::string& endMarker, std::vector<std::string>& arguments,
                                  IParseResult* result, std::string& error) {
     switchLog(arguments);
+    if (result != nullptr) {
+        static_cast<ParseResult*>(result)->noteParser(m_number);
+    }
     const RegisteredOptionStorage::Pin pin(m_registry);
     const auto flags = static_cast<unsigned int>(m_flags);
     PositionalOptionsParser positional(this, &m_garbage, flags, listeners());
@@ -153,6 +157,9 @@ int BasicParser::collectNonparsingArguments(std::string endMarker, std::vector<s
 
 // Behind the marker an argument may begin with a dash and still be positional.
 int BasicParser::parseAsPositional(const std::string& argument, ParseResult* result, std::string& error) {
+    if (result != nullptr) {
+        result->noteParser(m_number);
+    }
     const RegisteredOptionStorage::Pin pin(m_registry);
     PositionalOptionsParser recognizer(
         this, &m_garbage, static_cast<unsigned int>(m_flags & ~flagDashIsNotPositional), listeners());
@@ -175,8 +182,10 @@ int BasicParser::parse_phase_two(const std::string& /*endMarker*/, std::vector<s
         return parseOk;
     }
     const auto& stored = static_cast<const ParseResult&>(*result);
-    const std::vector<OptionDescription>& options = m_registry.m_options;
-    const bool hasActions = std::any_of(options.begin(), options.end(), isAction);
+    const bool hasActions = m_registry.m_hasActions;
+    if (!hasActions && stored.isOnlyFrom(m_number)) {
+        return parseOk;
+    }
     // The order decides what is said of actions, and nothing else.
     return hasActions ? checkActions(stored.entries().listByName(), error)
                       : checkDeclared(stored.entries().list());

@@ -59,9 +59,9 @@ int AbbreviationParser::look(const std::string& argument, const std::vector<Opti
                              RegisteredOptionStorage* registry, std::string& err) {
     log(": recognizing argument '", argument, "'");
     m_optionIndex = -1;
-    forgetBest();
     if (argument.size() < 2 || dashLength(argument) == 0) {
         m_token = Token();
+        forgetBest();
         return 1;
     }
     if (m_listeners != Listeners::none) {
@@ -101,7 +101,9 @@ bool AbbreviationParser::keepWholeName(std::string_view typed, RegisteredOptionS
     if (!registry.findOnly(typed, index)) {
         return false;
     }
-    m_bestNames.emplace_back(typed);
+    // Strings take their memory over.
+    m_bestNames.resize(1);
+    m_bestNames.front() = typed;
     m_optionIndex = static_cast<std::int64_t>(index);
     return true;
 }
@@ -109,6 +111,7 @@ bool AbbreviationParser::keepWholeName(std::string_view typed, RegisteredOptionS
 // What makeOptionNamesList, makeNameMatch and findBest do one after the other, in one pass over the
 // table.
 void AbbreviationParser::keepBest(std::string_view typed, const std::vector<OptionDescription>& options) {
+    forgetBest();
     const Names::Pattern pattern = patternOf(typed);
     for (const OptionDescription& option : options) {
         if (option.m_names.mayFit(pattern)) {

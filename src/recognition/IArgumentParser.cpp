@@ -69,7 +69,7 @@ int IArgumentParser::parseValueAndAddOption(std::string& value, std::string& err
                                             IResultCollector* collector) {
     const int status = bindValue(value, option, args[0], collector, err);
     if (option.m_tokenizer == 0 && !m_occurrence.values.empty()) {
-        value = m_occurrence.values.front().text;
+        value = textOf(m_occurrence.values.front());
     }
     return status;
 }
@@ -97,9 +97,9 @@ int IArgumentParser::bindValue(std::string_view value, const OptionDescription& 
 int IArgumentParser::bindSingleValue(std::string_view value, const OptionDescription& option,
                                      const std::string& argument, std::string& err) {
     log(": not using tokenizer");
-    const int status = bindText(value, option, argument, err);
-    const std::string& text = m_occurrence.values.front().text;
-    return status == parseVetoed ? failVetoed(text, option, argument, err) : status;
+    const int status = bindText(value.data(), option, argument, err);
+    return status == parseVetoed ? failVetoed(textOf(m_occurrence.values.front()), option, argument, err)
+                                 : status;
 }
 
 // Room for one more value, and, where it has to be made, for all that the pieces of `rest` will need: a long
@@ -132,33 +132,42 @@ int IArgumentParser::bindList(std::string_view value, const OptionDescription& o
         const std::string_view piece = value.substr(start, end - start);
         log(": value is: '", piece, "'");
         makeRoomForValues(value.substr(start), separator);
-        const int status = bindText(piece, option, argument, err);
+        const bool isLast = end == value.size();
+        const int status =
+            bindText(isLast ? piece.data() : m_piece.assign(piece).c_str(), option, argument, err);
         if (status != parseOk) {
             return status == parseVetoed ? failVetoed(std::string(value), option, argument, err) : status;
         }
         log(": sent event on value parsed, option: '", option.primaryName(), "', value: '",
-            m_occurrence.values.back().text, "'");
+            textOf(m_occurrence.values.back()), "'");
         start = value.find_first_not_of(separator, end);
     }
     return parseOk;
 }
 
 // Appends one value to the occurrence.
-int IArgumentParser::bindText(std::string_view text, const OptionDescription& option,
-                              const std::string& argument, std::string& err) {
+int IArgumentParser::bindText(const char* text, const OptionDescription& option, const std::string& argument,
+                              std::string& err) {
     OptionValue& bound = m_occurrence.values.emplace_back();
-    bound.text = text;
-    if (!option.validate(bound.text, bound.value, err)) {
-        err = messages::invalidValue(argument, err);
-        log(": ", err);
-        return parseFailed;
+    if (option.takesAnyText()) {
+        bound.value = option.fromString(text, option.m_garbage);
+    } else {
+        bound.text = text;
+        if (!option.validate(bound.text, bound.value, err)) {
+            err = messages::invalidValue(argument, err);
+            log(": ", err);
+            return parseFailed;
+        }
     }
     bound.position = getNewPositionIndex();
     return isAccepted(bound, option) ? parseOk : parseVetoed;
 }
 
 bool IArgumentParser::isAccepted(const OptionValue& bound, const OptionDescription& option) {
-    const Value shown(bound.text.c_str(), bound.value, bound.position);
+    if (m_listeners == Listeners::none) {
+        return true;
+    }
+    const Value shown(textOf(bound), bound.value, bound.position);
     return m_handler->onValueParse(option.primaryName().c_str(), shown);
 }
 

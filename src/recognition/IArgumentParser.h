@@ -75,7 +75,7 @@ protected:
     int parseValueAndAddOption(std::string& value, std::string& err, const OptionDescription& option,
                                std::vector<std::string>& args, IResultCollector* collector);
 
-    /// The same without the completed value.
+    /// The same without the completed value. There is a zero behind `value`, as behind the end of a string.
     TARV_HIDDEN int bindValue(std::string_view value, const OptionDescription& option,
                               const std::string& argument, IResultCollector* collector, std::string& err);
 
@@ -103,8 +103,8 @@ private:
     TARV_HIDDEN int bindList(std::string_view value, const OptionDescription& option,
                              const std::string& argument, std::string& err);
     TARV_HIDDEN void makeRoomForValues(std::string_view rest, char separator);
-    TARV_HIDDEN int bindText(std::string_view text, const OptionDescription& option,
-                             const std::string& argument, std::string& err);
+    TARV_HIDDEN int bindText(const char* text, const OptionDescription& option, const std::string& argument,
+                             std::string& err);
     TARV_HIDDEN bool isAccepted(const OptionValue& bound, const OptionDescription& option);
     TARV_HIDDEN int failVetoed(const std::string& value, const OptionDescription& option,
                                const std::string& argument, std::string& err);
@@ -113,6 +113,8 @@ private:
     /// The one being bound. It keeps its memory for the next one. A parse that a handler starts
     /// meanwhile has recognizers of its own, so it does not get in the way.
     OptionData m_occurrence;
+    /// A piece of a list, where it needs a zero behind it.
+    std::string m_piece;
 };
 
 } // namespace tarv_3_3

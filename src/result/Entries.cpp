@@ -17,6 +17,12 @@ void makeRoom(List& list, std::size_t more) {
     }
 }
 
+// Data that an argument gave has none.
+Entries::Default defaultIn(const OptionData& data) {
+    const variant_t text = data.defaultText.empty() ? variant_t() : variant_t(data.defaultText.c_str());
+    return {text, data.defaultValue, data.defaultPosition};
+}
+
 } // namespace
 
 Entries::Entries(internal::Arena& memory)
@@ -35,7 +41,7 @@ void Entries::store(const Names& names, const OptionData& data) {
         append(*m_list[first].data, data);
     } else {
         for (const std::string& name : names) {
-            append(ownData(name), data);
+            append(*ownEntry(name).data, data);
         }
     }
 }
@@ -43,20 +49,35 @@ void Entries::store(const Names& names, const OptionData& data) {
 // A name that stands twice among them shares the data already.
 void Entries::storeFirst(const internal::HashedText& firstName, const Names& names, const OptionData& data) {
     const std::size_t first = m_list.size();
-    Data& shared = m_data.emplace_back(m_memory, data);
+    Data& shared = m_data.emplace_back(m_memory);
     append(shared, data);
-    add(m_names.insert(firstName), shared, 1);
+    const Default byDefault = defaultIn(data);
+    add(m_names.insert(firstName), shared, 1, byDefault);
     for (auto name = names.begin() + 1; name != names.end(); ++name) {
         Index::Entry& known = m_names.insert(*name);
         if (known.value.place == nowhere) {
-            add(known, shared, 0);
+            add(known, shared, 0, byDefault);
             ++m_list[first].together;
         } else if (known.value.place < first) {
-            Data& own = ownData(known.text());
-            own = Data(m_memory, data);
-            append(own, data);
+            Entry& entry = ownEntry(known.text());
+            *entry.data = Data(m_memory);
+            append(*entry.data, data);
+            entry.byDefault = byDefault;
         }
     }
+}
+
+Entries::Entry& Entries::entryBehind(std::size_t place, const internal::HashedText& name) {
+    Index::Entry& known = m_names.insert(name);
+    if (known.value.place != nowhere) {
+        return m_list[known.value.place];
+    }
+    if (place == m_list.size()) {
+        return add(known, m_data.emplace_back(m_memory), 1, Default());
+    }
+    Entry& added = add(known, *m_list[place].data, 0, Default());
+    ++m_list[place].together;
+    return added;
 }
 
 bool Entries::areTogether(std::size_t place, const Names& names) const {
@@ -86,18 +107,19 @@ void Entries::separate(std::size_t place) {
     }
 }
 
-Entries::Data& Entries::ownData(const internal::HashedText& name) {
+Entries::Entry& Entries::ownEntry(const internal::HashedText& name) {
     Index::Entry& known = m_names.insert(name);
     if (known.value.place == nowhere) {
-        add(known, m_data.emplace_back(m_memory), 1);
+        add(known, m_data.emplace_back(m_memory), 1, Default());
     }
     separate(known.value.place);
-    return *m_list[known.value.place].data;
+    return m_list[known.value.place];
 }
 
-void Entries::add(Index::Entry& name, Data& data, std::size_t together) {
-    m_list.push_back({name.text(), &data, together});
+Entries::Entry& Entries::add(Index::Entry& name, Data& data, std::size_t together, const Default& byDefault) {
+    Entry& added = m_list.emplace_back(Entry{name.text(), &data, together, byDefault});
     name.value.place = m_list.size() - 1;
+    return added;
 }
 
 // One by one: when memory runs out, an insertion of several at once may lose what was there before.
@@ -131,9 +153,9 @@ std::size_t Entries::placeOf(const internal::HashedText& name) const {
     return known != nullptr ? known->value.place : nowhere;
 }
 
-const Entries::Data* Entries::find(std::string_view name) const {
+const Entries::Entry* Entries::find(std::string_view name) const {
     const std::size_t place = placeOf(name);
-    return place != nowhere ? m_list[place].data : nullptr;
+    return place != nowhere ? &m_list[place] : nullptr;
 }
 
 } // namespace tarv_3_3

@@ -16,16 +16,13 @@ namespace tarv_3_3 {
 
 /// What a result has stored, by option name. Only grows; an entry keeps its place.
 ///
-/// Each name has data of its own, as far as anybody can see. Names that one occurrence brought, and
-/// all others since, share it until something tells them apart.
+/// Each name has data of its own, as far as anybody can see. Names that came together, with an occurrence
+/// or a default of one option, share it until something tells them apart.
 class Entries {
 public:
-    /// What is known about one option name.
+    /// What was given to an option.
     struct Data {
         explicit Data(internal::Arena& memory) : positions(memory), values(memory) {}
-        Data(internal::Arena& memory, const OptionData& given)
-            : positions(memory), values(memory), defaultText(given.defaultText),
-              defaultValue(given.defaultValue), defaultPosition(given.defaultPosition) {}
 
         /// The position index of each occurrence, in the order stored.
         std::vector<int, internal::ArenaAllocator<int>> positions;
@@ -36,10 +33,13 @@ public:
         /// process has wrapped around.
         bool ascends = true;
         int lastPosition = INT_MIN;
-        /// The default as text; empty when there is none.
-        std::string defaultText;
-        variant_t defaultValue;
-        int defaultPosition = 0;
+    };
+    struct Default {
+        bool isEmpty() const { return text.type() != vtString || *text.get<const char*>() == '\0'; }
+
+        variant_t text;
+        variant_t value;
+        int position = 0;
     };
     struct Entry {
         /// Lies in the memory of the entries.
@@ -48,6 +48,8 @@ public:
         Data* data;
         /// How many share it: this entry and those right behind it, which say 0.
         std::size_t together;
+        /// Of the name alone.
+        Default byDefault;
     };
     using List = std::vector<Entry, internal::ArenaAllocator<Entry>>;
 
@@ -65,15 +67,20 @@ public:
     /// its default. Throws `std::out_of_range` when there are no names.
     void store(const Names& names, const OptionData& data);
 
-    /// The data that `name` shares with no other one from now on; an empty one if it has none. Good
-    /// until the next change.
-    Data& ownData(const internal::HashedText& name);
+    /// Gives each of `names` the default that a call of `makeDefault` returns for it.
+    template <class MakeDefault>
+    void storeDefaults(const Names& names, MakeDefault makeDefault) {
+        const std::size_t end = m_list.size();
+        for (const std::string& name : names) {
+            entryBehind(end, name).byDefault = makeDefault();
+        }
+    }
 
     std::size_t placeOf(const internal::HashedText& name) const;
-    const Data& operator[](std::size_t place) const { return *m_list[place].data; }
+    const Entry& operator[](std::size_t place) const { return m_list[place]; }
 
-    /// The data of `name`, null for none.
-    const Data* find(std::string_view name) const;
+    /// The entry of `name`, null for none.
+    const Entry* find(std::string_view name) const;
 
     /// All entries in the order in which the names came.
     const List& list() const { return m_list; }
@@ -90,8 +97,12 @@ private:
     };
     using Index = internal::TextMap<Place>;
 
+    /// The entry of `name`; one that has to be made shares the data of those from `place` on.
+    Entry& entryBehind(std::size_t place, const internal::HashedText& name);
+    /// The entry of `name`, which from now on shares its data with no other one.
+    Entry& ownEntry(const internal::HashedText& name);
     void append(Data& entry, const OptionData& data);
-    void add(Index::Entry& name, Data& data, std::size_t together);
+    Entry& add(Index::Entry& name, Data& data, std::size_t together, const Default& byDefault);
 
     internal::Arena& m_memory;
     List m_list;

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <exception>
+#include <utility>
 
 namespace tarv_3_3 {
 
@@ -52,13 +53,15 @@ std::size_t firstNotBelow(const Entries::Data& data, std::size_t place, int boun
     return static_cast<std::size_t>(found - values.begin());
 }
 
-Value makeValue(int status, const char* text, const variant_t& value, int position) {
+Value makeValue(int status, const char* text, variant_t&& value, int position) {
+    Value made;
+    made.status = status;
     if (status == valueFound) {
-        return Value(text, value, position);
+        made.text = text;
+        made.value = std::move(value);
+        made.position = position;
     }
-    Value none;
-    none.status = status;
-    return none;
+    return made;
 }
 
 } // namespace
@@ -93,7 +96,7 @@ Value ParseResult::get(const char* name, int lo, int hi) {
     variant_t value;
     int position = noPosition;
     const int status = statusOf([&] { return startIteration(name, &text, value, lo, hi, position); });
-    return makeValue(status, text, value, position);
+    return makeValue(status, text, std::move(value), position);
 }
 
 Value ParseResult::next(const char* /*name*/) {
@@ -101,14 +104,14 @@ Value ParseResult::next(const char* /*name*/) {
     variant_t value;
     int position = noPosition;
     const int status = statusOf([&] { return continueIteration(&text, value, position); });
-    return makeValue(status, text, value, position);
+    return makeValue(status, text, std::move(value), position);
 }
 
 int ParseResult::nextPosition() {
-    if (m_current == Entries::nowhere || m_positionsCursor >= current().positions.size()) {
+    if (m_current == Entries::nowhere || m_positionsCursor >= current().data->positions.size()) {
         return noPosition;
     }
-    return current().positions[m_positionsCursor++];
+    return current().data->positions[m_positionsCursor++];
 }
 
 int ParseResult::get(const std::string& name, char** text, variant_t& value, int lo, int hi, int& position) {
@@ -138,12 +141,12 @@ int ParseResult::findFirst(std::string_view name, char** text, variant_t& value,
     if (m_current == Entries::nowhere) {
         return valueMissing;
     }
-    const Entries::Data& data = current();
+    const Entries::Data& data = *current().data;
     if (data.positions.empty()) {
-        if (!isDefaulted(data)) {
+        if (!isDefaulted(current())) {
             return valueMissing;
         }
-        yieldDefault(data, text, value, position);
+        yieldDefault(current().byDefault, text, value, position);
         return valueFound;
     }
     m_positionsCursor = firstInRange(data, lo, hi);
@@ -157,29 +160,29 @@ int ParseResult::continueIteration(char** text, variant_t& value, int& position)
     if (m_current == Entries::nowhere) {
         return valueMissing;
     }
-    const Entries::Data& data = current();
-    if (isDefaulted(data)) {
+    const Entries::Data& data = *current().data;
+    if (isDefaulted(current())) {
         // The state that present() leaves, so that a default is yielded once behind it.
         if (m_lowerBound != noPosition || m_upperBound != noPosition) {
             return valueMissing;
         }
-        yieldDefault(data, text, value, position);
+        yieldDefault(current().byDefault, text, value, position);
         m_lowerBound = 0;
         return valueFound;
     }
     return data.values.empty() ? nextOccurrence(data, position) : nextValue(data, text, value, position);
 }
 
-bool ParseResult::isDefaulted(const Entries::Data& data) {
-    return data.positions.empty() && !data.defaultText.empty();
+bool ParseResult::isDefaulted(const Entries::Entry& entry) {
+    return entry.data->positions.empty() && !entry.byDefault.isEmpty();
 }
 
-void ParseResult::yieldDefault(const Entries::Data& data, char** text, variant_t& value, int& position) {
+void ParseResult::yieldDefault(const Entries::Default& found, char** text, variant_t& value, int& position) {
     if (text != nullptr) {
-        *text = keep(data.defaultText.c_str());
+        *text = keep(found.text.get<const char*>());
     }
-    value = data.defaultValue;
-    position = data.defaultPosition;
+    value = found.value;
+    position = found.position;
 }
 
 int ParseResult::nextValue(const Entries::Data& data, char** text, variant_t& value, int& position) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -34,6 +35,12 @@ public:
     /// alone.
     int applyDefault(std::vector<OptionDescription>& options, std::string& errorText);
 
+    /// Notes that a parser, known by a number of its own, is about to store what it has declared.
+    void noteParser(std::uint64_t number);
+
+    /// Whether all that is stored comes from that parser.
+    bool isOnlyFrom(std::uint64_t number) const { return m_parser == number; }
+
     /// Adds an argument that stood behind "--".
     void storePlainArgument(const std::string& argument, int position);
 
@@ -62,11 +69,12 @@ private:
     TARV_HIDDEN int findFirst(std::string_view name, char** text, variant_t& value, int lo, int hi,
                               int& position);
     TARV_HIDDEN int continueIteration(char** text, variant_t& value, int& position);
-    const Entries::Data& current() const { return m_entries[m_current]; }
-    TARV_HIDDEN void yieldDefault(const Entries::Data& data, char** text, variant_t& value, int& position);
+    const Entries::Entry& current() const { return m_entries[m_current]; }
+    TARV_HIDDEN void yieldDefault(const Entries::Default& found, char** text, variant_t& value,
+                                  int& position);
     TARV_HIDDEN int nextValue(const Entries::Data& data, char** text, variant_t& value, int& position);
     TARV_HIDDEN int nextOccurrence(const Entries::Data& data, int& position);
-    TARV_HIDDEN static bool isDefaulted(const Entries::Data& data);
+    TARV_HIDDEN static bool isDefaulted(const Entries::Entry& entry);
     TARV_HIDDEN char* keep(const char* text);
 
     /// Holds the entries and their lists, which only go with the result.
@@ -83,6 +91,9 @@ private:
     /// What stood behind "--", with its position indices.
     std::vector<std::pair<std::string, int>> m_freeArguments;
     std::size_t m_freeArgumentCursor;
+    /// The number of the only parser that has stored something here; `severalParsers` for more than one, or
+    /// when somebody else stored the first entry.
+    std::uint64_t m_parser = 0;
 };
 
 } // namespace tarv_3_3

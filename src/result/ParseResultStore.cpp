@@ -10,19 +10,21 @@ int ParseResult::store(const OptionDescription& option, const OptionData& data) 
 }
 
 int ParseResult::applyDefault(std::vector<OptionDescription>& options, std::string& /*errorText*/) {
-    for (const OptionDescription& option : options) {
-        if (option.m_type == vtNull || !option.m_hasDefault) {
-            continue;
-        }
-        for (const std::string& name : option.m_names) {
-            Entries::Data& data = m_entries.ownData(name);
-            // A kind that does not exist has no text.
-            data.defaultText = m_garbage.init(option.toString(&m_garbage, option.m_default));
-            data.defaultPosition = IArgumentParser::getNewPositionIndex();
-            data.defaultValue = option.m_default;
+    for (OptionDescription& option : options) {
+        if (option.m_type != vtNull && option.m_hasDefault) {
+            m_entries.storeDefaults(option.m_names, [&option] {
+                const variant_t& text = option.defaultText();
+                return Entries::Default{text, option.m_default, IArgumentParser::getNewPositionIndex()};
+            });
         }
     }
     return 0;
+}
+
+void ParseResult::noteParser(std::uint64_t number) {
+    constexpr auto severalParsers = static_cast<std::uint64_t>(-1);
+    const bool isFirst = m_parser == 0 && m_entries.list().empty();
+    m_parser = isFirst || m_parser == number ? number : severalParsers;
 }
 
 void ParseResult::storePlainArgument(const std::string& argument, int position) {

@@ -20,10 +20,10 @@ public:
     /// Copies `given`, with its text into `memory` where that is needed.
     StoredValue(const OptionValue& given, internal::Arena& memory)
         : value(given.value), position(given.position), m_text{} {
-        if (given.text.size() < m_text.size()) {
-            std::memcpy(m_text.data(), given.text.c_str(), given.text.size());
-        } else if (value.type() == vtString && given.text == value.get<const char*>()) {
+        if (value.type() == vtString && (given.text.empty() || given.text == value.get<const char*>())) {
             m_text.back() = inVariant;
+        } else if (given.text.size() < m_text.size()) {
+            std::memcpy(m_text.data(), given.text.c_str(), given.text.size());
         } else {
             const char* const kept = keep(given.text, memory);
             std::memcpy(m_text.data(), &kept, sizeof kept);

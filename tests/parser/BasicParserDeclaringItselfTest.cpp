@@ -80,7 +80,7 @@ struct DeclaringItself : testing::TestWithParam<DeclaringParser::When> {
     std::string stored() const {
         std::string line;
         for (const Entries::Entry& entry : result.entries().listByName()) {
-            line += (line.empty() ? "" : " ") + describe(entry.name.text, *entry.data, positions);
+            line += (line.empty() ? "" : " ") + describe(entry, positions);
         }
         return line;
     }

@@ -128,7 +128,7 @@ TEST(RefiningParser, RestrictsTheNextArgumentAndNotTheRestOfThisOne) {
         EXPECT_EQ(parser.parseArgsVector(count, row.line.data(), &result), 2);
         const Entries::List stored = result.entries().listByName();
         ASSERT_EQ(stored.size(), 1U);
-        EXPECT_EQ(describe(stored[0].name.text, *stored[0].data, positions), row.stored);
+        EXPECT_EQ(describe(stored[0], positions), row.stored);
     }
 }
 

@@ -25,7 +25,7 @@ public:
     std::string stored() const {
         std::string line;
         for (const tarv_3_3::Entries::Entry& entry : result.entries().listByName()) {
-            line += (line.empty() ? "" : " ") + describe(entry.name.text, *entry.data, positions);
+            line += (line.empty() ? "" : " ") + describe(entry, positions);
         }
         return line;
     }

@@ -132,7 +132,7 @@ TEST(ValueBinding, ConvertsToTheKindOfTheOption) {
             binding.declare("level", row.type).tokenize(separator);
             binding.bind(row.text, "--level");
             ASSERT_EQ(binding.collector.values.size(), 1U);
-            EXPECT_EQ(binding.collector.values[0].text, row.text);
+            EXPECT_EQ(std::string(textOf(binding.collector.values[0])), row.text);
             EXPECT_TRUE(binding.collector.values[0].value == row.value);
             EXPECT_TRUE(binding.handler.lastValue == row.value);
         }

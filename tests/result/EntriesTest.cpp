@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <cstddef>
+#include <cstdint>
 #include <new>
 #include <stdexcept>
 #include <string>
@@ -57,7 +58,7 @@ TEST_F(StoredEntries, HaveTheirPlacesInTheOrderInWhichTheyCame) {
 TEST_F(StoredEntries, AreFoundByPlaceAndByName) {
     entries.store({"a", "b"}, occurrences({1}));
     entries.store({"c"}, occurrences({2}));
-    EXPECT_EQ(entries[2].positions.at(0), 2);
+    EXPECT_EQ(entries[2].data->positions.at(0), 2);
     EXPECT_EQ(entries.find("c"), &entries[2]);
     EXPECT_EQ(entries.find("b"), &entries[1]);
     EXPECT_EQ(entries.find(""), nullptr);
@@ -69,7 +70,7 @@ TEST_F(StoredEntries, ShareWhatWasAlwaysStoredTogether) {
     EXPECT_EQ(inOrder(), "ab+c+");
     entries.store(level, occurrences({2}));
     EXPECT_EQ(inOrder(), "ab+c+");
-    EXPECT_EQ(entries[0].positions.size(), 2U);
+    EXPECT_EQ(entries[0].data->positions.size(), 2U);
     entries.store({"d"}, occurrences({3}));
     EXPECT_EQ(inOrder(), "ab+c+d");
 }
@@ -95,23 +96,46 @@ TEST_F(StoredEntries, ShareNothingOnceTheyWereStoredApart) {
     }
 }
 
-TEST_F(StoredEntries, HaveDataOfTheirOwnWhereTheyAreAskedForIt) {
-    entries.store({"a", "b", "c"}, occurrences({1}));
-    Entries::Data& own = entries.ownData("b");
-    EXPECT_EQ(&own, entries.find("b"));
-    EXPECT_EQ(own.positions.at(0), 1);
-    EXPECT_EQ(inOrder(), "abc");
-    own.positions.push_back(2);
-    EXPECT_EQ(entries[0].positions.size(), 1U);
-    EXPECT_EQ(entries[2].positions.size(), 1U);
-    EXPECT_EQ(&entries.ownData("b"), &own);
+TEST_F(StoredEntries, HaveADefaultEachAndShareWhatIsGivenLater) {
+    int position = 4;
+    const auto makeDefault = [&] { return Entries::Default{"7", std::int32_t{7}, ++position}; };
+    entries.storeDefaults({"a", "b"}, makeDefault);
+    EXPECT_EQ(inOrder(), "ab+");
+    EXPECT_EQ(entries[0].byDefault.position, 5);
+    EXPECT_EQ(entries[1].byDefault.position, 6);
+    EXPECT_EQ(entries[1].byDefault.text, variant_t("7"));
+    EXPECT_EQ(entries[1].byDefault.value, variant_t(std::int32_t{7}));
+    EXPECT_TRUE(entries[0].data->positions.empty());
+    entries.store({"a", "b"}, occurrences({1}));
+    EXPECT_EQ(inOrder(), "ab+");
+    EXPECT_EQ(entries[1].data->positions.at(0), 1);
+    EXPECT_EQ(entries[1].byDefault.position, 6);
 }
 
-TEST_F(StoredEntries, AreMadeWhereDataIsAskedForUnderANewName) {
-    const Entries::Data& data = entries.ownData("a");
-    EXPECT_EQ(entries.find("a"), &data);
-    EXPECT_TRUE(data.positions.empty());
-    EXPECT_EQ(data.defaultPosition, 0);
+// A synonym may be that of another option, or stand twice.
+TEST_F(StoredEntries, HaveTheLastDefaultAndTheOccurrencesThatTheyHad) {
+    int position = 0;
+    const auto makeDefault = [&] { return Entries::Default{"7", std::int32_t{7}, ++position}; };
+    entries.store({"a", "b"}, occurrences({10}));
+    entries.storeDefaults({"c", "b", "d", "c"}, makeDefault);
+    EXPECT_EQ(inOrder(), "ab+cd+");
+    EXPECT_EQ(entries.find("a")->byDefault.position, 0);
+    EXPECT_EQ(entries.find("b")->byDefault.position, 2);
+    EXPECT_EQ(entries.find("c")->byDefault.position, 4);
+    EXPECT_EQ(entries.find("d")->byDefault.position, 3);
+    EXPECT_EQ(entries.find("b")->data->positions.at(0), 10);
+    entries.store({"c", "b", "d", "c"}, occurrences({11}));
+    EXPECT_EQ(inOrder(), "abcd");
+    EXPECT_EQ(entries.find("a")->data->positions.size(), 1U);
+    EXPECT_EQ(entries.find("b")->data->positions.size(), 2U);
+    EXPECT_EQ(entries.find("d")->data->positions.size(), 1U);
+}
+
+TEST_F(StoredEntries, HaveNoDefaultWithoutAText) {
+    EXPECT_TRUE(Entries::Default().isEmpty());
+    EXPECT_TRUE((Entries::Default{"", "", 1}.isEmpty()));
+    EXPECT_TRUE((Entries::Default{variant_t(), std::int32_t{7}, 1}.isEmpty()));
+    EXPECT_FALSE((Entries::Default{"7", std::int32_t{7}, 1}.isEmpty()));
 }
 
 TEST_F(StoredEntries, NeedAName) {
@@ -127,7 +151,7 @@ TEST_F(StoredEntries, KeepTheirPlacesAsTheyGrow) {
     for (int i = 0; i < 1000; ++i) {
         const std::size_t place = entries.placeOf("x" + std::to_string(i));
         ASSERT_EQ(place, 2 * static_cast<std::size_t>(i) + 1);
-        ASSERT_EQ(entries[place].positions.at(0), i);
+        ASSERT_EQ(entries[place].data->positions.at(0), i);
     }
 }
 
@@ -156,7 +180,7 @@ TEST_F(StoredEntries, AreWholeOrNowhereWhenMemoryRunsOut) {
         ASSERT_GE(few.list().size(), 2 * stored);
         ASSERT_LE(few.list().size(), 2 * stored + 1);
         for (const Entries::Entry& entry : few.list()) {
-            ASSERT_EQ(few.find(entry.name.text), entry.data);
+            ASSERT_EQ(few.find(entry.name.text), &entry);
             ASSERT_EQ(entry.data->positions.size(), 1U);
             ASSERT_EQ(entry.data->values.size(), 1U);
         }

@@ -14,7 +14,7 @@ namespace {
 std::string entriesOf(const ParseResult& result, const RelativePositions& positions) {
     std::string line;
     for (const Entries::Entry& entry : result.entries().listByName()) {
-        line += (line.empty() ? "" : " ") + ::describe(entry.name.text, *entry.data, positions);
+        line += (line.empty() ? "" : " ") + ::describe(entry, positions);
     }
     return line;
 }
@@ -81,7 +81,7 @@ TEST_F(ParseResultStore, TakesTheDefaultFieldsOfTheFirstOccurrenceOnly) {
     result.store(level, first);
     result.store(level, second);
     EXPECT_EQ(entries(), "level@1@4=\"5\"@2,\"6\"@5 default=\"first\"@3");
-    EXPECT_EQ(result.entries().find("level")->defaultValue, variant_t("first"));
+    EXPECT_EQ(result.entries().find("level")->byDefault.value, variant_t("first"));
 }
 
 // Whether an option is new is asked of its first name alone.
@@ -173,7 +173,7 @@ TEST_F(ParseResultStore, RecordsADefaultUnderEveryNameAtPositionsOfTheirOwn) {
     EXPECT_EQ(entries(), "depth default=\"7\"@3 l default=\"7\"@2 level default=\"7\"@1");
     EXPECT_EQ(positions.taken(), 3);
     EXPECT_EQ(message, "untouched");
-    EXPECT_EQ(result.entries().find("l")->defaultValue, variant_t(std::int32_t(7)));
+    EXPECT_EQ(result.entries().find("l")->byDefault.value, variant_t(std::int32_t(7)));
 }
 
 TEST_F(ParseResultStore, RendersDefaultsOfEveryKind) {
