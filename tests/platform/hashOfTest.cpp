@@ -212,6 +212,31 @@ TEST(HashOf, CostsAChosenFamilyOfTextsWhatRandomOnesCost) {
     }
 }
 
+// A factor that a known word makes zero would hide all that stands in front of it.
+TEST(HashOf, LetsNoKnownWordHideWhatStandsInFrontOfIt) {
+    const std::uint64_t knownWords[] = {0,
+                                        ~std::uint64_t(0),
+                                        0x9E3779B97F4A7C15,
+                                        0x243F6A8885A308D3,
+                                        0x13198A2E03707344,
+                                        0xA4093822299F31D0,
+                                        0x082EFA98EC4E6C89,
+                                        0x452821E638D01377};
+    for (const std::uint64_t known : knownWords) {
+        for (std::size_t place = 8; place <= 48; place += 8) {
+            SCOPED_TRACE(std::to_string(known) + " at " + std::to_string(place));
+            std::set<std::size_t> hashes;
+            for (std::uint64_t number = 0; number < 100; ++number) {
+                std::string text(56, 'x');
+                put(text, 0, number, 8);
+                put(text, place, known, 8);
+                hashes.insert(hashOf(text, someKey));
+            }
+            EXPECT_EQ(hashes.size(), 100U);
+        }
+    }
+}
+
 // One text is written over: to build each anew would take longer than to hash it.
 TEST(HashOf, CostsLongTextsWithAPrefixInCommonWhatRandomOnesCost) {
     constexpr std::size_t prefix = 4096;
