@@ -12,7 +12,7 @@ TEST(StoredValue, HasTheTextWhateverItsLength) {
     internal::ArenaWithRoom<64> memory;
     std::vector<StoredValue> values;
     std::vector<std::string> texts;
-    for (std::size_t size = 0; size <= 40; ++size) {
+    for (std::size_t size = 1; size <= 40; ++size) {
         texts.emplace_back(size, static_cast<char>('a' + size % 26));
     }
     for (const std::string& text : texts) {
@@ -26,6 +26,14 @@ TEST(StoredValue, HasTheTextWhateverItsLength) {
         EXPECT_EQ(values[i].position, static_cast<int>(i % 3) + 1);
     }
     EXPECT_EQ(values[2].value, variant_t(5));
+}
+
+TEST(StoredValue, HasTheTextOfTheVariantWhereItHasNoneOfItsOwn) {
+    internal::ArenaWithRoom<64> memory;
+    EXPECT_STREQ(StoredValue({"", variant_t("short"), 1}, memory).text(), "short");
+    EXPECT_STREQ(StoredValue({"", variant_t("a text of twenty characters"), 1}, memory).text(),
+                 "a text of twenty characters");
+    EXPECT_STREQ(StoredValue({"", variant_t(5), 1}, memory).text(), "");
 }
 
 TEST(StoredValue, OutlivesWhatItWasGiven) {
