@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <atomic>
 
+#include "parser/Remarks.h"
 #include "result/ParseResult.h"
 
 namespace tarv_3_3 {
@@ -70,6 +71,19 @@ const char* BasicParser::getErrorDesc() {
 
 void BasicParser::setLastError(const std::string& text) {
     m_lastError = text;
+}
+
+Remarks& BasicParser::ownRemarks() {
+    if (!m_remarks) {
+        m_remarks = std::make_unique<Remarks>();
+    }
+    return *m_remarks;
+}
+
+// Null may be registered, and is never asked.
+bool BasicParser::asksHandlers() const {
+    return std::any_of(m_handlers.begin(), m_handlers.end(),
+                       [](const EventHandler* handler) { return handler != nullptr; });
 }
 
 bool BasicParser::addHandler(EventHandler* handler) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <memory>
 #include <set>
 #include <string>
 #include <vector>
@@ -16,6 +17,7 @@ namespace tarv_3_3 {
 class IArgumentParser;
 class ParseResult;
 enum class Listeners;
+struct Remarks;
 
 /// The one concrete parser. Its sources, by job: BasicParser.cpp (declarations, events, errors),
 /// BasicParserParsing.cpp (the road of a command line), BasicParserStreams.cpp (streams and option
@@ -92,6 +94,23 @@ public:
     /// The options that have no tags.
     std::vector<OptionDescription> getGlobalModifiers() const;
 
+    ///@{
+    /// What this parser was told, for those who describe it.
+    const RegisteredOptionStorage& registry() const { return m_registry; }
+    int flags() const { return m_flags; }
+    bool readsOptionFiles() const { return m_optionFileDeclared; }
+    bool asksHandlers() const;
+    ///@}
+
+    /// Null as long as nothing was remarked.
+    const Remarks* remarks() const { return m_remarks.get(); }
+
+    /// To be added to; made when they are first asked for.
+    Remarks& ownRemarks();
+
+    /// Keeps a text as long as the parser lives.
+    const char* keep(const std::string& text) { return m_garbage.init(text.c_str()); }
+
 private:
     template <class Call>
     void forEachHandler(Call call);
@@ -118,6 +137,7 @@ private:
     bool m_optionFileDeclared = false;
     /// Unlike that of any other parser of the process, also of one that lay in the same place.
     std::uint64_t m_number;
+    std::unique_ptr<Remarks> m_remarks;
 };
 
 } // namespace tarv_3_3

@@ -1,0 +1,223 @@
+#include <exception>
+
+#include "description/JsonWriter.h"
+#include "description/declarationFacts.h"
+#include "parser/BasicParser.h"
+#include "parser/Remarks.h"
+#include "tarv_3_3/description.h"
+
+namespace tarv_3_3 {
+
+namespace {
+
+using internal::JsonWriter;
+
+// A member is only ever added here with its place in share/tarv/description.schema.json, and a higher
+// number behind the point. A change that would mislead a reader takes a higher number in front of it.
+constexpr char formatName[] = "tarv-description";
+constexpr char formatVersion[] = "1.0";
+
+const char* kindName(das_variant_type_t kind) {
+    switch (kind) {
+    case vtBool:
+        return "switch";
+    case vtInt32:
+        return "int32";
+    case vtUInt32:
+        return "uint32";
+    case vtInt64:
+        return "int64";
+    case vtUInt64:
+        return "uint64";
+    case vtDouble:
+        return "double";
+    case vtString:
+        return "string";
+    case vtNull:
+        break;
+    }
+    return "none";
+}
+
+const char* ruleName(int kind) {
+    static const char* const names[] = {"required",   "atMostOne", "atLeastOne",
+                                        "exactlyOne", "allOrNone", "needs"};
+    return names[kind];
+}
+
+template <class Elements, class TextOf>
+void writeList(JsonWriter& json, const char* name, const Elements& elements, TextOf textOf) {
+    if (elements.empty()) {
+        return;
+    }
+    json.open('[', name);
+    for (const auto& element : elements) {
+        json.element(textOf(element));
+    }
+    json.close(']');
+}
+
+const std::string& itself(const std::string& text) {
+    return text;
+}
+
+void writeTrue(JsonWriter& json, const char* name, bool isTrue) {
+    if (isTrue) {
+        json.memberTrue(name);
+    }
+}
+
+void writeText(JsonWriter& json, const char* name, std::string_view text) {
+    if (!text.empty()) {
+        json.member(name, text);
+    }
+}
+
+void writeFlags(JsonWriter& json, int flags) {
+    const struct {
+        int flag;
+        const char* name;
+    } known[] = {{flagRejectUnknown, "rejectUnknown"},
+                 {flagPlainArePositional, "plainArePositional"},
+                 {flagDashIsNotPositional, "dashIsNotPositional"},
+                 {flagPositionalTakesRest, "positionalTakesRest"},
+                 {flagNoLists, "noLists"}};
+    json.open('[', "flags");
+    for (const auto& row : known) {
+        if ((flags & row.flag) != 0) {
+            json.element(row.name);
+        }
+    }
+    json.close(']');
+}
+
+void writeTopics(JsonWriter& json, const std::vector<Topic>& topics) {
+    json.open('[', "topics");
+    for (const Topic& topic : topics) {
+        json.breakLine();
+        json.open('{');
+        json.member("name", topic.first);
+        writeText(json, "title", topic.second);
+        json.close('}');
+    }
+    json.close(']');
+}
+
+void writePositional(JsonWriter& json, const OptionDescription& option, bool isFilled) {
+    if (option.m_positional) {
+        json.member("positional", isFilled ? "filled" : "unused");
+    }
+}
+
+void writeNotes(JsonWriter& json, const Remarks::Notes& notes) {
+    if (notes.empty()) {
+        return;
+    }
+    json.open('{', "notes");
+    for (const auto& [key, value] : notes) {
+        json.member(key, value);
+    }
+    json.close('}');
+}
+
+void writeDeclaration(JsonWriter& json, const OptionDescription& option, bool isFilled,
+                      const Remarks::Notes& notes) {
+    json.breakLine();
+    json.open('{');
+    json.member("role", option.m_kind == Action ? "action" : "option");
+    json.member("kind", kindName(option.m_type));
+    writeList(json, "names", option.m_names, itself);
+    writeText(json, "text", option.m_description);
+    writeText(json, "topic", option.m_topic.first);
+    writeList(json, "tags", option.m_tags, itself);
+    writeList(json, "allowed", option.m_allowedValues,
+              [&](const variant_t& value) { return internal::typedText(option, value); });
+    if (option.m_tokenizer != 0) {
+        json.member("separator", {&option.m_tokenizer, 1});
+    }
+    if (const std::optional<std::string> text = internal::typedDefault(option)) {
+        json.member("default", *text);
+    }
+    writeTrue(json, "negatable", option.m_type == vtBool);
+    writePositional(json, option, isFilled);
+    writeTrue(json, "hidden", internal::isHidden(option));
+    writeNotes(json, notes);
+    json.close('}');
+}
+
+void writeDeclarations(JsonWriter& json, const std::vector<OptionDescription>& options,
+                       const Remarks& remarks) {
+    const std::size_t filled = internal::filledPlace(options);
+    json.open('[', "declarations");
+    for (std::size_t place = 0; place < options.size(); ++place) {
+        const bool hasNotes = place < remarks.notes.size();
+        writeDeclaration(json, options[place], place == filled,
+                         hasNotes ? remarks.notes[place] : Remarks::Notes());
+    }
+    json.close(']');
+}
+
+void writeRules(JsonWriter& json, const std::vector<Remarks::Rule>& rules,
+                const std::vector<OptionDescription>& options) {
+    json.open('[', "rules");
+    for (const Remarks::Rule& rule : rules) {
+        json.breakLine();
+        json.open('{');
+        json.member("kind", ruleName(rule.kind));
+        writeList(json, "names", rule.places,
+                  [&](std::size_t place) { return options[place].primaryName(); });
+        json.close('}');
+    }
+    json.close(']');
+}
+
+// What the host's own code decides, which nobody can read from a description.
+void writeChecks(JsonWriter& json, bool asksHandlers) {
+    json.open('[', "checks");
+    if (asksHandlers) {
+        json.open('{');
+        json.memberTrue("opaque");
+        json.member("by", "handlers");
+        json.close('}');
+    }
+    json.close(']');
+}
+
+std::string write(const BasicParser& parser) {
+    const Remarks none;
+    const Remarks& remarks = parser.remarks() != nullptr ? *parser.remarks() : none;
+    const RegisteredOptionStorage& registry = parser.registry();
+    JsonWriter json;
+    json.open('{');
+    json.member("format", formatName);
+    json.member("version", formatVersion);
+    json.breakLine();
+    writeFlags(json, parser.flags());
+    writeTrue(json, "optionFiles", parser.readsOptionFiles());
+    json.breakLine();
+    writeTopics(json, registry.m_topics);
+    json.breakLine();
+    writeDeclarations(json, registry.m_options, remarks);
+    json.breakLine();
+    writeRules(json, remarks.rules, registry.m_options);
+    json.breakLine();
+    writeChecks(json, parser.asksHandlers());
+    json.close('}');
+    return json.text() + "\n";
+}
+
+} // namespace
+
+const char* describeAsJson(IParser* parser) {
+    BasicParser* const own = internal::ownParser(parser);
+    if (own == nullptr) {
+        return nullptr;
+    }
+    try {
+        return own->keep(write(*own));
+    } catch (const std::exception&) {
+        return nullptr;
+    }
+}
+
+} // namespace tarv_3_3

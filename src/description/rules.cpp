@@ -1,0 +1,181 @@
+#include <algorithm>
+#include <exception>
+#include <vector>
+
+#include "description/declarationFacts.h"
+#include "description/messages.h"
+#include "options/split.h"
+#include "parser/BasicParser.h"
+#include "parser/Remarks.h"
+#include "result/ParseResult.h"
+#include "tarv_3_3/description.h"
+
+namespace tarv_3_3 {
+
+namespace {
+
+namespace messages = internal::messages;
+
+using Options = std::vector<const OptionDescription*>;
+
+/// What is given of a rule's options and what is not, both in the order of the rule.
+struct Given {
+    Options given;
+    Options missing;
+};
+
+bool isGiven(const OptionDescription& option, const ParseResult& result) {
+    const OptionData* const data = result.entries().find(option.primaryName());
+    if (data == nullptr || data->positions.empty()) {
+        return false;
+    }
+    const bool isTurnedOff =
+        option.m_type == vtBool && !data->values.empty() && !data->values.back().value.get<bool>();
+    return !isTurnedOff;
+}
+
+Given divide(const Options& options, const ParseResult& result) {
+    Given divided;
+    for (const OptionDescription* option : options) {
+        (isGiven(*option, result) ? divided.given : divided.missing).push_back(option);
+    }
+    return divided;
+}
+
+std::string quoted(const OptionDescription& option) {
+    return "'" + option.primaryName() + "'";
+}
+
+std::string named(const OptionDescription& option) {
+    return (option.m_kind == Action ? "action " : "option ") + quoted(option);
+}
+
+std::string firstNamed(const OptionDescription& option) {
+    return (option.m_kind == Action ? "Action " : "Option ") + quoted(option);
+}
+
+std::string quotedNames(const Options& options) {
+    std::string list;
+    for (const OptionDescription* option : options) {
+        list.append(list.empty() ? "" : ", ").append(quoted(*option));
+    }
+    return list;
+}
+
+// Each of these says what is wrong, "" when nothing is.
+
+std::string checkRequired(const Given& divided) {
+    return divided.missing.empty() ? "" : messages::isRequired(firstNamed(*divided.missing.front()));
+}
+
+std::string checkAtMostOne(const Given& divided) {
+    return divided.given.size() < 2
+               ? ""
+               : messages::excludeEachOther(firstNamed(*divided.given[0]), named(*divided.given[1]));
+}
+
+std::string checkAtLeastOne(const Given& divided) {
+    return divided.given.empty() ? messages::oneIsRequired(quotedNames(divided.missing)) : "";
+}
+
+std::string checkExactlyOne(const Given& divided) {
+    return divided.given.empty() ? checkAtLeastOne(divided) : checkAtMostOne(divided);
+}
+
+std::string checkAllOrNone(const Options& options, const Given& divided) {
+    return divided.given.empty() || divided.missing.empty()
+               ? ""
+               : messages::goTogether(quotedNames(options), named(*divided.missing.front()));
+}
+
+std::string checkNeeds(const Options& options, const Given& divided) {
+    const bool isNeeded = !divided.given.empty() && divided.given.front() == options.front();
+    return isNeeded && !divided.missing.empty()
+               ? messages::needs(firstNamed(*options.front()), named(*divided.missing.front()))
+               : "";
+}
+
+std::string checkRule(int kind, const Options& options, const ParseResult& result) {
+    const Given divided = divide(options, result);
+    switch (kind) {
+    case ruleRequired:
+        return checkRequired(divided);
+    case ruleAtMostOne:
+        return checkAtMostOne(divided);
+    case ruleAtLeastOne:
+        return checkAtLeastOne(divided);
+    case ruleExactlyOne:
+        return checkExactlyOne(divided);
+    case ruleAllOrNone:
+        return checkAllOrNone(options, divided);
+    default:
+        return checkNeeds(options, divided);
+    }
+}
+
+int checkOwnRules(BasicParser& parser, const ParseResult& result) {
+    if (parser.remarks() == nullptr) {
+        return parseOk;
+    }
+    for (const Remarks::Rule& rule : parser.remarks()->rules) {
+        Options options;
+        for (const std::size_t place : rule.places) {
+            options.push_back(&parser.registry().m_options[place]);
+        }
+        const std::string message = checkRule(rule.kind, options, result);
+        if (!message.empty()) {
+            parser.setLastError(message);
+            return parseFailed;
+        }
+    }
+    return parseOk;
+}
+
+int addOwnRule(BasicParser& parser, int kind, const char* names) {
+    const std::vector<OptionDescription>& options = parser.registry().m_options;
+    std::vector<std::string> words;
+    split(names, words);
+    Remarks::Rule rule = {kind, {}};
+    for (const std::string& word : words) {
+        const std::size_t place = internal::placeOfExactName(word, options);
+        const bool isRepeated = std::find(rule.places.begin(), rule.places.end(), place) != rule.places.end();
+        if (place == options.size() || isRepeated) {
+            return remarkRefused;
+        }
+        rule.places.push_back(place);
+    }
+    if (rule.places.size() < (kind == ruleRequired ? 1U : 2U)) {
+        return remarkRefused;
+    }
+    parser.ownRemarks().rules.push_back(std::move(rule));
+    return remarkStored;
+}
+
+} // namespace
+
+int addRule(IParser* parser, int kind, const char* names) {
+    BasicParser* const own = internal::ownParser(parser);
+    if (own == nullptr || names == nullptr || kind < ruleRequired || kind > ruleNeeds) {
+        return remarkRefused;
+    }
+    try {
+        return addOwnRule(*own, kind, names);
+    } catch (const std::exception&) {
+        return remarkException;
+    }
+}
+
+int checkRules(IParser* parser, IParseResult* result) {
+    BasicParser* const own = internal::ownParser(parser);
+    const auto* const ownResult = dynamic_cast<const ParseResult*>(result);
+    if (own == nullptr || ownResult == nullptr) {
+        return parseException;
+    }
+    try {
+        return checkOwnRules(*own, *ownResult);
+    } catch (const std::exception&) {
+        return parseException;
+    }
+}
+
+} // namespace tarv_3_3
