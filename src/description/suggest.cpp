@@ -59,14 +59,17 @@ Candidate nearestName(std::string_view typed, const OptionDescription& option) {
     return best;
 }
 
-// The one name that is nearest of each option, where that is as near as any other's; nearer ones first
-// also where only the letters cut differ.
+// The nearest name of each option that may be suggested, where it takes as few edits as any other's; those
+// with the fewest letters cut come first. Only the one that needs no edit, if there is such a name at all.
 std::vector<Candidate> nearestNames(std::string_view typed, const std::vector<OptionDescription>& options) {
     std::vector<Candidate> found;
     std::size_t fewest = mostEdits(typed);
     for (const OptionDescription& option : options) {
-        Candidate candidate = internal::maySuggest(option) ? nearestName(typed, option) : Candidate();
-        if (candidate.distance.edits > fewest) {
+        Candidate candidate = nearestName(typed, option);
+        if (candidate.distance.edits == 0) {
+            return {std::move(candidate)};
+        }
+        if (candidate.distance.edits > fewest || !internal::maySuggest(option)) {
             continue;
         }
         if (candidate.distance.edits < fewest) {
