@@ -48,6 +48,10 @@ install(FILES ${PROJECT_BINARY_DIR}/tarv.pc
     DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig
     COMPONENT development)
 
+install(FILES share/tarv/description.schema.json
+    DESTINATION ${CMAKE_INSTALL_DATADIR}/tarv
+    COMPONENT development)
+
 # A project that contains this one may have an `uninstall` of its own.
 if(PROJECT_IS_TOP_LEVEL)
     add_custom_target(uninstall COMMAND ${CMAKE_COMMAND}
