@@ -169,8 +169,8 @@ protected:
 
 std::vector<Scenario> allScenarios() {
     std::vector<Scenario> all;
-    for (const auto& group :
-         {declarationScenarios(), parseScenarios(), handlerScenarios(), queryScenarios(), helpScenarios()}) {
+    for (const auto& group : {declarationScenarios(), parseScenarios(), handlerScenarios(), queryScenarios(),
+                              helpScenarios(), descriptionScenarios()}) {
         all.insert(all.end(), group.begin(), group.end());
     }
     return all;

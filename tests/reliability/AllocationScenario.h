@@ -52,7 +52,7 @@ enum class Failure {
     /// Status 3 around the parse, with the last message unchanged; behind that, status 4 inside it
     /// with a message of its own, or 3 when there is no memory for the message either.
     parse,
-    /// Status 3.
+    /// Status 3, which a scenario also makes of a null text.
     query,
     /// Status 1, or a value found before memory ran out: the question about the last value
     /// does not tell exhaustion from the end.
@@ -81,3 +81,4 @@ std::vector<Scenario> parseScenarios();
 std::vector<Scenario> handlerScenarios();
 std::vector<Scenario> queryScenarios();
 std::vector<Scenario> helpScenarios();
+std::vector<Scenario> descriptionScenarios();
