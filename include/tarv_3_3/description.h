@@ -197,8 +197,8 @@ TARV_API int addRule(IParser* parser, int kind, const char* names);
 TARV_API int checkRules(IParser* parser, IParseResult* result);
 
 /// Everything that was declared, annotated and ruled, as JSON; `share/tarv/description.schema.json` is
-/// its schema. The text is ASCII and UTF-8 without control characters but line feeds, and kept by the
-/// parser. Null when memory is exhausted.
+/// its schema. The text is UTF-8, whatever bytes were declared, without control characters but line feeds;
+/// it is kept by the parser. Null when memory is exhausted.
 TARV_API const char* describeAsJson(IParser* parser);
 
 /// What the user may have meant by an argument that the parse did not take: a sentence such as
