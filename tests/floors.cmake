@@ -12,6 +12,7 @@ set(floor_result 4)
 set(floor_parser 5)
 set(floor_help 6)
 set(floor_description 8)
+set(floor_completion 8)
 
 set(wrong "")
 set(count 0)

@@ -1,0 +1,89 @@
+#pragma once
+
+#include "tarv_3_3/export.h"
+
+/// What a shell may offer when its user presses TAB. A host needs one call, `answerCompletion`, as the
+/// first in `main` that looks at the command line; its users then load a script that the program prints
+/// itself: `source <(PROGRAM tarvoption=completion=bash)`.
+
+namespace tarv_3_3 {
+
+class IParser;
+
+/// `Completion::files`: what the shell is to add by itself.
+enum CompletionFiles : int { completeNoFiles = 0, completeFiles = 1, completeDirectories = 2 };
+
+/// A word that may stand at the cursor. The library makes these records; fields are only ever added at
+/// the end, and `Completion::stride` says how far one is from the next.
+struct Candidate {
+    /// The whole word, without a shell's quotes; never null. Where it ends in '=', a value is to follow
+    /// without a blank.
+    const char* text;
+    /// What is said of it; empty when nothing is, never null.
+    const char* description;
+};
+
+/// What may stand at the cursor. The library makes these records, and owns all that they point to;
+/// fields are only ever added at the end.
+struct Completion {
+    /// Of this record, in bytes.
+    unsigned size;
+    /// Of a `Candidate`, in bytes.
+    unsigned stride;
+    /// A `CompletionFiles`.
+    int files;
+    /// Where in the word the file name begins, in bytes: behind `--file=`, for one. 0 when `files` is
+    /// `completeNoFiles`.
+    unsigned fileOffset;
+    unsigned candidateCount;
+    /// Null when there are none.
+    const Candidate* candidates;
+    /// The word, lengthened as far as all candidates agree: `--max-` for `--m-`, where only
+    /// `--max-count=` and `--max-depth=` fit. The word itself when nothing can be added, never null.
+    const char* common;
+};
+
+/// Takes the values that a host offers.
+class CandidateSink {
+public:
+    /// Offers `value`; both texts are copied. A null `description` says nothing, a null `value` is
+    /// ignored, as is one that does not begin with the word asked for.
+    virtual void add(const char* value, const char* description) = 0;
+
+protected:
+    CandidateSink() = default;
+    CandidateSink(const CandidateSink&) = default;
+    CandidateSink& operator=(const CandidateSink&) = default;
+    ~CandidateSink() = default;
+};
+
+/// A host's own values for the option of the primary name `option`. `word` is what was typed of the
+/// value, or of the last piece of a list. Returns whether it knows the option; if not, the shell adds
+/// files where the option takes texts. The pointers are valid during the call only.
+using ValueCompleter = bool (*)(void* context, const char* option, const char* word, CandidateSink& sink);
+
+/// Answers what may stand in place of the last of `count` words, of which the first is the program.
+/// Nothing is parsed, stored or told to handlers. `completer` may be null; `context` is passed on to it.
+/// The caller ends the answer with `release`. Null when memory is exhausted, when `count` is less than 2
+/// or `words` or one of them is null, or when `parser` was not made by `createParser`.
+TARV_API const Completion* complete(IParser* parser, int count, const char* const* words,
+                                    ValueCompleter completer = nullptr, void* context = nullptr);
+
+/// Ends what `complete` returned; null is ignored.
+TARV_API void release(const Completion* completion);
+
+/// Answers the requests that a program's only argument can be, on standard output, and returns whether
+/// it was one; then the host leaves with exit code 0. Call it when all options are declared, before
+/// anything is printed or read from standard input.
+///
+/// - `tarvoption=completion=SHELL` prints the script for `bash`, `zsh` or `fish`.
+/// - `tarvoption=complete=SHELL` is what the scripts ask. The words come on standard input, each ended
+///   by a zero byte.
+/// - `tarvoption=describe` prints the description of all options as JSON.
+///
+/// In a host that never calls this, the three are arguments like any other. When memory is exhausted,
+/// nothing is printed. Never throws.
+TARV_API bool answerCompletion(IParser* parser, int argc, const char* const* argv,
+                               ValueCompleter completer = nullptr, void* context = nullptr);
+
+} // namespace tarv_3_3

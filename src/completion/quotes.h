@@ -1,0 +1,21 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace tarv_3_3 {
+
+/// A word without the quotes that bash takes off. What bash would expand stays as it is.
+struct Unquoted {
+    std::string text;
+    /// The quote that is still open at the end, 0 when none is.
+    char openQuote = 0;
+};
+
+Unquoted unquote(std::string_view word);
+
+/// `text` as it is typed so that bash takes it literally, behind an `openQuote` that bash will close,
+/// or outside quotes when that is 0.
+std::string quote(std::string_view text, char openQuote);
+
+} // namespace tarv_3_3
