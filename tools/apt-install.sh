@@ -11,8 +11,9 @@ set -euo pipefail
 
 declare -A groups=(
     [build]="g++ cmake ninja-build"
-    [test]="abigail-tools clang doxygen googletest libboost-program-options-dev libclang-rt-14-dev libcli11-dev
-        libgtest-dev mandoc pkg-config python3 python3-jsonschema"
+    [test]="abigail-tools bash-completion clang doxygen fish googletest libboost-program-options-dev
+        libclang-rt-14-dev libcli11-dev libgtest-dev mandoc pkg-config python3 python3-jsonschema
+        zsh"
     [ci]="clang-format clang-tidy cppcheck dpkg-dev file lintian shellcheck"
     [coverage]="gcovr"
     [memcheck]="valgrind"
