@@ -25,12 +25,13 @@ struct Given {
 };
 
 bool isGiven(const OptionDescription& option, const ParseResult& result) {
-    const OptionData* const data = result.entries().find(option.primaryName());
-    if (data == nullptr || data->positions.empty()) {
+    const Entries::Entry* const entry = result.entries().find(option.primaryName());
+    if (entry == nullptr || entry->data->positions.empty()) {
         return false;
     }
+    const Entries::Data& data = *entry->data;
     const bool isTurnedOff =
-        option.m_type == vtBool && !data->values.empty() && !data->values.back().value.get<bool>();
+        option.m_type == vtBool && !data.values.empty() && !data.values.back().value.get<bool>();
     return !isTurnedOff;
 }
 
