@@ -6,9 +6,8 @@
 #include "recognition/ArgumentSpan.h"
 #include "recognition/DecomposedName.h"
 #include "recognition/IArgumentParser.h"
-#include "recognition/SpaceClassifier.h"
-#include "recognition/nameMatching.h"
-#include "recognition/tokenSyntax.h"
+#include "recognition/NameMatcher.h"
+#include "recognition/valueSource.h"
 
 namespace tarv_3_3 {
 
@@ -70,28 +69,18 @@ public:
     int findBest(const std::vector<NameMatch>& matches, DecomposedName& best, std::string& err);
 
 private:
-    TARV_HIDDEN int look(const std::string& argument, const std::vector<OptionDescription>& options,
-                         RegisteredOptionStorage* registry, std::string& err);
-    TARV_HIDDEN bool keepWholeName(std::string_view typed, RegisteredOptionStorage& registry);
-    TARV_HIDDEN void forgetBest();
-    TARV_HIDDEN void keepBest(std::string_view typed, const std::vector<OptionDescription>& options);
-    TARV_HIDDEN bool isBest(NameScore found);
-    TARV_HIDDEN int findOutcome(std::string& err) const;
+    TARV_HIDDEN NameOutcome look(const std::string& argument, const std::vector<OptionDescription>& options,
+                                 RegisteredOptionStorage* registry, std::string& err);
+    TARV_HIDDEN NameOutcome tellOutcome(std::string& err) const;
     TARV_HIDDEN std::string inArgument(std::string argument);
     TARV_HIDDEN int fail(std::string& err, std::string message) const;
     TARV_HIDDEN int findValue(const OptionDescription& option, ArgumentSpan left, std::string_view& value,
                               std::size_t& used, std::string& err);
-    TARV_HIDDEN int takeNextArgument(const OptionDescription& option, ArgumentSpan left,
-                                     std::string_view& value, std::size_t& used, std::string& err);
+    TARV_HIDDEN int refuseValue(ValueSource source, const OptionDescription& option, ArgumentSpan left,
+                                std::string& err);
 
-    /// The place of the option that the last `recognize` found; -1 for none.
-    std::int64_t m_optionIndex = -1;
-    /// The best candidates of the last `recognize`, in their order, and what each of them scored.
-    std::vector<std::string> m_bestNames;
-    std::int32_t m_bestScore = 0;
-    /// The argument that the last `recognize` looked at, cut into pieces.
-    Token m_token;
-    SpaceClassifier m_classifier;
+    /// Holds what the last `recognize` found.
+    NameMatcher m_matcher;
 };
 
 } // namespace tarv_3_3

@@ -22,7 +22,7 @@ NameScore scoreNegated(std::string_view typed, std::string_view name) {
 
 } // namespace
 
-std::string Candidate::text() const {
+std::string NameCandidate::text() const {
     std::string text(isNegated ? negation : std::string_view());
     return text.append(name);
 }
@@ -53,7 +53,7 @@ NameScore scoreName(std::string_view typed, std::string_view name) {
     return {true, score};
 }
 
-NameScore scoreCandidate(std::string_view typed, const Candidate& candidate) {
+NameScore scoreCandidate(std::string_view typed, const NameCandidate& candidate) {
     return candidate.isNegated ? scoreNegated(typed, candidate.name) : scoreName(typed, candidate.name);
 }
 

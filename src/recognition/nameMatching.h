@@ -9,7 +9,7 @@
 namespace tarv_3_3 {
 
 /// A name that an argument may give, whole or abbreviated: a name of an option, or that name behind "no-".
-struct Candidate {
+struct NameCandidate {
     std::string text() const;
 
     std::string_view name;
@@ -29,9 +29,9 @@ struct NameScore {
 template <class Look>
 void forEachCandidate(const OptionDescription& option, Look look) {
     for (const std::string& name : option.m_names) {
-        look(Candidate{name, false});
+        look(NameCandidate{name, false});
         if (option.m_type == vtBool) {
-            look(Candidate{name, true});
+            look(NameCandidate{name, true});
         }
     }
 }
@@ -39,7 +39,7 @@ void forEachCandidate(const OptionDescription& option, Look look) {
 NameScore scoreName(std::string_view typed, std::string_view name);
 
 /// The same for a candidate. Where the number of words differs, the score of a negated one is 0.
-NameScore scoreCandidate(std::string_view typed, const Candidate& candidate);
+NameScore scoreCandidate(std::string_view typed, const NameCandidate& candidate);
 
 /// Whether the first word of a typed name may stand for the "no" of a negated candidate.
 bool mayBeNegated(std::string_view typed);

@@ -1,0 +1,78 @@
+#include "recognition/NameMatcher.h"
+
+#include "options/OptionDescription.h"
+#include "options/RegisteredOptionStorage.h"
+
+namespace tarv_3_3 {
+
+NameOutcome NameMatcher::look(const std::string& argument, const std::vector<OptionDescription>& options,
+                              RegisteredOptionStorage* registry) {
+    m_place = -1;
+    if (argument.size() < 2 || dashLength(argument) == 0) {
+        m_token = Token();
+        forget();
+        return NameOutcome::none;
+    }
+    m_token = splitToken(argument, m_classifier);
+    const std::string_view name = m_token.nameIn(argument);
+    if (registry == nullptr || !keepWholeName(name, *registry)) {
+        keepBest(name, options);
+    }
+    const NameOutcome found = outcome();
+    // The record that gave the one best name is also the one that a lookup of that name would find:
+    // another one with the same name would have tied with it.
+    if (found == NameOutcome::ambiguous) {
+        m_place = -1;
+    }
+    return found;
+}
+
+// Only an equal candidate has every word whole, so nothing beats it, and only another equal one ties with
+// it. Where there is just one, the table need not be walked.
+bool NameMatcher::keepWholeName(std::string_view typed, RegisteredOptionStorage& registry) {
+    std::size_t place = 0;
+    if (!registry.findOnly(typed, place)) {
+        return false;
+    }
+    // Strings take their memory over.
+    m_bestNames.resize(1);
+    m_bestNames.front() = typed;
+    m_place = static_cast<std::int64_t>(place);
+    return true;
+}
+
+// What makeOptionNamesList, makeNameMatch and findBest do one after the other, in one pass over the
+// table.
+void NameMatcher::keepBest(std::string_view typed, const std::vector<OptionDescription>& options) {
+    forget();
+    const Names::Pattern pattern = patternOf(typed);
+    for (const OptionDescription& option : options) {
+        if (option.m_names.mayFit(pattern)) {
+            forEachCandidate(option, [&](const NameCandidate& candidate) {
+                if (isBest(scoreCandidate(typed, candidate))) {
+                    keep(candidate.text());
+                    m_place = &option - options.data();
+                }
+            });
+        }
+    }
+}
+
+void NameMatcher::forget() {
+    m_bestNames.clear();
+    m_bestScore = 0;
+}
+
+// Whether a candidate is to be kept; drops those that it beats.
+bool NameMatcher::isBest(NameScore found) {
+    if (!found.sameWordCount || found.score < m_bestScore) {
+        return false;
+    }
+    if (found.score > m_bestScore) {
+        m_bestNames.clear();
+        m_bestScore = found.score;
+    }
+    return true;
+}
+
+} // namespace tarv_3_3

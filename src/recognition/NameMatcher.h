@@ -1,0 +1,71 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "recognition/SpaceClassifier.h"
+#include "recognition/nameMatching.h"
+#include "recognition/tokenSyntax.h"
+
+namespace tarv_3_3 {
+
+class RegisteredOptionStorage;
+
+/// What a typed name means among those declared.
+enum class NameOutcome { found = 0, none = 1, ambiguous = 2 };
+
+/// Finds the declared name that an argument gives, whole or abbreviated. It keeps what it found, and its
+/// memory, until it is asked again.
+class NameMatcher {
+public:
+    /// Cuts `argument` into its pieces and matches its name. An argument that does not begin with a dash,
+    /// or has nothing behind it, gives none. Where `registry` is not null, `options` is its table.
+    NameOutcome look(const std::string& argument, const std::vector<OptionDescription>& options,
+                     RegisteredOptionStorage* registry);
+
+    /// Goes over to what the global locale calls white space now.
+    void followLocale() { m_classifier.follow(); }
+
+    /// The argument that was last looked at, cut into pieces.
+    const Token& token() const { return m_token; }
+
+    /// The place of the record that has the one best name, -1 when there is not exactly one.
+    std::int64_t place() const { return m_place; }
+
+    /// The best candidates, in the order of the table.
+    const std::vector<std::string>& bestNames() const { return m_bestNames; }
+
+    NameOutcome outcome() const {
+        return m_bestNames.empty()      ? NameOutcome::none
+               : m_bestNames.size() > 1 ? NameOutcome::ambiguous
+                                        : NameOutcome::found;
+    }
+
+    /// Forgets what was found; then `isBest` may be asked of one candidate after the other, and `keep`
+    /// told each that is.
+    void forget();
+    bool isBest(NameScore found);
+    void keep(std::string name) { m_bestNames.push_back(std::move(name)); }
+
+private:
+    bool keepWholeName(std::string_view typed, RegisteredOptionStorage& registry);
+    void keepBest(std::string_view typed, const std::vector<OptionDescription>& options);
+
+    std::int64_t m_place = -1;
+    std::vector<std::string> m_bestNames;
+    /// What each of them scored.
+    std::int32_t m_bestScore = 0;
+    Token m_token;
+    SpaceClassifier m_classifier;
+};
+
+/// Whether a name can be that of an option. One that is empty or begins with a third dash is refused even
+/// where it matches.
+inline bool isOptionName(std::string_view name) {
+    return !name.empty() && name.front() != '-';
+}
+
+} // namespace tarv_3_3
