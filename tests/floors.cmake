@@ -11,6 +11,7 @@ set(floor_recognition 3)
 set(floor_result 4)
 set(floor_parser 5)
 set(floor_help 6)
+set(floor_reading 7)
 set(floor_description 8)
 set(floor_completion 8)
 

@@ -20,12 +20,6 @@ bool maySuggest(const OptionDescription& option) {
     return !isHidden(option) && !option.m_positional;
 }
 
-std::size_t filledPlace(const std::vector<OptionDescription>& options) {
-    const auto filled = std::find_if(options.begin(), options.end(),
-                                     [](const OptionDescription& option) { return option.m_positional; });
-    return static_cast<std::size_t>(filled - options.begin());
-}
-
 std::size_t placeOfExactName(const std::string& name, const std::vector<OptionDescription>& options) {
     const auto found = std::find_if(options.begin(), options.end(), [&](const OptionDescription& option) {
         return std::find(option.m_names.begin(), option.m_names.end(), name) != option.m_names.end();

@@ -23,9 +23,6 @@ bool isHidden(const OptionDescription& option);
 /// Whether a suggestion may name the option: neither hidden nor positional ones.
 bool maySuggest(const OptionDescription& option);
 
-/// The place of the option that positional arguments fill; the number of options when there is none.
-std::size_t filledPlace(const std::vector<OptionDescription>& options);
-
 /// The place of the first record that has exactly the name `name`; the number of options when none has.
 std::size_t placeOfExactName(const std::string& name, const std::vector<OptionDescription>& options);
 

@@ -7,6 +7,7 @@
 #include "description/declarationFacts.h"
 #include "parser/BasicParser.h"
 #include "parser/Remarks.h"
+#include "recognition/PositionalOptionsParser.h"
 #include "tarv_3_3/description.h"
 #include "tarv_3_3/internal/Garbage.h"
 
@@ -14,7 +15,6 @@ namespace tarv_3_3 {
 
 namespace {
 
-using internal::filledPlace;
 using internal::typedText;
 
 /// A description and what it points to.
@@ -94,7 +94,7 @@ void addRemarks(KeptDescription& kept, const Remarks& remarks,
 std::unique_ptr<KeptDescription> describeAll(const BasicParser& parser) {
     auto kept = std::make_unique<KeptDescription>();
     const std::vector<OptionDescription>& options = parser.registry().m_options;
-    const std::size_t filled = filledPlace(options);
+    const std::size_t filled = positionalPlace(options);
     for (std::size_t place = 0; place < options.size(); ++place) {
         kept->declarationList.push_back(describeOne(*kept, options[place], place == filled));
     }

@@ -4,6 +4,7 @@
 #include "description/declarationFacts.h"
 #include "parser/BasicParser.h"
 #include "parser/Remarks.h"
+#include "recognition/PositionalOptionsParser.h"
 #include "tarv_3_3/description.h"
 
 namespace tarv_3_3 {
@@ -147,7 +148,7 @@ void writeDeclaration(JsonWriter& json, const OptionDescription& option, bool is
 
 void writeDeclarations(JsonWriter& json, const std::vector<OptionDescription>& options,
                        const Remarks& remarks) {
-    const std::size_t filled = internal::filledPlace(options);
+    const std::size_t filled = positionalPlace(options);
     json.open('[', "declarations");
     for (std::size_t place = 0; place < options.size(); ++place) {
         const bool hasNotes = place < remarks.notes.size();

@@ -97,6 +97,7 @@ public:
     ///@{
     /// What this parser was told, for those who describe it.
     const RegisteredOptionStorage& registry() const { return m_registry; }
+    RegisteredOptionStorage& registry() { return m_registry; }
     int flags() const { return m_flags; }
     bool readsOptionFiles() const { return m_optionFileDeclared; }
     bool asksHandlers() const;

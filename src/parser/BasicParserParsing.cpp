@@ -3,6 +3,7 @@
 #include <typeinfo>
 
 #include "parser/BasicParser.h"
+#include "parser/commandLine.h"
 #include "parser/messages.h"
 #include "platform/logLine.h"
 #include "recognition/AbbreviationParser.h"
@@ -15,8 +16,6 @@ namespace tarv_3_3 {
 namespace messages = internal::messages;
 
 namespace {
-
-constexpr char logSwitch[] = "tarvoption=tarvlogenable=1";
 
 // Every command line, stream and option file decides for itself, by its first argument.
 void switchLog(std::vector<std::string>& arguments) {
@@ -63,7 +62,7 @@ int BasicParser::parseArguments(int argc, const char* const* argv, IParseResult*
 
 int BasicParser::parseVector(std::vector<std::string>& arguments, IParseResult* result) {
     try {
-        const std::string endMarker = "--";
+        const std::string endMarker(endMarkerText);
         int status = parseUpToMarker(endMarker, arguments, result);
         if (status == parseOk) {
             status = readOptionFiles(endMarker, result);

@@ -7,6 +7,17 @@
 
 namespace tarv_3_3 {
 
+std::size_t positionalPlace(const std::vector<OptionDescription>& options, std::size_t from) {
+    while (from < options.size() && !options[from].m_positional) {
+        ++from;
+    }
+    return from;
+}
+
+bool isPositionalForm(std::string_view argument, unsigned int flags) {
+    return (flags & flagDashIsNotPositional) == 0 || !beginsWithHyphen(argument);
+}
+
 PositionalOptionsParser::PositionalOptionsParser(EventHandler* handler, Garbage* garbage, unsigned int flags)
     : PositionalOptionsParser(handler, garbage, flags, Listeners::some) {}
 
@@ -26,10 +37,7 @@ int PositionalOptionsParser::recognize(std::vector<std::string>& args,
 bool PositionalOptionsParser::takes(const std::string& argument,
                                     const std::vector<OptionDescription>& options) {
     log(": recognizing argument '", argument, "'");
-    if ((m_flags & flagDashIsNotPositional) != 0 && beginsWithHyphen(argument)) {
-        return false;
-    }
-    return findPositional(options) != options.size();
+    return isPositionalForm(argument, m_flags) && findPositional(options) != options.size();
 }
 
 int PositionalOptionsParser::parse(std::vector<std::string>& args, IResultCollector* collector,
@@ -64,11 +72,9 @@ int PositionalOptionsParser::bind(ArgumentSpan left, IResultCollector* collector
 
 // Only the last record may become positional, so those before it are looked at once.
 std::size_t PositionalOptionsParser::findPositional(const std::vector<OptionDescription>& options) {
-    while (m_place + 1 < options.size() && !options[m_place].m_positional) {
-        ++m_place;
-    }
-    const bool isFound = m_place < options.size() && options[m_place].m_positional;
-    return isFound ? m_place : options.size();
+    const std::size_t place = positionalPlace(options, m_place);
+    m_place = place < options.size() || place == 0 ? place : place - 1;
+    return place;
 }
 
 int PositionalOptionsParser::getPriority() {

@@ -5,6 +5,13 @@
 
 namespace tarv_3_3 {
 
+/// The place of the option that positional arguments fill, or the size of the table when there is none.
+/// Those before `from` are known not to be it.
+std::size_t positionalPlace(const std::vector<OptionDescription>& options, std::size_t from = 0);
+
+/// Whether the parser's flags let an argument be positional that looks like this.
+bool isPositionalForm(std::string_view argument, unsigned int flags);
+
 /// Binds arguments, whole, as values of the first option that was declared positional.
 class TARV_API PositionalOptionsParser : public IArgumentParser {
 public:

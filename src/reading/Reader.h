@@ -1,0 +1,90 @@
+#pragma once
+
+#include <cstddef>
+#include <string>
+#include <vector>
+
+#include "recognition/NameMatcher.h"
+#include "recognition/valueSource.h"
+
+namespace tarv_3_3 {
+
+class BasicParser;
+
+enum class ArgumentRole {
+    /// The first argument, which switches the trace on.
+    traceSwitch,
+    /// An option or an action by its name.
+    named,
+    /// The value of the named option in front of it.
+    value,
+    positional,
+    /// "--".
+    endMarker,
+    /// Behind the end marker; a positional one as well where `place` says so.
+    plain,
+    unknown,
+    /// It fits a name, but is empty behind the dashes or has a third dash; no parse takes that.
+    misnamed,
+    /// It gives several names equally well.
+    ambiguous
+};
+
+/// What an argument is.
+struct ReadArgument {
+    /// The place of an argument that belongs to no declaration.
+    static constexpr auto nowhere = static_cast<std::size_t>(-1);
+
+    ArgumentRole role = ArgumentRole::unknown;
+    /// Of the declaration, in the registry's table.
+    std::size_t place = nowhere;
+    /// Of a named one: the whole name that it gives, "no-" included.
+    std::string name;
+    /// Of one that begins with a dash and can be named: where dashes, name and value begin.
+    Token token;
+    /// Of a named one: whether the name is cut short.
+    bool isAbbreviated = false;
+    /// Of a named one: whether it turns a switch off.
+    bool isNegated = false;
+    /// Of a named one: where its value comes from, or why it has none.
+    ValueSource source = ValueSource::none;
+    /// Whether a parse ends here with an error. Whether a value is one of the option's, and what handlers
+    /// say, is not asked for.
+    bool isRefused = false;
+};
+
+/// Says of the arguments of one command line, one after the other, what they are. It asks what the parse
+/// asks, but past errors, and nobody notices: no events, no position indices, no trace, no option files.
+///
+/// The parser outlives it, and gets no declarations meanwhile.
+class Reader {
+public:
+    explicit Reader(BasicParser& parser);
+
+    /// What `argument` is where the line has got to; `next` is the one behind it, null when there is none.
+    ReadArgument look(const std::string& argument, const std::string* next);
+
+    /// Goes on behind an argument that was looked at.
+    void pass(const ReadArgument& argument);
+
+private:
+    ReadArgument lookAtPlain() const;
+    ReadArgument lookAtName(const std::string& argument, const std::string* next);
+    bool mayBePositional(const std::string& argument) const;
+
+    BasicParser& m_parser;
+    const unsigned int m_flags;
+    /// The place of the option that positional arguments fill; the size of the table when there is none.
+    const std::size_t m_filled;
+    NameMatcher m_matcher;
+    /// The option whose value comes next.
+    std::size_t m_awaiting = ReadArgument::nowhere;
+    bool m_isFirst = true;
+    bool m_isBehindMarker = false;
+    bool m_isRestPositional = false;
+};
+
+/// What each of `arguments` is, the program not among them.
+std::vector<ReadArgument> readArguments(BasicParser& parser, const std::vector<std::string>& arguments);
+
+} // namespace tarv_3_3
