@@ -22,6 +22,7 @@ foreach(needed IN ITEMS
         _ZN8tarv_3_312createParserEPPNS_7IParserEi
         _ZN8tarv_3_312getLastValueEPNS_12IParseResultEPKcii
         _ZN8tarv_3_38describeEPNS_7IParserE
+        _ZN8tarv_3_38completeEPNS_7IParserEiPKPKcPFbPvS3_S3_RNS_13CandidateSinkEES6_
         _ZN8tarv_3_312EventHandler13onOptionParseEPKc
         _ZTVN8tarv_3_312EventHandlerE
         _ZTIN8tarv_3_312EventHandlerE

@@ -1,4 +1,7 @@
+#include <cstring>
+
 #include "reliability/AllocationScenario.h"
+#include "tarv_3_3/completion.h"
 #include "tarv_3_3/description.h"
 
 using namespace tarv_3_3;
@@ -64,6 +67,24 @@ std::string keptText(Subject& session) {
     return session.text != nullptr ? session.text : "";
 }
 
+bool offerLongValue(void*, const char*, const char*, CandidateSink& sink) {
+    sink.add(longValue, "A value of the host's, with a long description.");
+    return true;
+}
+
+/// 0 when exactly `expected` is offered behind "--build", 3 when there is no answer.
+int completeWith(Subject& session, const char* word, const char* expected) {
+    const char* const words[] = {"tool", "--build", word};
+    const Completion* const completion = complete(session.parser, 3, words, offerLongValue);
+    if (completion == nullptr) {
+        return 3;
+    }
+    const bool isExpected =
+        completion->candidateCount == 1 && std::strcmp(completion->candidates[0].text, expected) == 0;
+    release(completion);
+    return isExpected ? 0 : 4;
+}
+
 } // namespace
 
 std::vector<Scenario> descriptionScenarios() {
@@ -101,5 +122,14 @@ std::vector<Scenario> descriptionScenarios() {
         {"SuggestLetters", Failure::query, declared,
          [](Subject& s) { return keep(s, suggest(s.parser, "-oa-long-name-of-a-file-for-the-output")); }, 0,
          keptText, "Did you mean '-o=a-long-name-of-a-file-for-the-output'?"},
+        {"CompleteName", Failure::query, declared,
+         [](Subject& s) { return completeWith(s, "--o-f", "--output-file="); }, 0, keptText, ""},
+        {"CompleteValue", Failure::query, declared,
+         [](Subject& s) {
+             return completeWith(s, "--output-file=a piece of some length,a value",
+                                 "--output-file=a piece of some length,a value that is longer than a short "
+                                 "string");
+         },
+         0, keptText, ""},
     };
 }

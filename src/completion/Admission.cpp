@@ -1,0 +1,84 @@
+#include "completion/Admission.h"
+
+#include <algorithm>
+
+#include "parser/BasicParser.h"
+#include "parser/Remarks.h"
+#include "tarv_3_3/description.h"
+
+namespace tarv_3_3 {
+
+Admission::Admission(const BasicParser& parser)
+    : m_parser(parser), m_options(parser.registry().m_options), m_states(m_options.size(), State::notGiven),
+      m_maySwitchOff(m_options.size(), true), m_isExcluded(m_options.size(), false) {}
+
+void Admission::note(const ReadArgument& argument) {
+    if (argument.place == ReadArgument::nowhere || argument.role == ArgumentRole::value) {
+        return;
+    }
+    m_states[argument.place] = argument.isNegated ? State::off : State::given;
+    if (m_action == ReadArgument::nowhere && m_options[argument.place].m_kind == Action) {
+        m_action = argument.place;
+    }
+}
+
+void Admission::settle() {
+    if (m_parser.registry().m_hasActions) {
+        admitByActions();
+    }
+    excludeByRules();
+}
+
+// Without an action yet, all those are possible that go with the modifiers given, and so are the modifiers
+// of all these.
+void Admission::admitByActions() {
+    std::set<std::set<std::string>> givenTags;
+    for (std::size_t place = 0; place < m_options.size(); ++place) {
+        if (isGiven(place) && m_options[place].m_kind != Action && !m_options[place].m_tags.empty()) {
+            givenTags.insert(m_options[place].m_tags);
+        }
+    }
+    std::set<std::string> possibleTags;
+    for (std::size_t place = 0; place < m_options.size(); ++place) {
+        const OptionDescription& option = m_options[place];
+        if (option.m_kind == Action) {
+            m_maySwitchOff[place] =
+                m_action == ReadArgument::nowhere ? goesWithAllGiven(option, givenTags) : place == m_action;
+            if (m_maySwitchOff[place]) {
+                possibleTags.insert(option.m_tags.begin(), option.m_tags.end());
+            }
+        }
+    }
+    for (std::size_t place = 0; place < m_options.size(); ++place) {
+        const OptionDescription& option = m_options[place];
+        if (option.m_kind != Action && !option.m_tags.empty()) {
+            m_maySwitchOff[place] = m_parser.isIntersected(possibleTags, option.m_tags);
+        }
+    }
+}
+
+bool Admission::goesWithAllGiven(const OptionDescription& action,
+                                 const std::set<std::set<std::string>>& givenTags) const {
+    return std::all_of(givenTags.begin(), givenTags.end(), [&](const std::set<std::string>& tags) {
+        return m_parser.isIntersected(action.m_tags, tags);
+    });
+}
+
+// A switch that was turned off counts as not given, and may always be turned off.
+void Admission::excludeByRules() {
+    if (m_parser.remarks() == nullptr) {
+        return;
+    }
+    for (const Remarks::Rule& rule : m_parser.remarks()->rules) {
+        const auto isOn = [&](std::size_t place) { return m_states[place] == State::given; };
+        const auto first = std::find_if(rule.places.begin(), rule.places.end(), isOn);
+        const bool isForOne = rule.kind == ruleAtMostOne || rule.kind == ruleExactlyOne;
+        if (isForOne && first != rule.places.end()) {
+            for (const std::size_t place : rule.places) {
+                m_isExcluded[place] = m_isExcluded[place] || place != *first;
+            }
+        }
+    }
+}
+
+} // namespace tarv_3_3

@@ -1,0 +1,86 @@
+#include "completion/NameOffer.h"
+
+#include "completion/commonBeginning.h"
+#include "description/declarationFacts.h"
+#include "options/findOption.h"
+#include "parser/BasicParser.h"
+#include "recognition/nameMatching.h"
+
+namespace tarv_3_3 {
+
+namespace {
+
+bool takesValue(const OptionDescription& option) {
+    return option.m_type != vtNull && option.m_type != vtBool;
+}
+
+} // namespace
+
+// A dash alone does not say yet whether there will be two.
+NameOffer::NameOffer(const BasicParser& parser, Reader& reader, const Admission& admission,
+                     const std::string& word, const ReadArgument& read)
+    : m_options(parser.registry().m_options), m_reader(reader), m_admission(admission), m_dashes("--") {
+    const bool hasDashesAlone = word.size() < 2 || read.role == ArgumentRole::endMarker;
+    if (!hasDashesAlone) {
+        m_dashes = word.substr(0, read.token.nameStart);
+        m_typed = read.token.nameIn(word);
+    }
+}
+
+void NameOffer::addTo(KeptCompletion& kept) {
+    if (!m_typed.empty() && !isOptionName(m_typed)) {
+        return;
+    }
+    for (std::size_t place = 0; place < m_options.size(); ++place) {
+        offer(place, kept);
+    }
+    if (kept.candidateCount == 1) {
+        kept.setCommon(kept.candidates[0].text);
+    } else if (!m_names.empty()) {
+        kept.setCommon(m_dashes + commonWords(m_typed, m_names));
+    }
+}
+
+void NameOffer::offer(std::size_t place, KeptCompletion& kept) {
+    if (m_typed.empty() && !mayBegin(place)) {
+        return;
+    }
+    if (m_admission.mayStand(place)) {
+        offerOneOf(place, false, kept);
+    }
+    if (m_options[place].m_type == vtBool && m_admission.maySwitchOff(place) && isNegationTyped()) {
+        offerOneOf(place, true, kept);
+    }
+}
+
+// What is not offered before its name is begun.
+bool NameOffer::mayBegin(std::size_t place) const {
+    return internal::maySuggest(m_options[place]) && !m_admission.isGiven(place);
+}
+
+// "n" alone begins many names, and no parse takes it for the "no" of one of two words.
+bool NameOffer::isNegationTyped() const {
+    return m_typed + "-" == negation || mayBeNegated(m_typed);
+}
+
+// The primary name, or the first synonym that fits.
+void NameOffer::offerOneOf(std::size_t place, bool isNegated, KeptCompletion& kept) {
+    const OptionDescription& option = m_options[place];
+    for (const std::string& name : option.m_names) {
+        std::string whole = NameCandidate{name, isNegated}.text();
+        if (scoreName(m_typed, whole).score != 0 && isGivenBy(whole, place)) {
+            kept.add(m_dashes + whole + (takesValue(option) ? "=" : ""), option.m_description.c_str());
+            m_names.push_back(std::move(whole));
+            return;
+        }
+    }
+}
+
+// Another declaration may have the name as well, and some names cannot be typed.
+bool NameOffer::isGivenBy(const std::string& name, std::size_t place) {
+    const ReadArgument read = m_reader.look(m_dashes + name, nullptr);
+    return read.role == ArgumentRole::named && read.place == place && read.name == name &&
+           !read.isAbbreviated;
+}
+
+} // namespace tarv_3_3
