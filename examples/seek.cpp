@@ -1,6 +1,8 @@
 // seek searches text files: the command line of a real tool. What it does with files is in
 // searching.cpp, and how it replaces one without losing it in replacing.cpp.
 
+#include <tarv_3_3/completion.h>
+#include <tarv_3_3/description.h>
 #include <tarv_3_3/tarv.h>
 
 #include <cstdio>
@@ -101,6 +103,10 @@ void declare(tarv::IParser& parser) {
     declareActions(parser);
     declareModifiers(parser);
     declareOptions(parser);
+    // Where nothing else is said, texts are completed to files.
+    for (const char* const name : {"pattern", "with", "exclude"}) {
+        tarv::annotate(&parser, name, "complete", "none");
+    }
 }
 
 /// Refuses values that have the right kind and still make no sense, and keeps the reason.
@@ -254,6 +260,9 @@ int seekMain(int argc, char** argv) {
     ValueCheck check;
     const Parser parser = createParser();
     declare(*parser);
+    if (tarv::answerCompletion(parser.get(), argc, argv)) {
+        return seek::found;
+    }
     check.addTo(*parser);
     const Result result = createResult(*parser);
     switch (parser->parseArgsVector(argc, argv, result.get())) {
