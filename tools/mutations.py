@@ -29,7 +29,7 @@ REMOVABLE = re.compile(r"(\w+(::\w+)*\s*(\(|\.|->|\[|[-+|&]?=[^=]|\+\+|--)"
 ROOM = re.compile(r"\.reserve\(|^constexpr std::size_t (usual|expected|first|growth)\w* = \d+;$")
 
 # What `return {};` returns as well.
-EMPTY_VALUES = {"{}", "nullptr", "Value()", "parseOk", "valueFound"}
+EMPTY_VALUES = {"{}", "nullptr", "Value()", "parseOk", "valueFound", "remarkStored"}
 
 
 @dataclass(frozen=True)

@@ -8,14 +8,17 @@ namespace tarv = tarv_3_3;
 namespace {
 
 /// Remembers the first argument that nothing took.
-class FirstUnknown : public tarv::EventHandler {
+class FirstUnknown final : private tarv::EventHandler {
 public:
+    void addTo(tarv::IParser& parser) { parser.addHandler(this); }
+
+    const char* text = nullptr;
+
+private:
     bool onUknownArgument(const char* argument) override {
         text = text != nullptr ? text : argument;
         return true;
     }
-
-    const char* text = nullptr;
 };
 
 void printError(tarv::IParser& parser, const FirstUnknown& unknown) {
@@ -36,7 +39,7 @@ int main(int argc, char** argv) {
     parser->option("verbose,v", "Say more.", tarv::vtBool);
     parser->option("level,l", "How hard to try.", tarv::vtInt32);
     FirstUnknown unknown;
-    parser->addHandler(&unknown);
+    unknown.addTo(*parser);
 
     const int status = parser->parseArgsVector(argc, argv, nullptr);
     if (status != tarv::parseOk) {

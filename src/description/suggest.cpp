@@ -38,8 +38,7 @@ std::size_t mostEdits(std::string_view typed) {
 }
 
 void keepNearer(Candidate& best, std::string_view typed, const std::string& name) {
-    const bool isComparable = name.size() > 1 && name.size() <= longestName;
-    if (!isComparable || typed.size() > name.size() + mostEdits(typed)) {
+    if (name.size() > longestName || typed.size() > name.size() + mostEdits(typed)) {
         return;
     }
     const NameDistance distance = internal::nameDistance(typed, name);

@@ -118,6 +118,14 @@ TEST(Describe, WritesValuesAsTheyAreTyped) {
     }
 }
 
+TEST(Describe, HasAnEmptyTextForAnAllowedValueOfAnOptionThatTakesNone) {
+    BasicParser parser(0);
+    parser.option("x", "", vtNull, "").allowValue("a");
+    const Owned description(describe(&parser));
+    ASSERT_EQ(declarationAt(*description, 0).allowedCount, 1U);
+    EXPECT_STREQ(declarationAt(*description, 0).allowed[0], "");
+}
+
 TEST(Describe, CallsTheAssertionHandlerForAValueOfAnotherKind) {
     const CapturedAssertions assertions;
     BasicParser parser(0);

@@ -133,6 +133,15 @@ TEST(Suggest, NamesOneNameOfAnOption) {
     EXPECT_EQ(suggested(parser, "--clor"), "Did you mean '--color'?");
 }
 
+TEST(Suggest, NamesNamesOfTwoLettersAndNoShorterOnes) {
+    BasicParser parser(0);
+    parser.option("io,i", "", vtString, "");
+    EXPECT_EQ(suggested(parser, "--iox"), "Did you mean '--io'?");
+    EXPECT_EQ(suggested(parser, "--xi"), "(null)");
+    EXPECT_EQ(suggested(parser, "--ixx"), "(null)");
+    EXPECT_EQ(suggested(parser, "--xyx"), "(null)");
+}
+
 TEST(Suggest, EscapesWhatItRepeats) {
     BasicParser parser(0);
     parser.option("output,o", "", vtString, "");
