@@ -143,6 +143,7 @@ TEST(Complete, HeedsRules) {
     addRule(parser.get(), ruleExactlyOne, "blue,gold");
     addRule(parser.get(), ruleAllOrNone, "green,gold");
     expectOffers(*parser, {{{"--red", "--g"}, "--gold | --gold"},
+                           {{"--red", "--r"}, "--red | --red"},
                            {{"--no-red", "--g"}, "--green --gold "},
                            {{"--green", "--r"}, ""},
                            {{"--green", "--no"}, "--no-red | --no-red"},
