@@ -153,8 +153,9 @@ private:
         const internal::FlagHelpArg help{internal::FlagHelpMsg(option.description.c_str()),
                                          internal::FlagHelpKind::kLiteral};
         const bool isEmpty = valueAtFirst<T>(option) == T();
-        const internal::FlagDefaultArg initial{internal::FlagDefaultSrc(isEmpty ? makeEmpty<T> : makeDefault<T>),
-                                               internal::FlagDefaultKind::kGenFunc};
+        const internal::FlagDefaultArg initial{
+            internal::FlagDefaultSrc(isEmpty ? makeEmpty<T> : makeDefault<T>),
+            internal::FlagDefaultKind::kGenFunc};
         flag.reset(new absl::Flag<T>{option.declared.c_str(), ownFile, help, initial});
         internal::FlagRegistrar<T, true>(*flag, ownFile);
     }

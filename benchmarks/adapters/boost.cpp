@@ -27,12 +27,14 @@ public:
                 add(names, po::bool_switch(), description);
                 break;
             case Kind::Integer:
-                add(names, option.hasDefault ? po::value<int>()->default_value(defaultInteger) : po::value<int>(),
+                add(names,
+                    option.hasDefault ? po::value<int>()->default_value(defaultInteger) : po::value<int>(),
                     description);
                 break;
             case Kind::Number:
                 add(names,
-                    option.hasDefault ? po::value<double>()->default_value(defaultNumber) : po::value<double>(),
+                    option.hasDefault ? po::value<double>()->default_value(defaultNumber)
+                                      : po::value<double>(),
                     description);
                 break;
             case Kind::Text:

@@ -123,6 +123,7 @@ std::string dashedNames(const Option& option) {
 
 } // namespace
 
-const Candidate cli11Candidate = {"CLI11", {}, dashedNames, make<Cli11>, takesBack | collects | helps | negates | watches};
+const Candidate cli11Candidate = {
+    "CLI11", {}, dashedNames, make<Cli11>, takesBack | collects | helps | negates | watches};
 
 } // namespace bench

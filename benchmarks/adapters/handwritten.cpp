@@ -59,6 +59,7 @@ private:
 
 } // namespace
 
-const Candidate handwrittenCandidate = {"handwritten", {}, nameAlone, make<Handwritten>, takesBack | collects};
+const Candidate handwrittenCandidate = {
+    "handwritten", {}, nameAlone, make<Handwritten>, takesBack | collects};
 
 } // namespace bench

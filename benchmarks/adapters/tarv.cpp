@@ -126,7 +126,6 @@ private:
 } // namespace
 
 const Candidate tarvCandidate = {
-    "tarv", {}, nameAndAlias, make<Tarv>,
-    takesBack | collects | helps | negates | abbreviates | watches};
+    "tarv", {}, nameAndAlias, make<Tarv>, takesBack | collects | helps | negates | abbreviates | watches};
 
 } // namespace bench

@@ -87,11 +87,11 @@ private:
             return Argument(new TCLAP::ValueArg<int>(alias, name, text, false,
                                                      option.hasDefault ? defaultInteger : 0, "number"));
         case Kind::Number:
-            return Argument(new TCLAP::ValueArg<double>(
-                alias, name, text, false, option.hasDefault ? defaultNumber : 0, "number"));
+            return Argument(new TCLAP::ValueArg<double>(alias, name, text, false,
+                                                        option.hasDefault ? defaultNumber : 0, "number"));
         case Kind::Text:
-            return Argument(new TCLAP::ValueArg<std::string>(
-                alias, name, text, false, option.hasDefault ? defaultText : "", "text"));
+            return Argument(new TCLAP::ValueArg<std::string>(alias, name, text, false,
+                                                             option.hasDefault ? defaultText : "", "text"));
         case Kind::List:
             return Argument(new TCLAP::MultiArg<std::string>(alias, name, text, false, "text"));
         default:

@@ -106,7 +106,8 @@ std::string withoutCommas(std::string list) {
 class WholeNames : public ::testing::Test {
 protected:
     std::string random(std::size_t mostWords) {
-        static const char* const words[] = {"no", "n", "a", "ab", "abc", "b", "", "\xE4", "\xE4\xF6", "feature"};
+        static const char* const words[] = {"no", "n", "a",    "ab",       "abc",
+                                            "b",  "",  "\xE4", "\xE4\xF6", "feature"};
         std::string name = words[pick(10)];
         for (std::size_t i = pick(mostWords); i > 0; --i) {
             name += std::string("-") + words[pick(10)];
@@ -114,7 +115,9 @@ protected:
         return name;
     }
 
-    std::size_t pick(std::size_t count) { return std::uniform_int_distribution<std::size_t>(0, count - 1)(engine); }
+    std::size_t pick(std::size_t count) {
+        return std::uniform_int_distribution<std::size_t>(0, count - 1)(engine);
+    }
 
     void declare(BasicParser& parser, std::vector<Declared>& table) {
         const std::string name = random(3);
@@ -159,7 +162,8 @@ protected:
         }
         const std::string error = parser.getErrorDesc();
         const std::string lead = ", could be: ";
-        return "ambiguous: " + withoutCommas(error.substr(std::min(error.find(lead) + lead.size(), error.size())));
+        return "ambiguous: " +
+               withoutCommas(error.substr(std::min(error.find(lead) + lead.size(), error.size())));
     }
 
     std::mt19937 engine{20};
@@ -216,14 +220,16 @@ TEST(WholeNamesInTheMiddleOfAParse, AreThoseThatAreDeclaredThen) {
         const char* taken;
     } rows[] = {
         {"nothing", [](BasicParser&, IOption&) {}, "--no-last", 0, "last=0"},
-        {"a new name", [](BasicParser& parser, IOption&) { parser.option("later", "", vtBool, ""); }, "--later",
-         0, "later=1"},
+        {"a new name", [](BasicParser& parser, IOption&) { parser.option("later", "", vtBool, ""); },
+         "--later", 0, "later=1"},
         {"a new switch", [](BasicParser& parser, IOption&) { parser.option("later", "", vtBool, ""); },
          "--no-later", 0, "later=0"},
         {"the same name", [](BasicParser&, IOption& last) { last.synonym("last"); }, "--last", 2, ""},
         {"the name of another", [](BasicParser&, IOption& last) { last.synonym("first"); }, "--first", 2, ""},
-        {"the negated name", [](BasicParser&, IOption& last) { last.synonym("no-last"); }, "--no-last", 2, ""},
-        {"one more name", [](BasicParser&, IOption& last) { last.synonym("more"); }, "--no-more", 0, "last=0"},
+        {"the negated name", [](BasicParser&, IOption& last) { last.synonym("no-last"); }, "--no-last", 2,
+         ""},
+        {"one more name", [](BasicParser&, IOption& last) { last.synonym("more"); }, "--no-more", 0,
+         "last=0"},
     };
     for (const auto& row : rows) {
         SCOPED_TRACE(row.change);
