@@ -35,6 +35,7 @@ struct Completion {
     /// Where in the word the file name begins, in bytes: behind `--file=`, for one. 0 when `files` is
     /// `completeNoFiles`.
     unsigned fileOffset;
+    /// How many `candidates` there are.
     unsigned candidateCount;
     /// Null when there are none.
     const Candidate* candidates;
@@ -51,10 +52,13 @@ public:
     virtual void add(const char* value, const char* description) = 0;
 
 protected:
+    ///@{
+    /// The library alone makes and destroys them.
     CandidateSink() = default;
     CandidateSink(const CandidateSink&) = default;
     CandidateSink& operator=(const CandidateSink&) = default;
     ~CandidateSink() = default;
+    ///@}
 };
 
 /// A host's own values for the option of the primary name `option`. `word` is what was typed of the

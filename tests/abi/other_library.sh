@@ -2,12 +2,14 @@
 # Builds a host against the installed library, then runs the same file with another build of the
 # library: by another compiler, with larger hidden objects and one more function. So does a host of an
 # earlier time.
-#   other_library.sh PREFIX COMPILER OTHER-COMPILER WORK
+#   other_library.sh PREFIX COMPILER OTHER-COMPILER GENERATED WORK
+# GENERATED is where the build has made sources.
 set -euo pipefail
 prefix=$1
 compiler=$2
 other_compiler=$3
-work=$4
+generated=$4
+work=$5
 root=$(realpath "$(dirname "$0")/../..")
 
 rm -rf "$work"
@@ -31,7 +33,7 @@ __attribute__((visibility("default"))) int addedLater() {
 }
 } // namespace tarv_3_3
 END
-"$other_compiler" -std=c++17 -O1 -shared -fPIC -fvisibility=hidden -I "$work/include" -I "$work/src" \
+"$other_compiler" -std=c++17 -O1 -shared -fPIC -fvisibility=hidden -I "$work/include" -I "$work/src" -I "$generated" \
     "$work"/src/*/*.cpp "$work/src/added.cpp" \
     -Wl,-soname,libtarv.so.3.3 -Wl,--version-script="$root/cmake/tarv.map" -o "$work/lib/libtarv.so.3.3"
 nm --dynamic --defined-only "$work/lib/libtarv.so.3.3" | grep ' _ZN8tarv_3_310addedLaterEv' >/dev/null
