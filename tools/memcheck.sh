@@ -10,7 +10,7 @@ cd "$(dirname "$0")/.."
 
 preset=${1:-release}
 build=$PWD/build/$preset
-suites=(reliability options help parser platform recognition result api)
+suites=(reliability options help parser platform recognition result reading description completion api)
 
 tools/apt-install.sh build test memcheck
 cmake --preset "$preset" >/dev/null

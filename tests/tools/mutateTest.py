@@ -347,6 +347,13 @@ class MutateTest(unittest.TestCase):
         self.assertEqual(outcome.returncode, 1)
         self.assertRegex(self.last_line(outcome), "^14 mutants in .* 12 killed, 0 equivalent, 2 survived, 0 kept a test waiting; 0 more")
 
+    def test_fails_when_more_survive_than_are_allowed(self):
+        self.build_test()
+        self.assertEqual(self.mutate("--allow", "1").returncode, 1)
+        allowed = self.mutate("--allow", "2")
+        self.assertEqual(sorted_blocks(allowed.stdout), sorted_blocks(SURVIVORS))
+        self.assertEqual(allowed.returncode, 0)
+
     def test_leaves_out_what_is_listed_as_equivalent(self):
         self.build_test()
         (self.root / "tools/mutants-equivalent.txt").write_text(SURVIVORS.replace("\n\n", "\nThe reason.\n\n"))
