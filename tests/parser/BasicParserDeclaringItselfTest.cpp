@@ -85,7 +85,7 @@ struct DeclaringItself : testing::TestWithParam<DeclaringParser::When> {
         return line;
     }
 
-    const RelativePositions positions;
+    const RelativePositions positions{};
     ParseResult result;
 };
 
