@@ -69,7 +69,7 @@ void NameOffer::offerOneOf(std::size_t place, bool isNegated, KeptCompletion& ke
     for (const std::string& name : option.m_names) {
         std::string whole = NameCandidate{name, isNegated}.text();
         if (scoreName(m_typed, whole).score != 0 && isGivenBy(whole, place)) {
-            kept.add(m_dashes + whole + (takesValue(option) ? "=" : ""), option.m_description.c_str());
+            kept.add(m_dashes + whole + (takesValue(option) ? "=" : ""), std::string(option.m_description));
             m_names.push_back(std::move(whole));
             return;
         }

@@ -7,7 +7,7 @@ namespace tarv_3_3 {
 namespace {
 
 std::string_view sharedStart(std::string_view left, std::string_view right) {
-    const auto end = std::mismatch(left.begin(), left.end(), right.begin(), right.end()).first;
+    const auto* const end = std::mismatch(left.begin(), left.end(), right.begin(), right.end()).first;
     return left.substr(0, static_cast<std::size_t>(end - left.begin()));
 }
 

@@ -185,7 +185,7 @@ void writeChecks(JsonWriter& json, bool asksHandlers) {
 }
 
 std::string write(const BasicParser& parser) {
-    const Remarks none;
+    const Remarks none{};
     const Remarks& remarks = parser.remarks() != nullptr ? *parser.remarks() : none;
     const RegisteredOptionStorage& registry = parser.registry();
     JsonWriter json;

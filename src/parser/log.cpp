@@ -34,9 +34,9 @@ std::ostream& TarvLog::discarding() {
     return *m_stream;
 }
 
-LinePart::LinePart(int number) : m_text(m_own, 0) {
-    m_text = {m_own,
-              static_cast<std::size_t>(std::to_chars(m_own, m_own + sizeof m_own, number).ptr - m_own)};
+LinePart::LinePart(int number) {
+    const char* const end = std::to_chars(m_own, m_own + sizeof m_own, number).ptr;
+    m_text = {m_own, static_cast<std::size_t>(end - m_own)};
 }
 
 namespace {

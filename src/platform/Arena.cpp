@@ -20,13 +20,16 @@ Arena::~Arena() {
     }
 }
 
-void* Arena::takeFromNewBlock(std::size_t size, std::size_t alignment) {
-    const std::size_t blockSize = std::max(m_nextBlockSize, sizeof(Block) + size + alignment);
-    m_lastBlock = new (::operator new(blockSize)) Block{m_lastBlock};
+// What lies behind the head of a block is aligned for everything.
+void* Arena::takeFromNewBlock(std::size_t size) {
+    const std::size_t blockSize = std::max(m_nextBlockSize, sizeof(Block) + size);
+    auto* const block = static_cast<std::byte*>(::operator new(blockSize));
+    m_lastBlock = new (block) Block{m_lastBlock};
     m_nextBlockSize = std::min(2 * m_nextBlockSize, largestBlock);
-    m_next = reinterpret_cast<std::uintptr_t>(m_lastBlock + 1);
-    m_end = reinterpret_cast<std::uintptr_t>(m_lastBlock) + blockSize;
-    return take(size, alignment);
+    std::byte* const piece = block + sizeof(Block);
+    m_next = piece + size;
+    m_end = block + blockSize;
+    return piece;
 }
 
 } // namespace tarv_3_3::internal

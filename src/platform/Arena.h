@@ -13,20 +13,22 @@ namespace tarv_3_3::internal {
 /// `std::pmr`: that one belongs to the host, and may refuse, or end before the library's objects do.
 class Arena {
 public:
-    Arena(std::byte* room, std::size_t size)
-        : m_next(reinterpret_cast<std::uintptr_t>(room)), m_end(m_next + size), m_nextBlockSize(2 * size) {}
+    Arena(std::byte* room, std::size_t size) : m_next(room), m_end(room + size), m_nextBlockSize(2 * size) {}
     Arena(const Arena&) = delete;
     Arena& operator=(const Arena&) = delete;
     ~Arena();
 
     /// A piece of `size` bytes. `alignment` is at most that of any fundamental type.
     void* take(std::size_t size, std::size_t alignment) {
-        const std::uintptr_t piece = (m_next + alignment - 1) & ~(alignment - 1);
-        if (piece > m_end || size > m_end - piece) {
-            return takeFromNewBlock(size, alignment);
+        const std::size_t misplaced = reinterpret_cast<std::uintptr_t>(m_next) % alignment;
+        const std::size_t padding = misplaced != 0 ? alignment - misplaced : 0;
+        const auto left = static_cast<std::size_t>(m_end - m_next);
+        if (padding > left || size > left - padding) {
+            return takeFromNewBlock(size);
         }
+        std::byte* const piece = m_next + padding;
         m_next = piece + size;
-        return reinterpret_cast<void*>(piece);
+        return piece;
     }
 
 private:
@@ -35,11 +37,11 @@ private:
         Block* previous;
     };
 
-    void* takeFromNewBlock(std::size_t size, std::size_t alignment);
+    void* takeFromNewBlock(std::size_t size);
 
     /// What is left of the room or of the last block.
-    std::uintptr_t m_next;
-    std::uintptr_t m_end;
+    std::byte* m_next;
+    std::byte* m_end;
     std::size_t m_nextBlockSize;
     Block* m_lastBlock = nullptr;
 };
@@ -71,7 +73,7 @@ public:
 
     T* allocate(std::size_t count) {
         static_assert(alignof(T) <= alignof(std::max_align_t));
-        const std::size_t size = count * sizeof(T);
+        const std::size_t size = count * elementSize;
         return static_cast<T*>(isFromArena(count) ? m_arena->take(size, alignof(T)) : ::operator new(size));
     }
     void deallocate(T* piece, std::size_t count) {
@@ -92,9 +94,14 @@ public:
     }
 
 private:
+    // Elements may be pointers.
+    // NOLINTNEXTLINE(bugprone-sizeof-expression)
+    static constexpr std::size_t elementSize = sizeof(T);
     static constexpr std::size_t largeSize = 4096;
 
-    bool isFromArena(std::size_t count) const { return m_arena != nullptr && count < largeSize / sizeof(T); }
+    bool isFromArena(std::size_t count) const {
+        return m_arena != nullptr && count < largeSize / elementSize;
+    }
 
     Arena* m_arena = nullptr;
 };

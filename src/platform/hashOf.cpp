@@ -59,6 +59,8 @@ HashKey makeProcessKey() {
     const unsigned long randomBytes = getauxval(AT_RANDOM);
     std::uint64_t seed[2] = {reinterpret_cast<std::uintptr_t>(&randomBytes), 0};
     if (randomBytes != 0) {
+        // The kernel says where they are by a number.
+        // NOLINTNEXTLINE(performance-no-int-to-ptr)
         std::memcpy(seed, reinterpret_cast<const void*>(randomBytes), sizeof seed);
     }
     return makeHashKey(seed);

@@ -120,7 +120,7 @@ int AbbreviationParser::parse(std::vector<std::string>& args, IResultCollector* 
                               std::vector<OptionDescription>& options, unsigned long& index,
                               std::string& err) {
     index = static_cast<unsigned long>(m_matcher.place());
-    args.at(0);
+    static_cast<void>(args.at(0));
     ConsumedArguments consumed(args);
     return bind(consumed.left(), collector, options, err, consumed.count);
 }

@@ -30,14 +30,14 @@ NameOutcome NameMatcher::look(const std::string& argument, const std::vector<Opt
 // Only an equal candidate has every word whole, so nothing beats it, and only another equal one ties with
 // it. Where there is just one, the table need not be walked.
 bool NameMatcher::keepWholeName(std::string_view typed, RegisteredOptionStorage& registry) {
-    std::size_t place = 0;
-    if (!registry.findOnly(typed, place)) {
+    std::size_t index = 0;
+    if (!registry.findOnly(typed, index)) {
         return false;
     }
     // Strings take their memory over.
     m_bestNames.resize(1);
     m_bestNames.front() = typed;
-    m_place = static_cast<std::int64_t>(place);
+    m_place = static_cast<std::int64_t>(index);
     return true;
 }
 

@@ -43,7 +43,7 @@ bool PositionalOptionsParser::takes(const std::string& argument,
 int PositionalOptionsParser::parse(std::vector<std::string>& args, IResultCollector* collector,
                                    std::vector<OptionDescription>& options, unsigned long& index,
                                    std::string& err) {
-    args.at(0);
+    static_cast<void>(args.at(0));
     index = findPositional(options);
     ConsumedArguments consumed(args);
     return bind(consumed.left(), collector, options, err, consumed.count);

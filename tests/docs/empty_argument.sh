@@ -7,6 +7,8 @@
 # that is built there and stands in no line is an error.
 set -u
 
+# The backquotes are a page's.
+# shellcheck disable=SC2016
 expected='
 readme 2 Unknown option: |
 seek 2 seek: No action defined.|Try '"'seek --help'"'.|
