@@ -8,7 +8,7 @@ root=$(realpath "$(dirname "$0")/../..")
 
 rm -rf "$work"
 mkdir -p "$work/sources"
-cp -r "$root"/{CMakeLists.txt,CMakePresets.json,LICENSE,README.md,cmake,docs,examples,include,src} "$work/sources"
+cp -r "$root"/{CMakeLists.txt,CMakePresets.json,LICENSE,README.md,cmake,docs,examples,include,share,src} "$work/sources"
 cd "$work/sources"
 export DESTDIR=$work/system
 
