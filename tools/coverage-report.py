@@ -1,7 +1,9 @@
 #!/usr/bin/env python3
 """Says what the tests do not reach, and why.
 
-    coverage-report.py GCOVR-JSON EXCEPTIONS
+    coverage-report.py GCOVR-JSON EXCEPTIONS [--page PAGE | --write PAGE]
+
+--write puts the figures into the block "coverage" of PAGE; --page ends with 1 when PAGE has others.
 
 Ends with 1 when a line or branch that is not reached has no reason in EXCEPTIONS, when a reason is
 there for one that is reached or gone, or when fewer than 95 % of the branches are reached. A reason
@@ -11,6 +13,8 @@ lines are not reached, each has its own.
 import collections
 import json
 import sys
+
+import figures
 
 LEAST_BRANCHES = 0.95
 
@@ -40,10 +44,8 @@ def read_reasons(path):
     return reasons
 
 
-def main(report_path, exceptions_path):
-    with open(report_path, encoding="utf-8") as file:
-        report = json.load(file)
-    reasons = read_reasons(exceptions_path)
+def unexplained(report, reasons, exceptions_path):
+    """Prints what is not reached and has no reason, and the reasons that nothing needs. Whether there are any."""
     numbers = collections.defaultdict(list)
     for key, number in missed(report):
         numbers[key].append(number)
@@ -59,11 +61,34 @@ def main(report_path, exceptions_path):
         if given > len(numbers[file, text]):
             print(f"{exceptions_path}: no longer needed: {file} | {text}")
             wrong = True
+    return wrong
 
-    counts = [branch["count"] for file in report["files"] for line in file["lines"]
-              if not line.get("gcovr/noncode") for branch in line["branches"]]
+
+def figures_text(line_counts, branch_counts):
+    """Rounded down to whole percents, which stay the same from run to run."""
+    def percent(counts):
+        return 100 * sum(count > 0 for count in counts) // max(len(counts), 1)
+
+    return f"Measured: {percent(line_counts)} % of the lines and {percent(branch_counts)} % of the branches, or more.\n"
+
+
+def main(report_path, exceptions_path, option=None, page=None):
+    with open(report_path, encoding="utf-8") as file:
+        report = json.load(file)
+    reasons = read_reasons(exceptions_path)
+    wrong = unexplained(report, reasons, exceptions_path)
+
+    lines = [line for file in report["files"] for line in file["lines"] if not line.get("gcovr/noncode")]
+    counts = [branch["count"] for line in lines for branch in line["branches"]]
     reached = sum(count > 0 for count in counts)
     print(f"{reached} of {len(counts)} branches reached, {reasons.total()} exceptions")
+
+    text = figures_text([line["count"] for line in lines], counts)
+    if option == "--write":
+        figures.write(page, "coverage", text)
+    elif option == "--page" and figures.read(page, "coverage") != text:
+        print(f"{page} should say: {text}", end="")
+        wrong = True
     return 1 if wrong or reached < LEAST_BRANCHES * len(counts) else 0
 
 

@@ -10,4 +10,4 @@ find build/coverage -name '*.gcda' -delete 2>/dev/null || true
 ./test.sh coverage "$@"
 gcovr --root . --filter src/ --filter include/ --exclude-throw-branches --exclude-unreachable-branches \
     --print-summary --json build/coverage/report.json build/coverage
-tools/coverage-report.py build/coverage/report.json tests/coverage-exceptions.txt
+tools/coverage-report.py build/coverage/report.json tests/coverage-exceptions.txt --page docs/reliability.md

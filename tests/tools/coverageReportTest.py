@@ -34,10 +34,10 @@ class CoverageReportTest(unittest.TestCase):
         self.root = pathlib.Path(directory.name)
         (self.root / "sign.cpp").write_text(SOURCE)
 
-    def report(self, lines, exceptions):
+    def report(self, lines, exceptions, *arguments):
         (self.root / "report.json").write_text(json.dumps({"files": [{"file": "sign.cpp", "lines": lines}]}))
         (self.root / "exceptions.txt").write_text(exceptions)
-        done = subprocess.run([sys.executable, REPORT, "report.json", "exceptions.txt"], cwd=self.root,
+        done = subprocess.run([sys.executable, REPORT, "report.json", "exceptions.txt", *arguments], cwd=self.root,
                               text=True, stdout=subprocess.PIPE, stderr=subprocess.PIPE)
         return done.returncode, done.stdout
 
@@ -81,6 +81,20 @@ class CoverageReportTest(unittest.TestCase):
                          (0, "19 of 20 branches reached, 1 exceptions\n"))
         self.assertEqual(self.report([line(2, 20, 20, 0)] + [line(5, 2, 1, 1)] * 8, reason),
                          (1, "17 of 18 branches reached, 1 exceptions\n"))
+
+    def test_writes_the_figures_into_a_page(self):
+        page = self.root / "page.md"
+        page.write_text("Before.\n<!-- figures coverage -->\n<!-- end of figures -->\nBehind.\n")
+        lines = [line(8, 0)] + [line(2, 20, 20, 0)] + [line(5, 2, 1, 1)] * 10
+        reasons = "sign.cpp | return 0; | never asked for\nsign.cpp | if (number < 0) { | never asked for\n"
+        said = "Measured: 91 % of the lines and 95 % of the branches, or more.\n"
+        self.assertEqual(self.report(lines, reasons, "--page", "page.md"),
+                         (1, "21 of 22 branches reached, 2 exceptions\npage.md should say: " + said))
+        self.assertEqual(self.report(lines, reasons, "--write", "page.md")[0], 0)
+        self.assertRegex(page.read_text(), "^Before.\n<!-- figures coverage [0-9a-f]{16} -->\n" + said
+                         + "<!-- end of figures -->\nBehind.\n$")
+        self.assertEqual(self.report(lines, reasons, "--page", "page.md"),
+                         (0, "21 of 22 branches reached, 2 exceptions\n"))
 
 
 if __name__ == "__main__":
