@@ -1,8 +1,5 @@
 #include <gtest/gtest.h>
 
-#include <functional>
-#include <stdexcept>
-
 #include "api/CommandLine.h"
 
 namespace tarv = tarv_3_3;
@@ -85,105 +82,6 @@ TEST(Handlers, HaveDefaultsThatAcceptEverything) {
     line.parser->addHandler(&handler);
     EXPECT_EQ(line.parse({"--level=1"}), 0);
     EXPECT_EQ(line.parse({"x"}), 2);
-}
-
-/// Does what the test wants at its first event.
-class ActingHandler : public tarv::EventHandler {
-public:
-    bool onOptionParse(const char*) override { return act(); }
-    bool onValueParse(const char*, const tarv::Value&) override { return act(); }
-    bool onUknownArgument(const char*) override { return act(); }
-
-    std::function<void()> action;
-
-private:
-    bool act() {
-        action();
-        return true;
-    }
-};
-
-TEST(Handlers, MayRemoveThemselvesAndOthersWhileTheyAreTold) {
-    CommandLine line;
-    line.parser->option("level", "", tarv::vtString);
-    struct {
-        ActingHandler acting;
-        EventLog log;
-    } handlers;
-    handlers.acting.action = [&] {
-        line.parser->removeHandler(&handlers.log);
-        line.parser->removeHandler(&handlers.acting);
-    };
-    line.parser->addHandler(&handlers.acting);
-    line.parser->addHandler(&handlers.log);
-    EXPECT_EQ(line.parse({"--level=1", "x"}), 0);
-    EXPECT_EQ(handlers.log.events, "");
-    EXPECT_EQ(line.values("level"), "[1]");
-}
-
-TEST(Handlers, MayAddOthersWhileTheyAreTold) {
-    CommandLine line;
-    line.parser->option("level", "", tarv::vtString);
-    struct {
-        ActingHandler acting;
-        EventLog log;
-    } handlers;
-    handlers.acting.action = [&] { line.parser->addHandler(&handlers.log); };
-    line.parser->addHandler(&handlers.acting);
-    EXPECT_EQ(line.parse({"--level=1", "x"}), 0);
-    EXPECT_EQ(handlers.log.events, "option level; value level=1; unknown x");
-}
-
-TEST(Handlers, MayAskTheParserForAnotherParse) {
-    CommandLine line;
-    CommandLine other;
-    line.parser->option("level", "", tarv::vtString);
-    bool nested = false;
-    ActingHandler handler;
-    handler.action = [&] {
-        if (!nested) {
-            nested = true;
-            EXPECT_EQ(line.parser->parseStream("--level=inner", other.result), 0);
-        }
-    };
-    line.parser->addHandler(&handler);
-    EXPECT_EQ(line.parse({"--level=outer"}), 0);
-    EXPECT_EQ(line.values("level"), "[outer]");
-    EXPECT_EQ(other.values("level"), "[inner]");
-}
-
-TEST(Handlers, EndTheParseWhenTheyThrowAStandardException) {
-    CommandLine line;
-    line.parser->option("level", "", tarv::vtString);
-    ActingHandler handler;
-    line.parser->addHandler(&handler);
-    for (const char* const argument : {"--level=1", "x"}) {
-        SCOPED_TRACE(argument);
-        handler.action = [] { throw std::logic_error("the host's"); };
-        EXPECT_EQ(line.parse({argument}), 4);
-        EXPECT_EQ(line.error(), "Unidentified problem detected.");
-        EXPECT_FALSE(line.result->present("level"));
-        EXPECT_EQ(line.parseStream(argument), 4);
-    }
-    handler.action = [] {};
-    EXPECT_EQ(line.parse({"--level=2"}), 0);
-    EXPECT_EQ(line.values("level"), "[2]");
-}
-
-TEST(Handlers, ReachTheHostWithWhateverElseTheyThrow) {
-    struct NoStandardException {};
-    CommandLine line;
-    line.parser->option("level", "", tarv::vtString);
-    ActingHandler handler;
-    line.parser->addHandler(&handler);
-    handler.action = [] { throw NoStandardException(); };
-    EXPECT_THROW(line.parse({"--level=1"}), NoStandardException);
-    EXPECT_THROW(line.parse({"x"}), NoStandardException);
-    EXPECT_THROW(line.parseStream("x"), NoStandardException);
-    EXPECT_EQ(line.error(), "");
-    handler.action = [] {};
-    EXPECT_EQ(line.parse({"--level=2"}), 0);
-    EXPECT_EQ(line.values("level"), "[2]");
 }
 
 } // namespace

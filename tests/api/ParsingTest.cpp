@@ -1,10 +1,9 @@
 #include <gtest/gtest.h>
 
-#include <iostream>
-#include <sstream>
 #include <stdexcept>
 
 #include "api/CommandLine.h"
+#include "support/CapturedOutput.h"
 
 namespace tarv = tarv_3_3;
 
@@ -156,21 +155,6 @@ TEST(Parsing, WithoutAResultIsForStatusMessageAndEvents) {
     EXPECT_EQ(line.error(), "Value validation problem in argument '--level=x': Option 'level' can not parse "
                             "'x' value, requires a type 'integer' here.");
 }
-
-/// Catches standard output as long as it lives.
-class CapturedOutput {
-public:
-    CapturedOutput() : m_output(std::cout.rdbuf(m_text.rdbuf())) {}
-    CapturedOutput(const CapturedOutput&) = delete;
-    CapturedOutput& operator=(const CapturedOutput&) = delete;
-    ~CapturedOutput() { std::cout.rdbuf(m_output); }
-
-    std::string text() const { return m_text.str(); }
-
-private:
-    std::ostringstream m_text;
-    std::streambuf* m_output;
-};
 
 TEST(Parsing, IsTracedForOneCommandLineByItsFirstArgument) {
     CommandLine line;

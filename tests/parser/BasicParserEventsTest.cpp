@@ -1,11 +1,10 @@
 #include <gtest/gtest.h>
 
 #include <functional>
-#include <stdexcept>
 #include <string>
 #include <vector>
 
-#include "parser/Parsing.h"
+#include "parser/BasicParser.h"
 #include "tarv_3_3/EventHandler.h"
 
 namespace tarv_3_3 {
@@ -227,75 +226,6 @@ TEST_F(BasicParserEvents, ReachAHandlerAddedMeanwhileAtAHigherAddress) {
     EXPECT_EQ(takeEvents(), "1 option a; 2 option a");
     parser.onOptionParse("b");
     EXPECT_EQ(takeEvents(), "0 option b; 1 option b; 2 option b");
-}
-
-class HandlersDuringAParse : public ::testing::Test {
-protected:
-    HandlersDuringAParse() {
-        handler.events = &events;
-        parsing.parser.option("level,l", "", vtString, "");
-        parsing.parser.addHandler(&handler);
-    }
-
-    std::string events;
-    NumberedHandler handler;
-    Parsing parsing{0x02};
-};
-
-TEST_F(HandlersDuringAParse, AreToldOptionsThenTheirValuesAndUnknownArguments) {
-    EXPECT_EQ(parsing.parse({"-l=a,b", "x", "--level", "c"}), 2);
-    EXPECT_EQ(events, "0 option level; 0 value level=a; 0 value level=b; 0 unknown x");
-    EXPECT_EQ(parsing.error(), "Unknown option: x");
-}
-
-TEST_F(HandlersDuringAParse, DropAnUnknownArgumentByRefusingIt) {
-    handler.answer = false;
-    EXPECT_EQ(parsing.parse({"x"}), 0);
-    EXPECT_EQ(events, "0 unknown x");
-    EXPECT_EQ(parsing.error(), "");
-}
-
-TEST_F(HandlersDuringAParse, EndItWithAMessageWhenTheyThrowAStandardException) {
-    handler.whenTold = [] { throw std::runtime_error("whatever"); };
-    EXPECT_EQ(parsing.parse({"--level=1"}), 4);
-    EXPECT_EQ(parsing.error(), "Unidentified problem detected.");
-    EXPECT_EQ(parsing.stored(), "");
-    handler.whenTold = [] {};
-    EXPECT_EQ(parsing.parse({"--level=1"}), 0);
-    EXPECT_STREQ(parsing.result.get("level", 0, 2147483647).text, "1");
-}
-
-TEST_F(HandlersDuringAParse, EndAStreamWithAMessageWhenTheyThrowAStandardException) {
-    handler.whenTold = [] { throw std::bad_alloc(); };
-    EXPECT_EQ(parsing.parseStream("x"), 4);
-    EXPECT_EQ(parsing.error(), "Unidentified problem detected.");
-}
-
-TEST_F(HandlersDuringAParse, ReachTheHostWhenTheyThrowAnythingElse) {
-    handler.whenTold = [] { throw 5; };
-    EXPECT_THROW(parsing.parse({"--level=1"}), int);
-    EXPECT_THROW(parsing.parse({"x"}), int);
-    EXPECT_THROW(parsing.parseStream("--level=1"), int);
-    EXPECT_EQ(parsing.error(), "");
-    EXPECT_EQ(parsing.stored(), "");
-    handler.whenTold = [] {};
-    EXPECT_EQ(parsing.parse({"--level=1"}), 0);
-    EXPECT_STREQ(parsing.result.get("level", 0, 2147483647).text, "1");
-}
-
-TEST_F(HandlersDuringAParse, MayDeclareOptionsThatTheRestOfTheLineUses) {
-    bool declared = false;
-    handler.whenTold = [&] {
-        if (!declared) {
-            declared = true;
-            for (int i = 0; i < 100; ++i) {
-                parsing.parser.option(("late" + std::to_string(i)).c_str(), "", vtString, "");
-            }
-        }
-    };
-    EXPECT_EQ(parsing.parse({"--level=1", "--late77=2"}), 0);
-    EXPECT_STREQ(parsing.result.get("level", 0, 2147483647).text, "1");
-    EXPECT_STREQ(parsing.result.get("late77", 0, 2147483647).text, "2");
 }
 
 } // namespace

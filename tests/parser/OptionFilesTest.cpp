@@ -3,6 +3,7 @@
 #include <unistd.h>
 
 #include <cstdlib>
+#include <fstream>
 #include <thread>
 
 #include "parser/Parsing.h"
@@ -186,19 +187,27 @@ TEST_F(OptionFiles, MayBeTheDefault) {
 }
 
 TEST_F(OptionFiles, AreReadByteForByteUpToAZeroByte) {
+    std::string bytes;
+    for (int byte = 1; byte < 256; ++byte) {
+        if (byte != '\n' && byte != '\r') {
+            bytes += static_cast<char>(byte);
+        }
+    }
     const struct {
         const char* title;
         std::string contents;
-        const char* names;
+        std::string names;
     } rows[] = {
         {"empty", "", ""},
         {"blank", " \n\t\r\n\n", ""},
         {"no final newline", "--name=1\n--name=2", "[1][2]"},
-        {"carriage returns", "--name=1\r\n--name=2\r\n", "[1][2]"},
+        {"line ends alone", std::string(100000, '\n'), ""},
+        {"carriage returns", "--name=1\r\n--name=2\r\r\n\r\n", "[1][2]"},
         {"comments", "# a\n  ; b\n--name=1 # c\n", "[1 # c]"},
+        {"comments alone", "; comment\n#\n;", ""},
         {"blanks stay", "  --name=a b  \n", "[a b  ]"},
         {"bytes above 127", "--name=\xFF\xFE\x80\xC3\xA4\n", "[\xFF\xFE\x80\xC3\xA4]"},
-        {"control bytes", "--name=\x01\x1B\x7F\n", "[\x01\x1B\x7F]"},
+        {"bytes of all values", "--name=" + bytes + "\n", "[" + bytes + "]"},
         {"zero byte", std::string("--name=1\n--name=2\0 3\n--name=4\n", 29), "[1][2]"},
         {"zero byte at first", std::string("\0--name=1\n", 10), ""},
     };
@@ -221,6 +230,32 @@ TEST_F(OptionFiles, AreReadByteForByteUpToAZeroByte) {
 TEST_F(OptionFiles, HoldingMinusOneAloneHoldAQuestionMark) {
     EXPECT_EQ(parseFile(directory.write("a", "-1")), 2);
     EXPECT_EQ(parsing.error(), "Unknown option: ?");
+}
+
+TEST_F(OptionFiles, WithAByteOrderMarkBeginWithIt) {
+    EXPECT_EQ(parseFile(directory.write("a", "\xEF\xBB\xBF--name=1\n")), 2);
+    EXPECT_EQ(parsing.error(), "Unknown option: \xEF\xBB\xBF--name=1");
+}
+
+TEST_F(OptionFiles, ThatEndRecognitionDoSoForThemselvesOnly) {
+    const std::string list = "--option-file=" + directory.write("a", "--name=1\n--\n--name=2\n") + "," +
+                             directory.write("b", "--name=3\n");
+    EXPECT_EQ(parsing.parse({list.c_str()}), 0);
+    EXPECT_EQ(names(), "[1][3]");
+    EXPECT_EQ(parsing.plainArguments(), "[--name=2]");
+}
+
+TEST_F(OptionFiles, OfTheKernelThatSayNoSizeAreReadWhole) {
+    EXPECT_EQ(parseFile("/dev/null"), 0);
+    EXPECT_EQ(names(), "");
+    Parsing reader;
+    reader.parser.addOptionFileOption("", "");
+    reader.parser.option("words", "", vtString, "").positional().tokenize(0);
+    EXPECT_EQ(reader.parse({"--option-file=/proc/self/cmdline"}), 0);
+    std::ifstream file("/proc/self/cmdline");
+    std::string program;
+    std::getline(file, program, '\0');
+    EXPECT_EQ(reader.result.get("words", 0, 2147483647).text, program);
 }
 
 TEST_F(OptionFiles, MayHaveALineOfAMebibyte) {
@@ -257,6 +292,7 @@ TEST_F(OptionFiles, ThatCannotBeReadEndTheParse) {
         {"missing", directory.pathOf("missing.txt")},
         {"in a missing directory", directory.pathOf("missing/file")},
         {"a directory", directory.pathOf("")},
+        {"a directory, roundabout", directory.pathOf("") + "/./"},
         {"below a file", directory.write("file", "") + "/file"},
         {"too long", std::string(5000, 'x')},
         {"without a path", "missing.txt"},

@@ -11,29 +11,13 @@
 
 #include "platform/logLine.h"
 #include "support/CapturedLog.h"
+#include "support/CapturedOutput.h"
 #include "tarv_3_3/tarv.h"
 
 namespace tarv_3_3::internal {
 namespace {
 
 using Nullbuf = basic_nullbuf<char, std::char_traits<char>>;
-
-/// Standard output caught, the trace left as it is.
-class CapturedOutput {
-public:
-    CapturedOutput() : m_output(std::cout.rdbuf(m_text.rdbuf())) {}
-
-    CapturedOutput(const CapturedOutput&) = delete;
-    CapturedOutput& operator=(const CapturedOutput&) = delete;
-
-    ~CapturedOutput() { std::cout.rdbuf(m_output); }
-
-    std::string text() const { return m_text.str(); }
-
-private:
-    std::ostringstream m_text;
-    std::streambuf* m_output;
-};
 
 TEST(TarvLog, IsOneStreamThatDiscardsWhileTheTraceIsOff) {
     const CapturedOutput output;
