@@ -143,13 +143,6 @@ TEST(Messages, StayAfterASuccessAndWhereTheyWereHandedOut) {
     EXPECT_EQ(line.error(), "Unknown option: b");
 }
 
-TEST(Messages, AreNotWrittenForNullAmongTheArguments) {
-    CommandLine line(tarv::flagRejectUnknown);
-    EXPECT_EQ(line.parse({"a"}), 2);
-    EXPECT_EQ(line.parse({"b", nullptr}), 3);
-    EXPECT_EQ(line.error(), "Unknown option: a");
-}
-
 TEST(Messages, QuoteAPositionalArgumentAsItWasGivenWhereItsValueWasCompleted) {
     CommandLine commandLine;
     EventLog handler("smooth");

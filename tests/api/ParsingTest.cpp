@@ -9,18 +9,6 @@ namespace tarv = tarv_3_3;
 
 namespace {
 
-TEST(Parsing, ReadsNothingButTheDefaultsFromAnEmptyCommandLine) {
-    const char* const argv[] = {"program", "--level=5"};
-    for (const int argc : {1, 0, -1, -2147483647 - 1}) {
-        SCOPED_TRACE(argc);
-        const CommandLine line(tarv::flagRejectUnknown);
-        line.parser->option("level", "", tarv::vtInt32).defaultValue(7);
-        EXPECT_EQ(line.parser->parseArgsVector(argc, argc == 1 ? argv : nullptr, line.result), 0);
-        EXPECT_EQ(line.values("level"), "[7]");
-        EXPECT_EQ(line.plainArguments(), "");
-    }
-}
-
 TEST(Parsing, NeedsNoNullBehindTheArguments) {
     std::vector<const char*> argv = {"program", "--level=5"};
     argv.shrink_to_fit();
@@ -28,27 +16,6 @@ TEST(Parsing, NeedsNoNullBehindTheArguments) {
     line.parser->option("level", "", tarv::vtInt32);
     EXPECT_EQ(line.parser->parseArgsVector(2, argv.data(), line.result), 0);
     EXPECT_EQ(line.values("level"), "[5]");
-}
-
-TEST(Parsing, RefusesNullAmongTheArguments) {
-    CommandLine line;
-    line.parser->option("level", "", tarv::vtInt32);
-    EXPECT_EQ(line.parse({"--level=1", nullptr}), 3);
-    EXPECT_EQ(line.parser->parseArgsVector(2, nullptr, line.result), 3);
-    EXPECT_EQ(line.values("level"), "");
-    EXPECT_EQ(line.parse({"--level=2"}), 0);
-    EXPECT_EQ(line.values("level"), "[2]");
-}
-
-TEST(Parsing, AddsSeveralCommandLinesAndStreamsUp) {
-    CommandLine line;
-    line.parser->option("level,l", "", tarv::vtInt32).defaultValue(7);
-    EXPECT_EQ(line.parse({"--level=1", "--", "a"}), 0);
-    EXPECT_EQ(line.parseStream("-l=2\n# comment\n--\nb c"), 0);
-    EXPECT_EQ(line.parse({"-l", "3"}), 0);
-    EXPECT_EQ(line.values("level"), "[1][2][3]");
-    EXPECT_EQ(line.values("l"), "[1][2][3]");
-    EXPECT_EQ(line.plainArguments(), "[a][b c]");
 }
 
 TEST(Parsing, AppliesNoDefaultsForAStream) {
@@ -64,13 +31,6 @@ TEST(Parsing, ReadsAStreamThatIsMinusOneAsAQuestionMark) {
     CommandLine line(tarv::flagRejectUnknown);
     EXPECT_EQ(line.parseStream("-1"), 2);
     EXPECT_EQ(line.error(), "Unknown option: ?");
-}
-
-TEST(Parsing, KeepsWhatWasStoredBeforeAFailure) {
-    CommandLine line(tarv::flagRejectUnknown);
-    line.parser->option("level", "", tarv::vtInt32);
-    EXPECT_EQ(line.parse({"--level=1,2", "x", "--level=3"}), 2);
-    EXPECT_EQ(line.values("level"), "[1][2]");
 }
 
 TEST(Parsing, StoresNothingOfAnOptionThatFails) {
@@ -137,23 +97,6 @@ TEST(Parsing, LeavesValuesThatOutliveTheResult) {
         value = line.result->get("level");
     }
     EXPECT_STREQ(value.value.get<const char*>(), "a");
-}
-
-TEST(Parsing, WithoutAResultIsForStatusMessageAndEvents) {
-    const CommandLine line(tarv::flagRejectUnknown | tarv::flagPlainArePositional);
-    EventLog handler;
-    line.parser->addHandler(&handler);
-    line.parser->option("level", "", tarv::vtInt32).defaultValue(7);
-    line.parser->option("file", "", tarv::vtString).positional();
-    line.parser->addOptionFileOption("");
-    line.parser->action("build", "", tarv::vtNull);
-    const char* const argv[] = {"program", "--level=5", "--option-file=missing", "a", "--", "b"};
-    EXPECT_EQ(line.parser->parseArgsVector(6, argv, nullptr), 0);
-    EXPECT_EQ(handler.events, "option level; value level=5; option option-file; value option-file=missing; "
-                              "option level; value file=a; option level; value file=b");
-    EXPECT_EQ(line.parser->parseStream("--level=x", nullptr), 2);
-    EXPECT_EQ(line.error(), "Value validation problem in argument '--level=x': Option 'level' can not parse "
-                            "'x' value, requires a type 'integer' here.");
 }
 
 TEST(Parsing, IsTracedForOneCommandLineByItsFirstArgument) {

@@ -21,45 +21,6 @@ struct HostileArguments : testing::Test {
     Session session;
 };
 
-TEST_F(HostileArguments, ACountOfZeroOrBelowParsesNothing) {
-    const char* const argv[] = {"host", "--verbose", nullptr};
-    for (const int argc : {0, -1, -2147483647 - 1}) {
-        SCOPED_TRACE(argc);
-        EXPECT_EQ(session.parser->parseArgsVector(argc, argv, session.result), parseOk);
-        EXPECT_EQ(session.parser->parseArgsVector(argc, nullptr, session.result), parseOk);
-        EXPECT_EQ(storedNow(), "");
-    }
-}
-
-TEST_F(HostileArguments, ANullVectorWithArgumentsIsRefused) {
-    EXPECT_EQ(session.parser->parseArgsVector(2, nullptr, session.result), parseException);
-    EXPECT_STREQ(session.parser->getErrorDesc(), "");
-    EXPECT_EQ(parseAndShow(session, {"--level=3"}, {"level"}), "0 level=3");
-}
-
-TEST_F(HostileArguments, ANullEntryIsRefusedWhereverItStands) {
-    const char* const first[] = {"host", nullptr, "--verbose", "x", nullptr};
-    const char* const middle[] = {"host", "--verbose", nullptr, "x", nullptr};
-    const char* const last[] = {"host", "--verbose", "x", nullptr, nullptr};
-    for (const char* const* argv : {first, middle, last}) {
-        EXPECT_EQ(session.parser->parseArgsVector(4, argv, session.result), parseException);
-        EXPECT_EQ(storedNow(), "");
-    }
-}
-
-TEST_F(HostileArguments, ANullProgramNameIsNotLookedAt) {
-    const char* const argv[] = {nullptr, "--level=3"};
-    EXPECT_EQ(session.parser->parseArgsVector(2, argv, session.result), parseOk);
-    EXPECT_EQ(storedNow(), "level=3");
-}
-
-TEST_F(HostileArguments, NothingIsReadBehindTheLastEntry) {
-    // On the heap, where a sanitizer sees a read behind the end.
-    const std::vector<const char*> argv = {"host", "--level", "3"};
-    EXPECT_EQ(session.parser->parseArgsVector(3, argv.data(), session.result), parseOk);
-    EXPECT_EQ(storedNow(), "level=3");
-}
-
 TEST_F(HostileArguments, EmptyOnesArePositionalOccurrencesWithoutAValue) {
     EXPECT_EQ(parse(session, {"", "", "x", ""}), parseOk);
     EXPECT_EQ(storedNow(), "files=x");
@@ -69,11 +30,6 @@ TEST_F(HostileArguments, EmptyOnesArePositionalOccurrencesWithoutAValue) {
         ++occurrences;
     }
     EXPECT_EQ(occurrences, 4);
-}
-
-TEST_F(HostileArguments, AnEmptyOneIsNoValueOfANamedOption) {
-    EXPECT_EQ(parse(session, {"--level", ""}), parseFailed);
-    EXPECT_STREQ(session.parser->getErrorDesc(), "Option 'level' requires a value in argument: '--level'");
 }
 
 TEST_F(HostileArguments, TenThousandDashesArePositional) {
