@@ -14,7 +14,7 @@ declare -A groups=(
     [test]="abigail-tools bash-completion clang doxygen fish googletest libboost-program-options-dev
         libclang-rt-14-dev libcli11-dev libgtest-dev mandoc pkg-config python3 python3-jsonschema
         zsh"
-    [ci]="clang-format clang-tidy cppcheck dpkg-dev file lintian shellcheck"
+    [ci]="ccache clang-format clang-tidy cppcheck dpkg-dev file lintian shellcheck"
     [coverage]="gcovr"
     [memcheck]="valgrind"
     [benchmark]="git libbenchmark-dev python3 time valgrind"
