@@ -8,6 +8,9 @@ namespace internal {
 
 class TextSet {
 public:
+    // Not defaulted, or its memory would be filled with zeros first.
+    TextSet() {}
+
     const char* insert(const char* text) { return m_texts.insert(text).bytes(); }
 
 private:
@@ -19,12 +22,18 @@ private:
 
 } // namespace internal
 
-Garbage::Garbage() : m_strings(std::make_unique<internal::TextSet>()) {}
+Garbage::Garbage() = default;
 
 Garbage::~Garbage() = default;
 
 const char* Garbage::init(const char* text) {
-    return text != nullptr ? m_strings->insert(text) : "";
+    if (text == nullptr) {
+        return "";
+    }
+    if (!m_strings) {
+        m_strings = std::make_unique<internal::TextSet>();
+    }
+    return m_strings->insert(text);
 }
 
 } // namespace tarv_3_3

@@ -21,6 +21,7 @@ public:
     virtual const char* init(const char* text);
 
 private:
+    /// Made for the first text.
     std::unique_ptr<internal::TextSet> m_strings;
 };
 
