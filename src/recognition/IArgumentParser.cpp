@@ -150,7 +150,7 @@ int IArgumentParser::bindText(const char* text, const OptionDescription& option,
                               std::string& err) {
     OptionValue& bound = m_occurrence.values.emplace_back();
     if (option.takesAnyText()) {
-        bound.value = option.fromString(text, option.m_garbage);
+        bound.value = variant_t(text);
     } else {
         bound.text = text;
         if (!option.validate(bound.text, bound.value, err)) {
