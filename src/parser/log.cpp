@@ -87,12 +87,23 @@ std::ostream& tarvLog() {
     return discarding;
 }
 
+namespace {
+
+// Whether lines may be dropped: the trace is off, and nobody has the discarding stream. Needs no lock: whoever
+// asks for that stream meanwhile finds this line written either before or after.
+bool isDropped() {
+    UntracedLines before = UntracedLines::none;
+    return !isTraceOn() && (untracedLines.compare_exchange_strong(before, UntracedLines::dropped) ||
+                            before == UntracedLines::dropped);
+}
+
+} // namespace
+
 void writeLine(std::initializer_list<LinePart> parts) {
-    const std::lock_guard<std::recursive_mutex> lock(logMutex);
-    if (!isTraceOn() && untracedLines != UntracedLines::written) {
-        untracedLines = UntracedLines::dropped;
+    if (isDropped()) {
         return;
     }
+    const std::lock_guard<std::recursive_mutex> lock(logMutex);
     std::ostream& log = tarvLog();
     if (log.fail()) {
         return;

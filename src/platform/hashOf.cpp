@@ -54,10 +54,12 @@ TwoWords loadShort(const char* bytes, std::size_t size) {
     return {word, 0};
 }
 
-// The kernel gives 16 random bytes to every program that it starts. To read them costs no system call.
+// The kernel gives 16 random bytes to every program that it starts. To read them costs no system call. The
+// same whenever it is made in a process.
 HashKey makeProcessKey() {
+    static const char somewhere = 0;
     const unsigned long randomBytes = getauxval(AT_RANDOM);
-    std::uint64_t seed[2] = {reinterpret_cast<std::uintptr_t>(&randomBytes), 0};
+    std::uint64_t seed[2] = {reinterpret_cast<std::uintptr_t>(&somewhere), 0};
     if (randomBytes != 0) {
         // The kernel says where they are by a number.
         // NOLINTNEXTLINE(performance-no-int-to-ptr)
@@ -66,13 +68,20 @@ HashKey makeProcessKey() {
     return makeHashKey(seed);
 }
 
+HashKey keptKey;
+std::atomic_flag isKeyKept = ATOMIC_FLAG_INIT;
 /// The key of the process, null until the first hash was asked for.
 std::atomic<const HashKey*> processKey{nullptr};
 
+// The first thread keeps the key; one that comes at the same time has made the same key for itself. (A static
+// variable of this function would have every process look up two more functions of the C++ library.)
 // A function of its own, so that every other call need not save what this one would spoil.
 [[gnu::cold, gnu::noinline]] std::size_t makeKeyAndHash(std::string_view text) {
-    static const HashKey key = makeProcessKey();
-    processKey.store(&key, std::memory_order_release);
+    const HashKey key = makeProcessKey();
+    if (!isKeyKept.test_and_set(std::memory_order_relaxed)) {
+        keptKey = key;
+        processKey.store(&keptKey, std::memory_order_release);
+    }
     return hashOf(text, key);
 }
 
