@@ -80,6 +80,10 @@ IOption& RegisteredOptionStorage::modifier(const char* names, const char* tags, 
 
 const Topic& RegisteredOptionStorage::registerTopic(std::string_view topic) {
     const std::string_view name = topic.substr(0, topic.find(':'));
+    // Most declarations follow others of their topic.
+    if (!m_topics.empty() && m_topics.back().first == name) {
+        return m_topics.back();
+    }
     std::size_t& place = m_topicNames.insert(name).value.place;
     if (place == nowhere) {
         const std::string_view title = name.size() < topic.size() ? topic.substr(name.size() + 1) : "";
