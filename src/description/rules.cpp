@@ -26,12 +26,12 @@ struct Given {
 
 bool isGiven(const OptionDescription& option, const ParseResult& result) {
     const Entries::Entry* const entry = result.entries().find(option.primaryName());
-    if (entry == nullptr || entry->data->positions.empty()) {
+    if (entry == nullptr || entry->group().positions.empty()) {
         return false;
     }
-    const Entries::Data& data = *entry->data;
+    const Entries::Group& given = entry->group();
     const bool isTurnedOff =
-        option.m_type == vtBool && !data.values.empty() && !data.values.back().value.get<bool>();
+        option.m_type == vtBool && !given.values.empty() && !given.values.back().value.get<bool>();
     return !isTurnedOff;
 }
 

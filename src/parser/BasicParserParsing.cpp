@@ -243,7 +243,7 @@ int BasicParser::checkModifiers(const OptionDescription& action, const Entries::
         }
         const OptionDescription& option = options[index];
         const bool isTagged = !isAction(option) && !option.m_tags.empty();
-        const bool isGiven = !entry.data->positions.empty();
+        const bool isGiven = !entry.group().positions.empty();
         if (isTagged && isGiven && !isIntersected(action.m_tags, option.m_tags)) {
             error = messages::optionNotAccepted(action.primaryName(), option.primaryName());
             return parseFailed;

@@ -89,8 +89,8 @@ std::ostream& tarvLog() {
 
 namespace {
 
-// Whether lines may be dropped: the trace is off, and nobody has the discarding stream. Needs no lock: whoever
-// asks for that stream meanwhile finds this line written either before or after.
+// Whether lines may be dropped: the trace is off, and nobody has the discarding stream. Needs no lock:
+// whoever asks for that stream meanwhile finds this line written either before or after.
 bool isDropped() {
     UntracedLines before = UntracedLines::none;
     return !isTraceOn() && (untracedLines.compare_exchange_strong(before, UntracedLines::dropped) ||

@@ -8,14 +8,7 @@ namespace tarv_3_3 {
 
 namespace {
 
-constexpr std::size_t usualNames = 32;
-
-template <class List>
-void makeRoom(List& list, std::size_t more) {
-    if (list.capacity() - list.size() < more) {
-        list.reserve(std::max(2 * list.capacity(), list.size() + more));
-    }
-}
+constexpr std::size_t typicalNames = 32;
 
 // Data that an argument gave has none.
 Entries::Default defaultIn(const OptionData& data) {
@@ -26,136 +19,138 @@ Entries::Default defaultIn(const OptionData& data) {
 } // namespace
 
 Entries::Entries(internal::Arena& memory)
-    : m_memory(memory), m_list(memory), m_data(memory), m_names(memory) {
-    m_list.reserve(usualNames);
+    : m_memory(memory), m_entries(memory), m_groups(memory), m_names(memory) {
+    m_entries.reserve(typicalNames);
 }
 
 Entries::~Entries() = default;
 
 void Entries::store(const Names& names, const OptionData& data) {
-    const internal::HashedText firstName(names.at(0));
-    const std::size_t first = placeOf(firstName);
-    if (first == nowhere) {
+    NameIndex::Entry& firstName = m_names.insert(names.at(0));
+    const std::size_t first = firstName.value.index;
+    if (first == noEntry) {
         storeFirst(firstName, names, data);
-    } else if (areTogether(first, names)) {
-        append(*m_list[first].data, data);
+    } else if (areGroup(first, names)) {
+        append(*m_entries[first].m_group, data);
     } else {
         for (const std::string& name : names) {
-            append(*ownEntry(name).data, data);
+            append(*ownEntry(m_names.insert(name)).m_group, data);
         }
     }
 }
 
-// A name that stands twice among them shares the data already.
-void Entries::storeFirst(const internal::HashedText& firstName, const Names& names, const OptionData& data) {
-    const std::size_t first = m_list.size();
-    Data& shared = m_data.emplace_back(m_memory);
-    append(shared, data);
+// A name that stands twice among them is in the group already.
+void Entries::storeFirst(NameIndex::Entry& firstName, const Names& names, const OptionData& data) {
+    Group& group = addGroup();
+    append(group, data);
     const Default byDefault = defaultIn(data);
-    add(m_names.insert(firstName), shared, 1, byDefault);
+    add(firstName, group, byDefault);
     for (auto name = names.begin() + 1; name != names.end(); ++name) {
-        Index::Entry& known = m_names.insert(*name);
-        if (known.value.place == nowhere) {
-            add(known, shared, 0, byDefault);
-            ++m_list[first].together;
-        } else if (known.value.place < first) {
-            Entry& entry = ownEntry(known.text());
-            *entry.data = Data(m_memory);
-            append(*entry.data, data);
+        NameIndex::Entry& known = m_names.insert(*name);
+        if (known.value.index == noEntry) {
+            add(known, group, byDefault);
+        } else if (known.value.index < group.firstEntry) {
+            Entry& entry = ownEntry(known);
+            Group& own = m_groups.emplace_back(m_memory, known.value.index);
+            own.nameCount = 1;
+            entry.m_group = &own;
+            append(own, data);
             entry.byDefault = byDefault;
         }
     }
 }
 
-Entries::Entry& Entries::entryBehind(std::size_t place, const internal::HashedText& name) {
-    Index::Entry& known = m_names.insert(name);
-    if (known.value.place != nowhere) {
-        return m_list[known.value.place];
+// The entry of `name`. One that has to be made joins `group`, which is made for the first of them.
+Entries::Entry& Entries::entryInGroup(Group*& group, const internal::HashedText& name) {
+    NameIndex::Entry& known = m_names.insert(name);
+    if (known.value.index != noEntry) {
+        return m_entries[known.value.index];
     }
-    if (place == m_list.size()) {
-        return add(known, m_data.emplace_back(m_memory), 1, Default());
+    if (group == nullptr) {
+        group = &addGroup();
     }
-    Entry& added = add(known, *m_list[place].data, 0, Default());
-    ++m_list[place].together;
-    return added;
+    return add(known, *group, Default());
 }
 
-bool Entries::areTogether(std::size_t place, const Names& names) const {
-    if (m_list[place].together != names.size()) {
+// Whether `names`, the first of which has the entry `first`, are all the names of a group, in its order.
+bool Entries::areGroup(std::size_t first, const Names& names) const {
+    const Group& group = m_entries[first].group();
+    if (group.firstEntry != first || group.nameCount != names.size()) {
         return false;
     }
     for (std::size_t i = 1; i < names.size(); ++i) {
-        if (m_list[place + i].name.text != names[i]) {
+        if (m_entries[first + i].name.text != names[i]) {
             return false;
         }
     }
     return true;
 }
 
-// One by one from the last: when memory runs out, those before it still share.
-void Entries::separate(std::size_t place) {
-    while (m_list[place].together == 0) {
-        --place;
-    }
-    Entry& first = m_list[place];
-    for (; first.together > 1; --first.together) {
-        Entry& last = m_list[place + first.together - 1];
-        Data& own = m_data.emplace_back(m_memory);
-        own = *last.data;
-        last.data = &own;
-        last.together = 1;
+// Gives each name of a group a copy. One by one from the last: when memory runs out, those before it are
+// still a group.
+void Entries::separate(Group& group) {
+    std::size_t end = group.firstEntry + group.nameCount;
+    while (group.nameCount > 1) {
+        --end;
+        Group& own = m_groups.emplace_back(group);
+        own.firstEntry = end;
+        own.nameCount = 1;
+        m_entries[end].m_group = &own;
+        --group.nameCount;
     }
 }
 
-Entries::Entry& Entries::ownEntry(const internal::HashedText& name) {
-    Index::Entry& known = m_names.insert(name);
-    if (known.value.place == nowhere) {
-        add(known, m_data.emplace_back(m_memory), 1, Default());
+// The entry of `name`, which from now on is in no group with another one.
+Entries::Entry& Entries::ownEntry(NameIndex::Entry& name) {
+    if (name.value.index == noEntry) {
+        return add(name, addGroup(), Default());
     }
-    separate(known.value.place);
-    return m_list[known.value.place];
+    Entry& entry = m_entries[name.value.index];
+    separate(*entry.m_group);
+    return entry;
 }
 
-Entries::Entry& Entries::add(Index::Entry& name, Data& data, std::size_t together, const Default& byDefault) {
-    Entry& added = m_list.emplace_back(Entry{name.text(), &data, together, byDefault});
-    name.value.place = m_list.size() - 1;
+// A new entry. Those of a group are added one behind the other.
+Entries::Entry& Entries::add(NameIndex::Entry& name, Group& group, const Default& byDefault) {
+    const std::size_t index = m_entries.size();
+    Entry& added = m_entries.emplace_back(name.text(), group, byDefault);
+    name.value.index = index;
+    ++group.nameCount;
     return added;
 }
 
-// One by one: when memory runs out, an insertion of several at once may lose what was there before.
-void Entries::append(Data& entry, const OptionData& data) {
+void Entries::append(Group& group, const OptionData& data) {
     const auto note = [&](int position) {
-        entry.ascends = entry.ascends && entry.lastPosition < position;
-        entry.lastPosition = position;
+        group.ascends = group.ascends && group.lastPosition < position;
+        group.lastPosition = position;
     };
     for (const int position : data.positions) {
-        entry.positions.push_back(position);
+        group.positions.emplace_back(position);
         note(position);
     }
-    makeRoom(entry.values, data.values.size());
+    group.values.makeRoom(data.values.size());
     for (const OptionValue& value : data.values) {
-        entry.values.emplace_back(value, m_memory);
+        group.values.emplace_back(value, m_memory);
         note(value.position);
     }
 }
 
 Entries::List Entries::listByName() const {
-    List ordered(m_list);
+    List ordered(m_entries);
     std::sort(ordered.begin(), ordered.end(), [](const Entry& left, const Entry& right) {
         return NameOrder()(left.name.text, right.name.text);
     });
     return ordered;
 }
 
-// A name that is known and has no entry, since memory ran out, is nowhere as well.
-std::size_t Entries::placeOf(const internal::HashedText& name) const {
-    const Index::Entry* const known = m_names.find(name);
-    return known != nullptr ? known->value.place : nowhere;
+std::size_t Entries::indexOf(const internal::HashedText& name) const {
+    const NameIndex::Entry* const known = m_names.find(name);
+    return known != nullptr ? known->value.index : noEntry;
 }
 
 const Entries::Entry* Entries::find(std::string_view name) const {
-    const std::size_t place = placeOf(name);
-    return place != nowhere ? &m_list[place] : nullptr;
+    const std::size_t index = indexOf(name);
+    return index != noEntry ? &m_entries[index] : nullptr;
 }
 
 } // namespace tarv_3_3

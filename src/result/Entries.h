@@ -3,36 +3,46 @@
 #include <climits>
 #include <cstddef>
 #include <deque>
+#include <limits>
 #include <string_view>
 #include <vector>
 
 #include "options/OptionDescription.h"
 #include "platform/Arena.h"
+#include "platform/SmallVector.h"
 #include "platform/TextMap.h"
 #include "result/StoredValue.h"
 #include "tarv_3_3/internal/OptionData.h"
 
 namespace tarv_3_3 {
 
-/// What a result has stored, by option name. Only grows; an entry keeps its place.
+/// What a result has stored: a map from option names to entries. It only grows, and an entry keeps its index.
 ///
-/// Each name has data of its own, as far as anybody can see. Names that came together, with an occurrence
-/// or a default of one option, share it until something tells them apart.
+/// Each name has occurrences and values of its own, as far as anybody can see. Names that came together, with
+/// an occurrence or a default of one option, are a group, which has them in common. They are copied on write:
+/// when something is stored under some names of a group and not under the others.
 class Entries {
 public:
-    /// What was given to an option.
-    struct Data {
-        explicit Data(internal::Arena& memory) : positions(memory), values(memory) {}
+    /// What was given to the names of a group.
+    struct Group {
+        Group(internal::Arena& memory, std::size_t first)
+            : positions(memory), values(memory), firstEntry(first) {}
 
         /// The position index of each occurrence, in the order stored.
-        std::vector<int, internal::ArenaAllocator<int>> positions;
+        internal::SmallVector<int> positions;
         /// The values of all occurrences, in the order stored.
-        std::vector<StoredValue, internal::ArenaAllocator<StoredValue>> values;
+        internal::SmallVector<StoredValue> values;
         /// Whether every position index, of both lists, is above the one stored before. It is unless a
         /// handler parses into the same result while it is told of an occurrence, or the counter of the
         /// process has wrapped around.
         bool ascends = true;
         int lastPosition = INT_MIN;
+        ///@{
+        /// Its names are those of `nameCount` entries, one behind the other. A group that no entry refers to
+        /// (memory ran out, or another one took its place) has none, or has names that it gave away.
+        std::size_t firstEntry;
+        std::size_t nameCount = 0;
+        ///@}
     };
     struct Default {
         bool isEmpty() const { return text.type() != vtString || *text.get<const char*>() == '\0'; }
@@ -41,20 +51,27 @@ public:
         variant_t value;
         int position = 0;
     };
-    struct Entry {
+    class Entry {
+    public:
+        Entry(const internal::HashedText& ofName, Group& group, const Default& ownDefault)
+            : name(ofName), byDefault(ownDefault), m_group(&group) {}
+
+        /// What was given to the name; that of other entries as well, where they are a group.
+        const Group& group() const { return *m_group; }
+
         /// Lies in the memory of the entries.
         internal::HashedText name;
-        /// That of several entries, where they share it.
-        Data* data;
-        /// How many share it: this entry and those right behind it, which say 0.
-        std::size_t together;
         /// Of the name alone.
         Default byDefault;
+
+    private:
+        friend class Entries;
+        Group* m_group;
     };
     using List = std::vector<Entry, internal::ArenaAllocator<Entry>>;
 
-    /// The place of a name that has no entry: one before the first.
-    static constexpr auto nowhere = static_cast<std::size_t>(-1);
+    /// The index of a name that has no entry.
+    static constexpr std::size_t noEntry = std::numeric_limits<std::size_t>::max();
 
     /// Everything goes with `memory`, which takes nothing back before.
     explicit Entries(internal::Arena& memory);
@@ -70,44 +87,43 @@ public:
     /// Gives each of `names` the default that a call of `makeDefault` returns for it.
     template <class MakeDefault>
     void storeDefaults(const Names& names, MakeDefault makeDefault) {
-        const std::size_t end = m_list.size();
+        Group* group = nullptr;
         for (const std::string& name : names) {
-            entryBehind(end, name).byDefault = makeDefault();
+            entryInGroup(group, name).byDefault = makeDefault();
         }
     }
 
-    std::size_t placeOf(const internal::HashedText& name) const;
-    const Entry& operator[](std::size_t place) const { return m_list[place]; }
+    std::size_t indexOf(const internal::HashedText& name) const;
+    const Entry& operator[](std::size_t index) const { return m_entries[index]; }
 
     /// The entry of `name`, null for none.
     const Entry* find(std::string_view name) const;
 
     /// All entries in the order in which the names came.
-    const List& list() const { return m_list; }
+    const List& list() const { return m_entries; }
     /// The same, ordered by the bytes of the names.
     List listByName() const;
 
 private:
-    void storeFirst(const internal::HashedText& firstName, const Names& names, const OptionData& data);
-    bool areTogether(std::size_t place, const Names& names) const;
-    void separate(std::size_t place);
-    /// Where the entry of a name is in the list.
-    struct Place {
-        std::size_t place = nowhere;
+    struct EntryIndex {
+        std::size_t index = noEntry;
     };
-    using Index = internal::TextMap<Place>;
+    using NameIndex = internal::TextMap<EntryIndex>;
 
-    /// The entry of `name`; one that has to be made shares the data of those from `place` on.
-    Entry& entryBehind(std::size_t place, const internal::HashedText& name);
-    /// The entry of `name`, which from now on shares its data with no other one.
-    Entry& ownEntry(const internal::HashedText& name);
-    void append(Data& entry, const OptionData& data);
-    Entry& add(Index::Entry& name, Data& data, std::size_t together, const Default& byDefault);
+    void storeFirst(NameIndex::Entry& firstName, const Names& names, const OptionData& data);
+    bool areGroup(std::size_t first, const Names& names) const;
+    void separate(Group& group);
+    Entry& entryInGroup(Group*& group, const internal::HashedText& name);
+    Entry& ownEntry(NameIndex::Entry& name);
+    void append(Group& group, const OptionData& data);
+    Group& addGroup() { return m_groups.emplace_back(m_memory, m_entries.size()); }
+    Entry& add(NameIndex::Entry& name, Group& group, const Default& byDefault);
 
     internal::Arena& m_memory;
-    List m_list;
-    std::deque<Data, internal::ArenaAllocator<Data>> m_data;
-    Index m_names;
+    List m_entries;
+    std::deque<Group, internal::ArenaAllocator<Group>> m_groups;
+    /// Has every name of an entry, and may have names without one, since memory ran out.
+    NameIndex m_names;
 };
 
 } // namespace tarv_3_3

@@ -23,14 +23,14 @@ int statusOf(Query query) {
 }
 
 // The place of the first occurrence at a position in [lo, hi); their number when there is none.
-std::size_t firstInRange(const Entries::Data& data, int lo, int hi) {
-    const auto& positions = data.positions;
+std::size_t firstInRange(const Entries::Group& group, int lo, int hi) {
+    const auto& positions = group.positions;
     const auto isInRange = [&](int position) { return lo <= position && position < hi; };
     if (isInRange(positions.front())) {
         return 0;
     }
     auto found = positions.end();
-    if (data.ascends) {
+    if (group.ascends) {
         const auto candidate = std::lower_bound(positions.begin(), positions.end(), lo);
         found = candidate != positions.end() && isInRange(*candidate) ? candidate : positions.end();
     } else {
@@ -41,14 +41,14 @@ std::size_t firstInRange(const Entries::Data& data, int lo, int hi) {
 
 // The place of the first value, from `place` on, whose position is not below `bound`; their number when there
 // is none.
-std::size_t firstNotBelow(const Entries::Data& data, std::size_t place, int bound) {
-    const auto& values = data.values;
+std::size_t firstNotBelow(const Entries::Group& group, std::size_t place, int bound) {
+    const auto& values = group.values;
     if (place >= values.size() || values[place].position >= bound) {
         return place;
     }
     const auto isBelow = [&](const StoredValue& value) { return value.position < bound; };
     const auto from = values.begin() + static_cast<std::ptrdiff_t>(place);
-    const auto found = data.ascends ? std::partition_point(from, values.end(), isBelow)
+    const auto found = group.ascends ? std::partition_point(from, values.end(), isBelow)
                                     : std::find_if_not(from, values.end(), isBelow);
     return static_cast<std::size_t>(found - values.begin());
 }
@@ -108,10 +108,10 @@ Value ParseResult::next(const char* /*name*/) {
 }
 
 int ParseResult::nextPosition() {
-    if (m_current == Entries::nowhere || m_positionsCursor >= current().data->positions.size()) {
+    if (m_current == Entries::noEntry || m_positionsCursor >= current().group().positions.size()) {
         return noPosition;
     }
-    return current().data->positions[m_positionsCursor++];
+    return current().group().positions[m_positionsCursor++];
 }
 
 int ParseResult::get(const std::string& name, char** text, variant_t& value, int lo, int hi, int& position) {
@@ -126,7 +126,7 @@ int ParseResult::startIteration(std::string_view name, char** text, variant_t& v
                                 int& position) {
     const int status = findFirst(name, text, value, lo, hi, position);
     if (status != valueFound) {
-        m_current = Entries::nowhere;
+        m_current = Entries::noEntry;
     }
     return status;
 }
@@ -137,30 +137,30 @@ int ParseResult::findFirst(std::string_view name, char** text, variant_t& value,
     m_upperBound = hi;
     m_valuesCursor = 0;
     m_positionsCursor = 0;
-    m_current = m_entries.placeOf(name);
-    if (m_current == Entries::nowhere) {
+    m_current = m_entries.indexOf(name);
+    if (m_current == Entries::noEntry) {
         return valueMissing;
     }
-    const Entries::Data& data = *current().data;
-    if (data.positions.empty()) {
+    const Entries::Group& group = current().group();
+    if (group.positions.empty()) {
         if (!isDefaulted(current())) {
             return valueMissing;
         }
         yieldDefault(current().byDefault, text, value, position);
         return valueFound;
     }
-    m_positionsCursor = firstInRange(data, lo, hi);
-    if (m_positionsCursor == data.positions.size()) {
+    m_positionsCursor = firstInRange(group, lo, hi);
+    if (m_positionsCursor == group.positions.size()) {
         return valueMissing;
     }
     return text == nullptr ? static_cast<int>(valueFound) : continueIteration(text, value, position);
 }
 
 int ParseResult::continueIteration(char** text, variant_t& value, int& position) {
-    if (m_current == Entries::nowhere) {
+    if (m_current == Entries::noEntry) {
         return valueMissing;
     }
-    const Entries::Data& data = *current().data;
+    const Entries::Group& group = current().group();
     if (isDefaulted(current())) {
         // The state that present() leaves, so that a default is yielded once behind it.
         if (m_lowerBound != noPosition || m_upperBound != noPosition) {
@@ -170,11 +170,11 @@ int ParseResult::continueIteration(char** text, variant_t& value, int& position)
         m_lowerBound = 0;
         return valueFound;
     }
-    return data.values.empty() ? nextOccurrence(data, position) : nextValue(data, text, value, position);
+    return group.values.empty() ? nextOccurrence(group, position) : nextValue(group, text, value, position);
 }
 
 bool ParseResult::isDefaulted(const Entries::Entry& entry) {
-    return entry.data->positions.empty() && !entry.byDefault.isEmpty();
+    return entry.group().positions.empty() && !entry.byDefault.isEmpty();
 }
 
 void ParseResult::yieldDefault(const Entries::Default& found, char** text, variant_t& value, int& position) {
@@ -185,13 +185,13 @@ void ParseResult::yieldDefault(const Entries::Default& found, char** text, varia
     position = found.position;
 }
 
-int ParseResult::nextValue(const Entries::Data& data, char** text, variant_t& value, int& position) {
-    m_valuesCursor = firstNotBelow(data, m_valuesCursor, m_lowerBound);
+int ParseResult::nextValue(const Entries::Group& group, char** text, variant_t& value, int& position) {
+    m_valuesCursor = firstNotBelow(group, m_valuesCursor, m_lowerBound);
     // The upper bound is inclusive here, exclusive where an iteration starts.
-    if (m_valuesCursor >= data.values.size() || data.values[m_valuesCursor].position > m_upperBound) {
+    if (m_valuesCursor >= group.values.size() || group.values[m_valuesCursor].position > m_upperBound) {
         return valueMissing;
     }
-    const StoredValue& found = data.values[m_valuesCursor];
+    const StoredValue& found = group.values[m_valuesCursor];
     *text = keep(found.text());
     value = found.value;
     position = found.position;
@@ -199,11 +199,11 @@ int ParseResult::nextValue(const Entries::Data& data, char** text, variant_t& va
     return valueFound;
 }
 
-int ParseResult::nextOccurrence(const Entries::Data& data, int& position) {
-    if (m_positionsCursor >= data.positions.size()) {
+int ParseResult::nextOccurrence(const Entries::Group& group, int& position) {
+    if (m_positionsCursor >= group.positions.size()) {
         return valueMissing;
     }
-    position = data.positions[m_positionsCursor];
+    position = group.positions[m_positionsCursor];
     ++m_positionsCursor;
     return valueFound;
 }

@@ -72,8 +72,8 @@ private:
     const Entries::Entry& current() const { return m_entries[m_current]; }
     TARV_HIDDEN void yieldDefault(const Entries::Default& found, char** text, variant_t& value,
                                   int& position);
-    TARV_HIDDEN int nextValue(const Entries::Data& data, char** text, variant_t& value, int& position);
-    TARV_HIDDEN int nextOccurrence(const Entries::Data& data, int& position);
+    TARV_HIDDEN int nextValue(const Entries::Group& group, char** text, variant_t& value, int& position);
+    TARV_HIDDEN int nextOccurrence(const Entries::Group& group, int& position);
     TARV_HIDDEN static bool isDefaulted(const Entries::Entry& entry);
     TARV_HIDDEN char* keep(const char* text);
 
@@ -86,7 +86,7 @@ private:
     int m_lowerBound = 0;
     int m_upperBound = noPosition;
     /// The place of the current entry; `nowhere` when the last query found nothing.
-    std::size_t m_current = Entries::nowhere;
+    std::size_t m_current = Entries::noEntry;
     Garbage m_garbage;
     /// What stood behind "--", with its position indices.
     std::vector<std::pair<std::string, int>> m_freeArguments;

@@ -270,7 +270,7 @@ TEST_F(OptionFiles, MayHaveAHundredThousandLines) {
         contents += "--name=x\n";
     }
     EXPECT_EQ(parseFile(directory.write("a", contents + "--name=end\n")), 0);
-    EXPECT_EQ(parsing.result.entries().find("name")->data->positions.size(), 100001U);
+    EXPECT_EQ(parsing.result.entries().find("name")->group().positions.size(), 100001U);
     EXPECT_STREQ(getLastValue(&parsing.result, "name").text, "end");
 }
 

@@ -17,15 +17,15 @@ namespace {
 
 class StoredEntries : public ::testing::Test {
 protected:
-    /// The names of a list in its order, one character each; a '+' behind those that share the data
+    /// The names of a list in its order, one character each; a '+' behind those that share the group
     /// of the one before.
     static std::string describe(const Entries::List& list) {
         std::string line;
-        const Entries::Data* before = nullptr;
+        const Entries::Group* before = nullptr;
         for (const Entries::Entry& entry : list) {
             line.append(entry.name.text);
-            line += entry.data == before ? "+" : "";
-            before = entry.data;
+            line += &entry.group() == before ? "+" : "";
+            before = &entry.group();
         }
         return line;
     }
@@ -39,18 +39,18 @@ protected:
 TEST_F(StoredEntries, AreNowhereAtFirst) {
     EXPECT_EQ(inOrder(), "");
     EXPECT_EQ(entries.find("a"), nullptr);
-    EXPECT_EQ(entries.placeOf("a"), Entries::nowhere);
+    EXPECT_EQ(entries.indexOf("a"), Entries::noEntry);
 }
 
 TEST_F(StoredEntries, HaveTheirPlacesInTheOrderInWhichTheyCame) {
     entries.store({"z", "b"}, occurrences({1}));
     entries.store({"a"}, occurrences({2}));
     entries.store({"z", "b", "c"}, occurrences({3}));
-    EXPECT_EQ(entries.placeOf("z"), 0U);
-    EXPECT_EQ(entries.placeOf("b"), 1U);
-    EXPECT_EQ(entries.placeOf("a"), 2U);
-    EXPECT_EQ(entries.placeOf("c"), 3U);
-    EXPECT_EQ(entries.placeOf("d"), Entries::nowhere);
+    EXPECT_EQ(entries.indexOf("z"), 0U);
+    EXPECT_EQ(entries.indexOf("b"), 1U);
+    EXPECT_EQ(entries.indexOf("a"), 2U);
+    EXPECT_EQ(entries.indexOf("c"), 3U);
+    EXPECT_EQ(entries.indexOf("d"), Entries::noEntry);
     EXPECT_EQ(inOrder(), "zbac");
     EXPECT_EQ(describe(entries.listByName()), "abcz");
 }
@@ -58,7 +58,7 @@ TEST_F(StoredEntries, HaveTheirPlacesInTheOrderInWhichTheyCame) {
 TEST_F(StoredEntries, AreFoundByPlaceAndByName) {
     entries.store({"a", "b"}, occurrences({1}));
     entries.store({"c"}, occurrences({2}));
-    EXPECT_EQ(entries[2].data->positions.at(0), 2);
+    EXPECT_EQ(entries[2].group().positions.front(), 2);
     EXPECT_EQ(entries.find("c"), &entries[2]);
     EXPECT_EQ(entries.find("b"), &entries[1]);
     EXPECT_EQ(entries.find(""), nullptr);
@@ -70,7 +70,7 @@ TEST_F(StoredEntries, ShareWhatWasAlwaysStoredTogether) {
     EXPECT_EQ(inOrder(), "ab+c+");
     entries.store(level, occurrences({2}));
     EXPECT_EQ(inOrder(), "ab+c+");
-    EXPECT_EQ(entries[0].data->positions.size(), 2U);
+    EXPECT_EQ(entries[0].group().positions.size(), 2U);
     entries.store({"d"}, occurrences({3}));
     EXPECT_EQ(inOrder(), "ab+c+d");
 }
@@ -105,10 +105,10 @@ TEST_F(StoredEntries, HaveADefaultEachAndShareWhatIsGivenLater) {
     EXPECT_EQ(entries[1].byDefault.position, 6);
     EXPECT_EQ(entries[1].byDefault.text, variant_t("7"));
     EXPECT_EQ(entries[1].byDefault.value, variant_t(std::int32_t{7}));
-    EXPECT_TRUE(entries[0].data->positions.empty());
+    EXPECT_TRUE(entries[0].group().positions.empty());
     entries.store({"a", "b"}, occurrences({1}));
     EXPECT_EQ(inOrder(), "ab+");
-    EXPECT_EQ(entries[1].data->positions.at(0), 1);
+    EXPECT_EQ(entries[1].group().positions.front(), 1);
     EXPECT_EQ(entries[1].byDefault.position, 6);
 }
 
@@ -123,12 +123,12 @@ TEST_F(StoredEntries, HaveTheLastDefaultAndTheOccurrencesThatTheyHad) {
     EXPECT_EQ(entries.find("b")->byDefault.position, 2);
     EXPECT_EQ(entries.find("c")->byDefault.position, 4);
     EXPECT_EQ(entries.find("d")->byDefault.position, 3);
-    EXPECT_EQ(entries.find("b")->data->positions.at(0), 10);
+    EXPECT_EQ(entries.find("b")->group().positions.front(), 10);
     entries.store({"c", "b", "d", "c"}, occurrences({11}));
     EXPECT_EQ(inOrder(), "abcd");
-    EXPECT_EQ(entries.find("a")->data->positions.size(), 1U);
-    EXPECT_EQ(entries.find("b")->data->positions.size(), 2U);
-    EXPECT_EQ(entries.find("d")->data->positions.size(), 1U);
+    EXPECT_EQ(entries.find("a")->group().positions.size(), 1U);
+    EXPECT_EQ(entries.find("b")->group().positions.size(), 2U);
+    EXPECT_EQ(entries.find("d")->group().positions.size(), 1U);
 }
 
 TEST_F(StoredEntries, HaveNoDefaultWithoutAText) {
@@ -149,9 +149,9 @@ TEST_F(StoredEntries, KeepTheirPlacesAsTheyGrow) {
         entries.store({std::to_string(i), "x" + std::to_string(i)}, occurrences({i}));
     }
     for (int i = 0; i < 1000; ++i) {
-        const std::size_t place = entries.placeOf("x" + std::to_string(i));
-        ASSERT_EQ(place, 2 * static_cast<std::size_t>(i) + 1);
-        ASSERT_EQ(entries[place].data->positions.at(0), i);
+        const std::size_t index = entries.indexOf("x" + std::to_string(i));
+        ASSERT_EQ(index, 2 * static_cast<std::size_t>(i) + 1);
+        ASSERT_EQ(entries[index].group().positions.front(), i);
     }
 }
 
@@ -181,8 +181,8 @@ TEST_F(StoredEntries, AreWholeOrNowhereWhenMemoryRunsOut) {
         ASSERT_LE(few.list().size(), 2 * stored + 1);
         for (const Entries::Entry& entry : few.list()) {
             ASSERT_EQ(few.find(entry.name.text), &entry);
-            ASSERT_EQ(entry.data->positions.size(), 1U);
-            ASSERT_EQ(entry.data->values.size(), 1U);
+            ASSERT_EQ(entry.group().positions.size(), 1U);
+            ASSERT_EQ(entry.group().values.size(), 1U);
         }
         const bool hasFirstName = few.list().size() > 2 * stored;
         ASSERT_EQ(few.find("a" + std::to_string(stored)) != nullptr, hasFirstName);
