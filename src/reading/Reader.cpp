@@ -66,7 +66,7 @@ ReadArgument Reader::lookAtName(const std::string& argument, const std::string* 
     }
     read.role = ArgumentRole::named;
     read.place = static_cast<std::size_t>(m_matcher.place());
-    read.name = m_matcher.bestNames().front();
+    read.name = m_matcher.bestNameIn(argument);
     const das_variant_type_t kind = options[read.place].m_type;
     read.isAbbreviated = typed != read.name;
     read.isNegated = kind == vtBool && beginsWithNegation(read.name);

@@ -68,7 +68,7 @@ NameOutcome AbbreviationParser::look(const std::string& argument,
             argument, "':", err);
     } else if (outcome == NameOutcome::found) {
         log(": best match option for '", m_matcher.token().nameIn(argument), "' in argument '", argument,
-            "' is '", m_matcher.bestNames().front(), "'");
+            "' is '", m_matcher.bestNameIn(argument), "'");
     }
     return outcome;
 }
@@ -171,7 +171,7 @@ int AbbreviationParser::findValue(const OptionDescription& option, ArgumentSpan 
     case ValueSource::sameArgument:
         return parseOk;
     case ValueSource::name:
-        value = beginsWithNegation(m_matcher.bestNames().at(0)) ? "0" : "1";
+        value = beginsWithNegation(m_matcher.bestNameIn(left.front())) ? "0" : "1";
         return parseOk;
     case ValueSource::nextArgument:
         log(": no value in the same argument, looking next");

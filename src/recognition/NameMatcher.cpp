@@ -8,16 +8,17 @@ namespace tarv_3_3 {
 NameOutcome NameMatcher::look(const std::string& argument, const std::vector<OptionDescription>& options,
                               RegisteredOptionStorage* registry) {
     m_place = -1;
+    forget();
     if (argument.size() < 2 || dashLength(argument) == 0) {
         m_token = Token();
-        forget();
         return NameOutcome::none;
     }
     m_token = splitToken(argument, m_classifier);
     const std::string_view name = m_token.nameIn(argument);
-    if (registry == nullptr || !keepWholeName(name, *registry)) {
-        keepBest(name, options);
+    if (registry != nullptr && findWholeName(name, *registry)) {
+        return NameOutcome::found;
     }
+    keepBest(name, options);
     const NameOutcome found = outcome();
     // The record that gave the one best name is also the one that a lookup of that name would find:
     // another one with the same name would have tied with it.
@@ -29,22 +30,18 @@ NameOutcome NameMatcher::look(const std::string& argument, const std::vector<Opt
 
 // Only an equal candidate has every word whole, so nothing beats it, and only another equal one ties with
 // it. Where there is just one, the table need not be walked.
-bool NameMatcher::keepWholeName(std::string_view typed, RegisteredOptionStorage& registry) {
+bool NameMatcher::findWholeName(std::string_view typed, RegisteredOptionStorage& registry) {
     std::size_t index = 0;
-    if (!registry.findOnly(typed, index)) {
-        return false;
+    m_isWhole = registry.findOnly(typed, index);
+    if (m_isWhole) {
+        m_place = static_cast<std::int64_t>(index);
     }
-    // Strings take their memory over.
-    m_bestNames.resize(1);
-    m_bestNames.front() = typed;
-    m_place = static_cast<std::int64_t>(index);
-    return true;
+    return m_isWhole;
 }
 
 // What makeOptionNamesList, makeNameMatch and findBest do one after the other, in one pass over the
 // table.
 void NameMatcher::keepBest(std::string_view typed, const std::vector<OptionDescription>& options) {
-    forget();
     const Names::Pattern pattern = patternOf(typed);
     for (const OptionDescription& option : options) {
         if (option.m_names.mayFit(pattern)) {
@@ -59,6 +56,7 @@ void NameMatcher::keepBest(std::string_view typed, const std::vector<OptionDescr
 }
 
 void NameMatcher::forget() {
+    m_isWhole = false;
     m_bestNames.clear();
     m_bestScore = 0;
 }

@@ -35,13 +35,19 @@ public:
     /// The place of the record that has the one best name, -1 when there is not exactly one.
     std::int64_t place() const { return m_place; }
 
-    /// The best candidates, in the order of the table.
+    /// The one best candidate, `argument` being the one that was last looked at. Throws `std::out_of_range`
+    /// when there is none.
+    std::string_view bestNameIn(std::string_view argument) const {
+        return m_isWhole ? m_token.nameIn(argument) : std::string_view(m_bestNames.at(0));
+    }
+
+    /// The best candidates, in the order of the table. Empty where the name is given whole.
     const std::vector<std::string>& bestNames() const { return m_bestNames; }
 
     NameOutcome outcome() const {
-        return m_bestNames.empty()      ? NameOutcome::none
-               : m_bestNames.size() > 1 ? NameOutcome::ambiguous
-                                        : NameOutcome::found;
+        return m_isWhole || m_bestNames.size() == 1 ? NameOutcome::found
+               : m_bestNames.empty()                ? NameOutcome::none
+                                                    : NameOutcome::ambiguous;
     }
 
     /// Forgets what was found; then `isBest` may be asked of one candidate after the other, and `keep`
@@ -51,10 +57,12 @@ public:
     void keep(std::string name) { m_bestNames.push_back(std::move(name)); }
 
 private:
-    bool keepWholeName(std::string_view typed, RegisteredOptionStorage& registry);
+    bool findWholeName(std::string_view typed, RegisteredOptionStorage& registry);
     void keepBest(std::string_view typed, const std::vector<OptionDescription>& options);
 
     std::int64_t m_place = -1;
+    /// Whether the one best candidate equals the typed name, which is not kept then.
+    bool m_isWhole = false;
     std::vector<std::string> m_bestNames;
     /// What each of them scored.
     std::int32_t m_bestScore = 0;
