@@ -193,7 +193,7 @@ int BasicParser::parse_phase_two(const std::string& /*endMarker*/, std::vector<s
 int BasicParser::checkDeclared(const Entries::List& entries) {
     for (const Entries::Entry& entry : entries) {
         unsigned long index = 0;
-        const int status = m_registry.find(entry.name, index);
+        const int status = m_registry.find(entry.name(), index);
         if (status != 0) {
             return status;
         }
@@ -207,7 +207,7 @@ int BasicParser::checkActions(const Entries::List& entries, std::string& error) 
     bool optionStored = false;
     for (const Entries::Entry& entry : entries) {
         unsigned long index = 0;
-        const int status = m_registry.find(entry.name, index);
+        const int status = m_registry.find(entry.name(), index);
         if (status != 0) {
             return status;
         }
@@ -237,7 +237,7 @@ int BasicParser::checkModifiers(const OptionDescription& action, const Entries::
     const std::vector<OptionDescription>& options = m_registry.m_options;
     for (const Entries::Entry& entry : entries) {
         unsigned long index = 0;
-        const int status = m_registry.find(entry.name, index);
+        const int status = m_registry.find(entry.name(), index);
         if (status != 0) {
             return status;
         }

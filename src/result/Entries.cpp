@@ -8,7 +8,7 @@ namespace tarv_3_3 {
 
 namespace {
 
-constexpr std::size_t typicalNames = 32;
+constexpr std::size_t typicalNames = 48;
 
 // Data that an argument gave has none.
 Entries::Default defaultIn(const OptionData& data) {
@@ -18,12 +18,27 @@ Entries::Default defaultIn(const OptionData& data) {
 
 } // namespace
 
-Entries::Entries(internal::Arena& memory)
-    : m_memory(memory), m_entries(memory), m_groups(memory), m_names(memory) {
+Entries::Entries(internal::Arena& memory) : m_memory(memory), m_entries(memory), m_names(memory) {
     m_entries.reserve(typicalNames);
 }
 
-Entries::~Entries() = default;
+Entries::~Entries() {
+    while (m_lastGroup != nullptr) {
+        Group* const group = m_lastGroup;
+        m_lastGroup = group->previous;
+        group->~Group();
+    }
+}
+
+// Makes a group of `parts`, which goes with the entries.
+template <class... Parts>
+Entries::Group& Entries::addGroup(Parts&&... parts) {
+    void* const memory = m_memory.take(sizeof(Group), alignof(Group));
+    auto* const added = new (memory) Group(std::forward<Parts>(parts)...);
+    added->previous = m_lastGroup;
+    m_lastGroup = added;
+    return *added;
+}
 
 void Entries::store(const Names& names, const OptionData& data) {
     NameIndex::Entry& firstName = m_names.insert(names.at(0));
@@ -41,7 +56,7 @@ void Entries::store(const Names& names, const OptionData& data) {
 
 // A name that stands twice among them is in the group already.
 void Entries::storeFirst(NameIndex::Entry& firstName, const Names& names, const OptionData& data) {
-    Group& group = addGroup();
+    Group& group = addGroup(m_memory, m_entries.size());
     append(group, data);
     const Default byDefault = defaultIn(data);
     add(firstName, group, byDefault);
@@ -51,7 +66,7 @@ void Entries::storeFirst(NameIndex::Entry& firstName, const Names& names, const 
             add(known, group, byDefault);
         } else if (known.value.index < group.firstEntry) {
             Entry& entry = ownEntry(known);
-            Group& own = m_groups.emplace_back(m_memory, known.value.index);
+            Group& own = addGroup(m_memory, known.value.index);
             own.nameCount = 1;
             entry.m_group = &own;
             append(own, data);
@@ -60,16 +75,17 @@ void Entries::storeFirst(NameIndex::Entry& firstName, const Names& names, const 
     }
 }
 
-// The entry of `name`. One that has to be made joins `group`, which is made for the first of them.
-Entries::Entry& Entries::entryInGroup(Group*& group, const internal::HashedText& name) {
+// An entry that has to be made joins `group`, which is made for the first of them.
+void Entries::storeDefault(Group*& group, const internal::HashedText& name, Default&& byDefault) {
     NameIndex::Entry& known = m_names.insert(name);
     if (known.value.index != noEntry) {
-        return m_entries[known.value.index];
+        m_entries[known.value.index].byDefault = std::move(byDefault);
+        return;
     }
     if (group == nullptr) {
-        group = &addGroup();
+        group = &addGroup(m_memory, m_entries.size());
     }
-    return add(known, *group, Default());
+    add(known, *group, std::move(byDefault));
 }
 
 // Whether `names`, the first of which has the entry `first`, are all the names of a group, in its order.
@@ -79,7 +95,7 @@ bool Entries::areGroup(std::size_t first, const Names& names) const {
         return false;
     }
     for (std::size_t i = 1; i < names.size(); ++i) {
-        if (m_entries[first + i].name.text != names[i]) {
+        if (m_entries[first + i].name().text != names[i]) {
             return false;
         }
     }
@@ -92,7 +108,7 @@ void Entries::separate(Group& group) {
     std::size_t end = group.firstEntry + group.nameCount;
     while (group.nameCount > 1) {
         --end;
-        Group& own = m_groups.emplace_back(group);
+        Group& own = addGroup(group);
         own.firstEntry = end;
         own.nameCount = 1;
         m_entries[end].m_group = &own;
@@ -103,7 +119,7 @@ void Entries::separate(Group& group) {
 // The entry of `name`, which from now on is in no group with another one.
 Entries::Entry& Entries::ownEntry(NameIndex::Entry& name) {
     if (name.value.index == noEntry) {
-        return add(name, addGroup(), Default());
+        return add(name, addGroup(m_memory, m_entries.size()), Default());
     }
     Entry& entry = m_entries[name.value.index];
     separate(*entry.m_group);
@@ -111,9 +127,10 @@ Entries::Entry& Entries::ownEntry(NameIndex::Entry& name) {
 }
 
 // A new entry. Those of a group are added one behind the other.
-Entries::Entry& Entries::add(NameIndex::Entry& name, Group& group, const Default& byDefault) {
+template <class OwnDefault>
+Entries::Entry& Entries::add(NameIndex::Entry& name, Group& group, OwnDefault&& byDefault) {
     const std::size_t index = m_entries.size();
-    Entry& added = m_entries.emplace_back(name.text(), group, byDefault);
+    Entry& added = m_entries.emplace_back(name, group, std::forward<OwnDefault>(byDefault));
     name.value.index = index;
     ++group.nameCount;
     return added;
@@ -138,7 +155,7 @@ void Entries::append(Group& group, const OptionData& data) {
 Entries::List Entries::listByName() const {
     List ordered(m_entries);
     std::sort(ordered.begin(), ordered.end(), [](const Entry& left, const Entry& right) {
-        return NameOrder()(left.name.text, right.name.text);
+        return NameOrder()(left.name().text, right.name().text);
     });
     return ordered;
 }

@@ -2,9 +2,9 @@
 
 #include <climits>
 #include <cstddef>
-#include <deque>
 #include <limits>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "options/OptionDescription.h"
@@ -22,6 +22,11 @@ namespace tarv_3_3 {
 /// an occurrence or a default of one option, are a group, which has them in common. They are copied on write:
 /// when something is stored under some names of a group and not under the others.
 class Entries {
+    struct EntryIndex {
+        std::size_t index = noEntry;
+    };
+    using NameIndex = internal::TextMap<EntryIndex>;
+
 public:
     /// What was given to the names of a group.
     struct Group {
@@ -43,6 +48,8 @@ public:
         std::size_t firstEntry;
         std::size_t nameCount = 0;
         ///@}
+        /// The group that was made before this one.
+        Group* previous = nullptr;
     };
     struct Default {
         bool isEmpty() const { return text.type() != vtString || *text.get<const char*>() == '\0'; }
@@ -53,19 +60,22 @@ public:
     };
     class Entry {
     public:
-        Entry(const internal::HashedText& ofName, Group& group, const Default& ownDefault)
-            : name(ofName), byDefault(ownDefault), m_group(&group) {}
+        template <class OwnDefault>
+        Entry(const NameIndex::Entry& name, Group& group, OwnDefault&& ownDefault)
+            : byDefault(std::forward<OwnDefault>(ownDefault)), m_name(&name), m_group(&group) {}
+
+        /// Lies in the memory of the entries.
+        internal::HashedText name() const { return m_name->text(); }
 
         /// What was given to the name; that of other entries as well, where they are a group.
         const Group& group() const { return *m_group; }
 
-        /// Lies in the memory of the entries.
-        internal::HashedText name;
         /// Of the name alone.
         Default byDefault;
 
     private:
         friend class Entries;
+        const NameIndex::Entry* m_name;
         Group* m_group;
     };
     using List = std::vector<Entry, internal::ArenaAllocator<Entry>>;
@@ -89,7 +99,7 @@ public:
     void storeDefaults(const Names& names, MakeDefault makeDefault) {
         Group* group = nullptr;
         for (const std::string& name : names) {
-            entryInGroup(group, name).byDefault = makeDefault();
+            storeDefault(group, name, makeDefault());
         }
     }
 
@@ -105,23 +115,20 @@ public:
     List listByName() const;
 
 private:
-    struct EntryIndex {
-        std::size_t index = noEntry;
-    };
-    using NameIndex = internal::TextMap<EntryIndex>;
-
     void storeFirst(NameIndex::Entry& firstName, const Names& names, const OptionData& data);
     bool areGroup(std::size_t first, const Names& names) const;
     void separate(Group& group);
-    Entry& entryInGroup(Group*& group, const internal::HashedText& name);
+    void storeDefault(Group*& group, const internal::HashedText& name, Default&& byDefault);
     Entry& ownEntry(NameIndex::Entry& name);
     void append(Group& group, const OptionData& data);
-    Group& addGroup() { return m_groups.emplace_back(m_memory, m_entries.size()); }
-    Entry& add(NameIndex::Entry& name, Group& group, const Default& byDefault);
+    template <class... Parts>
+    Group& addGroup(Parts&&... parts);
+    template <class OwnDefault>
+    Entry& add(NameIndex::Entry& name, Group& group, OwnDefault&& byDefault);
 
     internal::Arena& m_memory;
     List m_entries;
-    std::deque<Group, internal::ArenaAllocator<Group>> m_groups;
+    Group* m_lastGroup = nullptr;
     /// Has every name of an entry, and may have names without one, since memory ran out.
     NameIndex m_names;
 };

@@ -23,7 +23,7 @@ protected:
         std::string line;
         const Entries::Group* before = nullptr;
         for (const Entries::Entry& entry : list) {
-            line.append(entry.name.text);
+            line.append(entry.name().text);
             line += &entry.group() == before ? "+" : "";
             before = &entry.group();
         }
@@ -180,7 +180,7 @@ TEST_F(StoredEntries, AreWholeOrNowhereWhenMemoryRunsOut) {
         ASSERT_GE(few.list().size(), 2 * stored);
         ASSERT_LE(few.list().size(), 2 * stored + 1);
         for (const Entries::Entry& entry : few.list()) {
-            ASSERT_EQ(few.find(entry.name.text), &entry);
+            ASSERT_EQ(few.find(entry.name().text), &entry);
             ASSERT_EQ(entry.group().positions.size(), 1U);
             ASSERT_EQ(entry.group().values.size(), 1U);
         }

@@ -52,6 +52,6 @@ std::string describe(const Entry& entry, const RelativePositions& relative) {
     const auto& own = entry.byDefault;
     const char* const text =
         own.text.type() == tarv_3_3::vtString ? own.text.template get<const char*>() : "";
-    return describeGiven(entry.name.text, entry.group(), relative) +
+    return describeGiven(entry.name().text, entry.group(), relative) +
            describeDefault(text, own.value, own.position, relative);
 }
