@@ -9,6 +9,7 @@
 
 #include "platform/Arena.h"
 #include "result/Entries.h"
+#include "result/Iteration.h"
 #include "tarv_3_3/IParseResult.h"
 #include "tarv_3_3/export.h"
 #include "tarv_3_3/internal/Garbage.h"
@@ -18,11 +19,7 @@
 namespace tarv_3_3 {
 
 /// The one concrete result. Parses put options, defaults and plain arguments into it; nothing is
-/// ever removed. Hosts query it through `IParseResult`.
-///
-/// The cursors of an iteration are places in lists that a further parse may lengthen, so a host may
-/// go on iterating after one. A parse may also replace a list by a shorter one, where two options share
-/// a name: a cursor may lie behind its end.
+/// ever removed. Hosts query it through `IParseResult`; a host may go on iterating after a further parse.
 class TARV_API ParseResult : public IParseResult, public IResultCollector {
 public:
     ParseResult();
@@ -64,29 +61,12 @@ public:
     int getNextArgument(std::string& text);
 
 private:
-    TARV_HIDDEN int startIteration(std::string_view name, char** text, variant_t& value, int lo, int hi,
-                                   int& position);
-    TARV_HIDDEN int findFirst(std::string_view name, char** text, variant_t& value, int lo, int hi,
-                              int& position);
-    TARV_HIDDEN int continueIteration(char** text, variant_t& value, int& position);
-    const Entries::Entry& current() const { return m_entries[m_current]; }
-    TARV_HIDDEN void yieldDefault(const Entries::Default& found, char** text, variant_t& value,
-                                  int& position);
-    TARV_HIDDEN int nextValue(const Entries::Group& group, char** text, variant_t& value, int& position);
-    TARV_HIDDEN int nextOccurrence(const Entries::Group& group, int& position);
-    TARV_HIDDEN static bool isDefaulted(const Entries::Entry& entry);
-    TARV_HIDDEN char* keep(const char* text);
+    TARV_HIDDEN Value first(std::string_view name, int lo, int hi);
 
     /// Holds the entries and their lists, which only go with the result.
     internal::ArenaWithRoom<6144> m_memory;
     Entries m_entries;
-    /// Places in the lists of the current entry.
-    std::size_t m_valuesCursor = 0;
-    std::size_t m_positionsCursor = 0;
-    int m_lowerBound = 0;
-    int m_upperBound = noPosition;
-    /// The place of the current entry; `nowhere` when the last query found nothing.
-    std::size_t m_current = Entries::noEntry;
+    Iteration m_iteration;
     Garbage m_garbage;
     /// What stood behind "--", with its position indices.
     std::vector<std::pair<std::string, int>> m_freeArguments;
