@@ -8,6 +8,7 @@
 #include "platform/logLine.h"
 #include "recognition/AbbreviationParser.h"
 #include "recognition/ArgumentSpan.h"
+#include "recognition/Binding.h"
 #include "recognition/PositionalOptionsParser.h"
 #include "result/ParseResult.h"
 
@@ -91,8 +92,9 @@ int BasicParser::parse_phase_one(const std::string& endMarker, std::vector<std::
     }
     const RegisteredOptionStorage::Pin pin(m_registry);
     const auto flags = static_cast<unsigned int>(m_flags);
-    PositionalOptionsParser positional(this, &m_garbage, flags, listeners());
-    AbbreviationParser abbreviation(this, &m_garbage, flags, listeners());
+    Binding binding(listeners());
+    PositionalOptionsParser positional(this, &m_garbage, flags, binding);
+    AbbreviationParser abbreviation(this, &m_garbage, flags, binding);
     IResultCollector* const collector = static_cast<ParseResult*>(result);
     const std::vector<OptionDescription>& options = m_registry.m_options;
     ConsumedArguments consumed(arguments);
@@ -160,8 +162,9 @@ int BasicParser::parseAsPositional(const std::string& argument, ParseResult* res
         result->noteParser(m_number);
     }
     const RegisteredOptionStorage::Pin pin(m_registry);
+    Binding binding(listeners());
     PositionalOptionsParser recognizer(
-        this, &m_garbage, static_cast<unsigned int>(m_flags & ~flagDashIsNotPositional), listeners());
+        this, &m_garbage, static_cast<unsigned int>(m_flags & ~flagDashIsNotPositional), binding);
     const bool isTaken = recognizer.takes(argument, m_registry.m_options);
     internal::writeLogLine("collectNonparsingArguments: recognize result: ", isTaken ? 0 : 1,
                            ", message: ", error);

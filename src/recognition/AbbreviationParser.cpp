@@ -16,6 +16,8 @@ namespace messages = internal::messages;
 
 namespace {
 
+constexpr const char* parserName = "AbbreviationParser";
+
 std::string quotedNames(const std::vector<std::string>& names) {
     std::string list;
     for (const std::string& name : names) {
@@ -30,13 +32,13 @@ std::string quotedNames(const std::vector<std::string>& names) {
 } // namespace
 
 AbbreviationParser::AbbreviationParser(EventHandler* handler, Garbage* garbage, unsigned int flags)
-    : AbbreviationParser(handler, garbage, flags, Listeners::some) {}
+    : IArgumentParser(handler, garbage, flags) {
+    m_name = parserName;
+}
 
 AbbreviationParser::AbbreviationParser(EventHandler* handler, Garbage* garbage, unsigned int flags,
-                                       Listeners listeners)
-    : IArgumentParser(handler, garbage, flags, listeners) {
-    m_name = "AbbreviationParser";
-}
+                                       Binding& binding)
+    : IArgumentParser(handler, garbage, flags, parserName, binding) {}
 
 AbbreviationParser::~AbbreviationParser() = default;
 
@@ -58,7 +60,7 @@ NameOutcome AbbreviationParser::look(const std::string& argument,
                                      const std::vector<OptionDescription>& options,
                                      RegisteredOptionStorage* registry, std::string& err) {
     log(": recognizing argument '", argument, "'");
-    if (m_listeners != Listeners::none) {
+    if (m_hasListeners) {
         m_matcher.followLocale();
     }
     m_matcher.look(argument, options, registry);

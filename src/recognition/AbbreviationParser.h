@@ -32,7 +32,7 @@ public:
 
     AbbreviationParser(EventHandler* handler, Garbage* garbage, unsigned int flags);
     TARV_HIDDEN AbbreviationParser(EventHandler* handler, Garbage* garbage, unsigned int flags,
-                                   Listeners listeners);
+                                   Binding& binding);
     ~AbbreviationParser() override;
 
     /// Takes an argument that begins with a dash and names a declared option, or several equally

@@ -6,6 +6,7 @@
 #endif
 
 #include "options/OptionDescription.h"
+#include "recognition/Binding.h"
 #include "recognition/messages.h"
 #include "tarv_3_3/EventHandler.h"
 #include "tarv_3_3/internal/IResultCollector.h"
@@ -30,11 +31,13 @@ bool mayHaveThreads() {
 } // namespace
 
 IArgumentParser::IArgumentParser(EventHandler* handler, Garbage* garbage, unsigned int flags)
-    : IArgumentParser(handler, garbage, flags, Listeners::some) {}
+    : m_handler(handler), m_name("UndefinedParser"), m_garbage(garbage), m_flags(flags), m_hasListeners(true),
+      m_ownBinding(std::make_unique<Binding>(Listeners::some)), m_binding(*m_ownBinding) {}
 
 IArgumentParser::IArgumentParser(EventHandler* handler, Garbage* garbage, unsigned int flags,
-                                 Listeners listeners)
-    : m_handler(handler), m_garbage(garbage), m_flags(flags), m_listeners(listeners) {}
+                                 const char* name, Binding& binding)
+    : m_handler(handler), m_name(name), m_garbage(garbage), m_flags(flags),
+      m_hasListeners(binding.hasListeners()), m_binding(binding) {}
 
 IArgumentParser::~IArgumentParser() = default;
 
@@ -56,29 +59,29 @@ int IArgumentParser::getNewPositionIndex() {
 const OptionDescription& IArgumentParser::recordToBind(const std::vector<OptionDescription>& options,
                                                        std::size_t index) {
     const OptionDescription& record = options.at(index);
-    const bool mayBeRefined = m_listeners != Listeners::none && &record == &options.back();
+    const bool mayBeRefined = m_hasListeners && &record == &options.back();
     if (!mayBeRefined) {
         return record;
     }
-    m_copy = std::make_unique<OptionDescription>(record);
-    return *m_copy;
+    m_binding.record = std::make_unique<OptionDescription>(record);
+    return *m_binding.record;
 }
 
 int IArgumentParser::parseValueAndAddOption(std::string& value, std::string& err,
                                             const OptionDescription& option, std::vector<std::string>& args,
                                             IResultCollector* collector) {
     const int status = bindValue(value, option, args[0], collector, err);
-    if (option.m_tokenizer == 0 && !m_occurrence.values.empty()) {
-        value = textOf(m_occurrence.values.front());
+    if (option.m_tokenizer == 0 && !m_binding.occurrence.values.empty()) {
+        value = textOf(m_binding.occurrence.values.front());
     }
     return status;
 }
 
 int IArgumentParser::bindValue(std::string_view value, const OptionDescription& option,
                                const std::string& argument, IResultCollector* collector, std::string& err) {
-    m_occurrence.positions.clear();
-    m_occurrence.positions.push_back(getNewPositionIndex());
-    m_occurrence.values.clear();
+    m_binding.occurrence.positions.clear();
+    m_binding.occurrence.positions.push_back(getNewPositionIndex());
+    m_binding.occurrence.values.clear();
     if (!value.empty()) {
         log(": adding values to result container:");
         const int status = option.m_tokenizer == 0 ? bindSingleValue(value, option, argument, err)
@@ -88,7 +91,7 @@ int IArgumentParser::bindValue(std::string_view value, const OptionDescription& 
         }
     }
     if (collector != nullptr) {
-        collector->store(option, m_occurrence);
+        collector->store(option, m_binding.occurrence);
     }
     log(": stored option to result container.");
     return parseOk;
@@ -98,14 +101,15 @@ int IArgumentParser::bindSingleValue(std::string_view value, const OptionDescrip
                                      const std::string& argument, std::string& err) {
     log(": not using tokenizer");
     const int status = bindText(value.data(), option, argument, err);
-    return status == parseVetoed ? failVetoed(textOf(m_occurrence.values.front()), option, argument, err)
-                                 : status;
+    return status == parseVetoed
+               ? failVetoed(textOf(m_binding.occurrence.values.front()), option, argument, err)
+               : status;
 }
 
 // Room for one more value, and, where it has to be made, for all that the pieces of `rest` will need: a long
 // list that grew bit by bit would take up to three times as much.
 void IArgumentParser::makeRoomForValues(std::string_view rest, char separator) {
-    std::vector<OptionValue>& values = m_occurrence.values;
+    std::vector<OptionValue>& values = m_binding.occurrence.values;
     if (values.size() < values.capacity()) {
         return;
     }
@@ -134,12 +138,12 @@ int IArgumentParser::bindList(std::string_view value, const OptionDescription& o
         makeRoomForValues(value.substr(start), separator);
         const bool isLast = end == value.size();
         const int status =
-            bindText(isLast ? piece.data() : m_piece.assign(piece).c_str(), option, argument, err);
+            bindText(isLast ? piece.data() : m_binding.piece.assign(piece).c_str(), option, argument, err);
         if (status != parseOk) {
             return status == parseVetoed ? failVetoed(std::string(value), option, argument, err) : status;
         }
         log(": sent event on value parsed, option: '", option.primaryName(), "', value: '",
-            textOf(m_occurrence.values.back()), "'");
+            textOf(m_binding.occurrence.values.back()), "'");
         start = value.find_first_not_of(separator, end);
     }
     return parseOk;
@@ -148,7 +152,7 @@ int IArgumentParser::bindList(std::string_view value, const OptionDescription& o
 // Appends one value to the occurrence.
 int IArgumentParser::bindText(const char* text, const OptionDescription& option, const std::string& argument,
                               std::string& err) {
-    OptionValue& bound = m_occurrence.values.emplace_back();
+    OptionValue& bound = m_binding.occurrence.values.emplace_back();
     if (option.takesAnyText()) {
         bound.value = variant_t(text);
     } else {
@@ -164,7 +168,7 @@ int IArgumentParser::bindText(const char* text, const OptionDescription& option,
 }
 
 bool IArgumentParser::isAccepted(const OptionValue& bound, const OptionDescription& option) {
-    if (m_listeners == Listeners::none) {
+    if (!m_hasListeners) {
         return true;
     }
     const Value shown(textOf(bound), bound.value, bound.position);

@@ -7,7 +7,6 @@
 
 #include "platform/logLine.h"
 #include "tarv_3_3/export.h"
-#include "tarv_3_3/internal/OptionData.h"
 
 namespace tarv_3_3 {
 
@@ -15,14 +14,8 @@ class EventHandler;
 class Garbage;
 class IResultCollector;
 class OptionDescription;
-
-/// Who is told of events while a recognizer is in use.
-enum class Listeners {
-    /// Nobody: what is declared, and the global locale, stay as they are in the middle of an argument.
-    none,
-    /// Somebody, who may do anything meanwhile.
-    some
-};
+struct Binding;
+struct OptionValue;
 
 /// A recognizer of arguments. The parse driver shows the argument at the front to every recognizer;
 /// of those that take it, the one with the highest priority parses it.
@@ -32,10 +25,10 @@ class TARV_API IArgumentParser {
 public:
     ///@{
     /// `handler` and `garbage` belong to the parser and outlive the recognizer; `flags` are the
-    /// parser's. Without `listeners` there are some.
+    /// parser's. So does `binding`; a recognizer without one has its own, and takes it that somebody listens.
     IArgumentParser(EventHandler* handler, Garbage* garbage, unsigned int flags);
-    TARV_HIDDEN IArgumentParser(EventHandler* handler, Garbage* garbage, unsigned int flags,
-                                Listeners listeners);
+    TARV_HIDDEN IArgumentParser(EventHandler* handler, Garbage* garbage, unsigned int flags, const char* name,
+                                Binding& binding);
     ///@}
     IArgumentParser(const IArgumentParser&) = delete;
     IArgumentParser& operator=(const IArgumentParser&) = delete;
@@ -92,10 +85,11 @@ protected:
     }
 
     EventHandler* m_handler;
-    std::string m_name = "UndefinedParser";
+    std::string m_name;
     Garbage* m_garbage;
     unsigned int m_flags;
-    Listeners m_listeners;
+    /// Whether somebody is told of events.
+    bool m_hasListeners;
 
 private:
     TARV_HIDDEN int bindSingleValue(std::string_view value, const OptionDescription& option,
@@ -109,12 +103,8 @@ private:
     TARV_HIDDEN int failVetoed(const std::string& value, const OptionDescription& option,
                                const std::string& argument, std::string& err);
 
-    std::unique_ptr<OptionDescription> m_copy;
-    /// The one being bound. It keeps its memory for the next one. A parse that a handler starts
-    /// meanwhile has recognizers of its own, so it does not get in the way.
-    OptionData m_occurrence;
-    /// A piece of a list, where it needs a zero behind it.
-    std::string m_piece;
+    std::unique_ptr<Binding> m_ownBinding;
+    Binding& m_binding;
 };
 
 } // namespace tarv_3_3

@@ -7,6 +7,12 @@
 
 namespace tarv_3_3 {
 
+namespace {
+
+constexpr const char* parserName = "PositionalOptionsParser";
+
+} // namespace
+
 std::size_t positionalPlace(const std::vector<OptionDescription>& options, std::size_t from) {
     while (from < options.size() && !options[from].m_positional) {
         ++from;
@@ -19,13 +25,13 @@ bool isPositionalForm(std::string_view argument, unsigned int flags) {
 }
 
 PositionalOptionsParser::PositionalOptionsParser(EventHandler* handler, Garbage* garbage, unsigned int flags)
-    : PositionalOptionsParser(handler, garbage, flags, Listeners::some) {}
+    : IArgumentParser(handler, garbage, flags) {
+    m_name = parserName;
+}
 
 PositionalOptionsParser::PositionalOptionsParser(EventHandler* handler, Garbage* garbage, unsigned int flags,
-                                                 Listeners listeners)
-    : IArgumentParser(handler, garbage, flags, listeners) {
-    m_name = "PositionalOptionsParser";
-}
+                                                 Binding& binding)
+    : IArgumentParser(handler, garbage, flags, parserName, binding) {}
 
 PositionalOptionsParser::~PositionalOptionsParser() = default;
 

@@ -17,7 +17,7 @@ class TARV_API PositionalOptionsParser : public IArgumentParser {
 public:
     PositionalOptionsParser(EventHandler* handler, Garbage* garbage, unsigned int flags);
     TARV_HIDDEN PositionalOptionsParser(EventHandler* handler, Garbage* garbage, unsigned int flags,
-                                        Listeners listeners);
+                                        Binding& binding);
     ~PositionalOptionsParser() override;
 
     /// Takes every argument when some option is positional; under `flagDashIsNotPositional` not one
