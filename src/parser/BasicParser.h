@@ -7,7 +7,6 @@
 #include <vector>
 
 #include "options/RegisteredOptionStorage.h"
-#include "result/Entries.h"
 #include "tarv_3_3/IParser.h"
 #include "tarv_3_3/export.h"
 #include "tarv_3_3/internal/Garbage.h"
@@ -122,10 +121,6 @@ private:
                                     IParseResult* result);
     TARV_HIDDEN int dropUnknown(const std::string& argument, std::string& error, std::size_t& consumed);
     TARV_HIDDEN int parseAsPositional(const std::string& argument, ParseResult* result, std::string& error);
-    TARV_HIDDEN int checkDeclared(const Entries::List& entries);
-    TARV_HIDDEN int checkActions(const Entries::List& entries, std::string& error);
-    TARV_HIDDEN int checkModifiers(const OptionDescription& action, const Entries::List& entries,
-                                   std::string& error);
     TARV_HIDDEN int readOptionFiles(const std::string& endMarker, IParseResult* result);
     TARV_HIDDEN const char* describeUnknown(const char* name, bool hidden);
 

@@ -5,6 +5,7 @@
 #include "parser/BasicParser.h"
 #include "parser/commandLine.h"
 #include "parser/messages.h"
+#include "parser/phaseTwo.h"
 #include "platform/logLine.h"
 #include "recognition/AbbreviationParser.h"
 #include "recognition/ArgumentSpan.h"
@@ -25,10 +26,6 @@ void switchLog(std::vector<std::string>& arguments) {
     if (isOn) {
         arguments.erase(arguments.begin());
     }
-}
-
-bool isAction(const OptionDescription& option) {
-    return option.m_kind == Action;
 }
 
 } // namespace
@@ -184,75 +181,9 @@ int BasicParser::parse_phase_two(const std::string& /*endMarker*/, std::vector<s
         return parseOk;
     }
     const auto& stored = static_cast<const ParseResult&>(*result);
-    const bool hasActions = m_registry.m_hasActions;
-    if (!hasActions && stored.isOnlyFrom(m_number)) {
-        return parseOk;
-    }
-    // The order decides what is said of actions, and nothing else.
-    return hasActions ? checkActions(stored.entries().listByName(), error)
-                      : checkDeclared(stored.entries().list());
-}
-
-int BasicParser::checkDeclared(const Entries::List& entries) {
-    for (const Entries::Entry& entry : entries) {
-        unsigned long index = 0;
-        const int status = m_registry.find(entry.name(), index);
-        if (status != 0) {
-            return status;
-        }
-    }
-    return parseOk;
-}
-
-int BasicParser::checkActions(const Entries::List& entries, std::string& error) {
-    const std::vector<OptionDescription>& options = m_registry.m_options;
-    const OptionDescription* action = nullptr;
-    bool optionStored = false;
-    for (const Entries::Entry& entry : entries) {
-        unsigned long index = 0;
-        const int status = m_registry.find(entry.name(), index);
-        if (status != 0) {
-            return status;
-        }
-        const OptionDescription& option = options[index];
-        if (!isAction(option)) {
-            optionStored = true;
-        } else if (action == nullptr) {
-            action = &option;
-        } else if (action != &option) {
-            error = messages::twoActions(option.primaryName(), action->primaryName());
-            setLastError(error);
-            return parseFailed;
-        }
-    }
-    if (action != nullptr) {
-        return checkModifiers(*action, entries, error);
-    }
-    if (optionStored) {
-        error = messages::noActionDefined;
-        return parseFailed;
-    }
-    return parseOk;
-}
-
-int BasicParser::checkModifiers(const OptionDescription& action, const Entries::List& entries,
-                                std::string& error) {
-    const std::vector<OptionDescription>& options = m_registry.m_options;
-    for (const Entries::Entry& entry : entries) {
-        unsigned long index = 0;
-        const int status = m_registry.find(entry.name(), index);
-        if (status != 0) {
-            return status;
-        }
-        const OptionDescription& option = options[index];
-        const bool isTagged = !isAction(option) && !option.m_tags.empty();
-        const bool isGiven = !entry.group().positions.empty();
-        if (isTagged && isGiven && !isIntersected(action.m_tags, option.m_tags)) {
-            error = messages::optionNotAccepted(action.primaryName(), option.primaryName());
-            return parseFailed;
-        }
-    }
-    return parseOk;
+    // What this parser alone has stored is declared here.
+    const bool hasNothingToCheck = !m_registry.m_hasActions && stored.isOnlyFrom(m_number);
+    return hasNothingToCheck ? static_cast<int>(parseOk) : checkStoredOptions(*this, stored, error);
 }
 
 bool BasicParser::isIntersected(const std::set<std::string>& a, const std::set<std::string>& b) const {

@@ -152,10 +152,14 @@ void Entries::append(Group& group, const OptionData& data) {
     }
 }
 
-Entries::List Entries::listByName() const {
-    List ordered(m_entries);
-    std::sort(ordered.begin(), ordered.end(), [](const Entry& left, const Entry& right) {
-        return NameOrder()(left.name().text, right.name().text);
+std::vector<const Entries::Entry*> Entries::listByName() const {
+    std::vector<const Entry*> ordered;
+    ordered.reserve(m_entries.size());
+    for (const Entry& entry : m_entries) {
+        ordered.push_back(&entry);
+    }
+    std::sort(ordered.begin(), ordered.end(), [](const Entry* left, const Entry* right) {
+        return NameOrder()(left->name().text, right->name().text);
     });
     return ordered;
 }

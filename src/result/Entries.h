@@ -112,7 +112,7 @@ public:
     /// All entries in the order in which the names came.
     const List& list() const { return m_entries; }
     /// The same, ordered by the bytes of the names.
-    List listByName() const;
+    std::vector<const Entry*> listByName() const;
 
 private:
     void storeFirst(NameIndex::Entry& firstName, const Names& names, const OptionData& data);

@@ -79,8 +79,8 @@ struct DeclaringItself : testing::TestWithParam<DeclaringParser::When> {
 
     std::string stored() const {
         std::string line;
-        for (const Entries::Entry& entry : result.entries().listByName()) {
-            line += (line.empty() ? "" : " ") + describe(entry, positions);
+        for (const Entries::Entry* const entry : result.entries().listByName()) {
+            line += (line.empty() ? "" : " ") + describe(*entry, positions);
         }
         return line;
     }

@@ -52,7 +52,11 @@ TEST_F(StoredEntries, HaveTheirPlacesInTheOrderInWhichTheyCame) {
     EXPECT_EQ(entries.indexOf("c"), 3U);
     EXPECT_EQ(entries.indexOf("d"), Entries::noEntry);
     EXPECT_EQ(inOrder(), "zbac");
-    EXPECT_EQ(describe(entries.listByName()), "abcz");
+    std::string byName;
+    for (const Entries::Entry* const entry : entries.listByName()) {
+        byName.append(entry->name().text);
+    }
+    EXPECT_EQ(byName, "abcz");
 }
 
 TEST_F(StoredEntries, AreFoundByPlaceAndByName) {

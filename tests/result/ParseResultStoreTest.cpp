@@ -13,8 +13,8 @@ namespace {
 
 std::string entriesOf(const ParseResult& result, const RelativePositions& positions) {
     std::string line;
-    for (const Entries::Entry& entry : result.entries().listByName()) {
-        line += (line.empty() ? "" : " ") + ::describe(entry, positions);
+    for (const Entries::Entry* const entry : result.entries().listByName()) {
+        line += (line.empty() ? "" : " ") + ::describe(*entry, positions);
     }
     return line;
 }

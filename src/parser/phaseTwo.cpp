@@ -1,0 +1,66 @@
+#include "parser/phaseTwo.h"
+
+#include <vector>
+
+#include "parser/BasicParser.h"
+#include "parser/messages.h"
+#include "result/ParseResult.h"
+
+namespace tarv_3_3 {
+
+namespace messages = internal::messages;
+
+namespace {
+
+struct StoredOption {
+    const OptionDescription* option;
+    bool isGiven;
+};
+
+int checkTags(const BasicParser& parser, const OptionDescription& action,
+              const std::vector<StoredOption>& others, std::string& error) {
+    for (const StoredOption& other : others) {
+        const auto& tags = other.option->m_tags;
+        if (other.isGiven && !tags.empty() && !parser.isIntersected(action.m_tags, tags)) {
+            error = messages::optionNotAccepted(action.primaryName(), other.option->primaryName());
+            return parseFailed;
+        }
+    }
+    return parseOk;
+}
+
+} // namespace
+
+// In the order of the names, which decides which of two actions a message names first.
+int checkStoredOptions(BasicParser& parser, const ParseResult& result, std::string& error) {
+    RegisteredOptionStorage& registry = parser.registry();
+    const OptionDescription* action = nullptr;
+    std::vector<StoredOption> others;
+    for (const Entries::Entry* const entry : result.entries().listByName()) {
+        unsigned long index = 0;
+        const int status = registry.find(entry->name(), index);
+        if (status != 0) {
+            return status;
+        }
+        const OptionDescription& option = registry.m_options[index];
+        if (option.m_kind != Action) {
+            others.push_back({&option, !entry->group().positions.empty()});
+        } else if (action == nullptr) {
+            action = &option;
+        } else if (action != &option) {
+            error = messages::twoActions(option.primaryName(), action->primaryName());
+            parser.setLastError(error);
+            return parseFailed;
+        }
+    }
+    if (action != nullptr) {
+        return checkTags(parser, *action, others, error);
+    }
+    if (registry.m_hasActions && !others.empty()) {
+        error = messages::noActionDefined;
+        return parseFailed;
+    }
+    return parseOk;
+}
+
+} // namespace tarv_3_3
