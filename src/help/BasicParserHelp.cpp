@@ -157,7 +157,8 @@ const char* BasicParser::getDescription(const char* topic, bool hidden) {
     if (m_registry.find(topic, index) != 0) {
         return describeUnknown(topic, hidden);
     }
-    return getDescription(m_registry.m_topics, {m_registry.m_options[index]}, hidden);
+    const std::vector<OptionDescription> described(1, m_registry.m_options[index]);
+    return getDescription(m_registry.m_topics, described, hidden);
 }
 
 const char* BasicParser::getActionModifiersDescription(const char* action, bool hidden) {

@@ -8,6 +8,7 @@
 #include <new>
 #include <sstream>
 #include <string_view>
+#include <type_traits>
 
 #include "tarv_3_3/internal/Garbage.h"
 
@@ -43,18 +44,13 @@ bool extractWholeText(const char* text, T& value) {
     return !succeeded(stream);
 }
 
-bool isPlain(std::int32_t) {
-    return true;
-}
-bool isPlain(std::uint32_t) {
-    return true;
-}
-bool isPlain(std::int64_t) {
-    return true;
-}
 // Unlike a stream, from_chars reads the words "inf" and "nan".
-bool isPlain(double value) {
-    return std::isfinite(value);
+template <class T>
+bool isPlain(T value) {
+    if constexpr (std::is_floating_point_v<T>) {
+        return std::isfinite(value);
+    }
+    return true;
 }
 
 constexpr std::string_view hexadecimalDigits = "1234567890ABCDEFabcdef";

@@ -56,6 +56,10 @@ public:
                          std::size_t& consumed);
     ///@}
 
+    ///@{
+    /// The steps of matching, one by one, for tools and tests; a parse takes them all at once, see
+    /// `NameMatcher`.
+
     /// Appends every candidate name, in the order of the table.
     void makeOptionNamesList(std::vector<OptionDescription>& options, std::vector<DecomposedName>& names);
 
@@ -67,6 +71,7 @@ public:
     /// Keeps the best matches for `parse`. Returns 0 with the one best candidate in `best`, 1 when
     /// there is none, 2 when there are several, with a message in `err`.
     int findBest(const std::vector<NameMatch>& matches, DecomposedName& best, std::string& err);
+    ///@}
 
 private:
     TARV_HIDDEN NameOutcome look(const std::string& argument, const std::vector<OptionDescription>& options,
