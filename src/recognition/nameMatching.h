@@ -38,7 +38,7 @@ void forEachCandidate(const OptionDescription& option, Look look) {
 
 NameScore scoreName(std::string_view typed, std::string_view name);
 
-/// The same for a candidate. Where the number of words differs, the score of a negated one is 0.
+/// The same for a candidate. Of a negated one the score counts only where the number of words is the same.
 NameScore scoreCandidate(std::string_view typed, const NameCandidate& candidate);
 
 /// Whether the first word of a typed name may stand for the "no" of a negated candidate.

@@ -139,6 +139,53 @@ TEST(ToString, GoesByTheKindOfTheOptionNotOfTheValue) {
     EXPECT_EQ(assertions.expressions(), "m_type == vtInt64");
 }
 
+TEST(DefaultText, IsTheDefaultAsText) {
+    const struct {
+        das_variant_type_t type;
+        variant_t value;
+        variant_t text;
+    } rows[] = {
+        {vtBool, true, "1"},        {vtInt32, -5, "-5"}, {vtDouble, 1.5, "1.5"},
+        {vtString, "a", "a"},       {vtString, "", ""},  {vtNull, variant_t(), variant_t()},
+        {vtNull, "a", variant_t()},
+    };
+    for (const auto& row : rows) {
+        OptionOfType of(row.type);
+        of.option.defaultValue(row.value);
+        EXPECT_EQ(of.option.defaultText(), row.text);
+        EXPECT_EQ(of.option.defaultText(), row.text);
+    }
+}
+
+TEST(DefaultText, FollowsTheDefault) {
+    OptionOfType of(vtInt32);
+    of.option.defaultValue(5);
+    EXPECT_EQ(of.option.defaultText(), variant_t("5"));
+    of.option.defaultValue(6);
+    EXPECT_EQ(of.option.defaultText(), variant_t("6"));
+}
+
+TEST(DefaultText, IsRenderedOnce) {
+    OptionOfType of(vtInt32);
+    of.option.defaultValue(5);
+    const char* const text = of.option.defaultText().get<const char*>();
+    EXPECT_EQ(of.option.defaultText().get<const char*>(), text);
+    OptionOfType ofText(vtString);
+    ofText.option.defaultValue("a");
+    EXPECT_EQ(ofText.option.defaultText().get<const char*>(), ofText.option.m_default.get<const char*>());
+}
+
+// A default of another kind is asserted every time.
+TEST(DefaultText, GoesByTheKindOfTheOptionNotOfTheDefault) {
+    OptionOfType of(vtInt32);
+    of.option.defaultValue("5");
+    const CapturedAssertions assertions;
+    EXPECT_EQ(of.option.defaultText(), variant_t("0"));
+    EXPECT_EQ(assertions.expressions(), "m_type == vtInt32");
+    EXPECT_EQ(of.option.defaultText(), variant_t("0"));
+    EXPECT_EQ(assertions.expressions(), "m_type == vtInt32; m_type == vtInt32");
+}
+
 TEST(GetTypeName, NamesEveryKind) {
     const struct {
         das_variant_type_t type;

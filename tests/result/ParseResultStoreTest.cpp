@@ -237,6 +237,27 @@ TEST_F(ParseResultStore, RecordsDefaultsBesideOccurrencesUnderEveryName) {
     EXPECT_EQ(entries(), "l@1@5=\"5\"@2 default=\"7\"@4 level@1@5=\"5\"@2 default=\"7\"@3");
 }
 
+TEST_F(ParseResultStore, KnowsWhetherOneParserAloneHasStored) {
+    EXPECT_FALSE(result.isOnlyFrom(5));
+    result.noteParser(5);
+    EXPECT_TRUE(result.isOnlyFrom(5));
+    EXPECT_FALSE(result.isOnlyFrom(6));
+    result.store(optionNamed({"a"}), nextOccurrence());
+    result.noteParser(5);
+    EXPECT_TRUE(result.isOnlyFrom(5));
+    result.noteParser(6);
+    EXPECT_FALSE(result.isOnlyFrom(5));
+    EXPECT_FALSE(result.isOnlyFrom(6));
+    result.noteParser(5);
+    EXPECT_FALSE(result.isOnlyFrom(5));
+}
+
+TEST_F(ParseResultStore, IsOfNoParserWhenSomebodyElseStoredFirst) {
+    result.store(optionNamed({"a"}), nextOccurrence());
+    result.noteParser(5);
+    EXPECT_FALSE(result.isOnlyFrom(5));
+}
+
 // A host can only make such a kind with a cast; it has no text.
 TEST_F(ParseResultStore, RecordsAnEmptyDefaultForAKindThatDoesNotExist) {
     std::vector<OptionDescription> options = {
