@@ -3,6 +3,7 @@
     shellsTest.py SAMPLE bash|bash-completion|zsh|fish
 """
 
+import glob
 import os
 import re
 import shutil
@@ -27,6 +28,10 @@ INSTALLED = {
     "zsh": "site-functions/_sample",
     "fish": ".local/share/fish/vendor_completions.d/sample.fish",
 }
+
+# Where fish keeps what it makes of all man pages. Unless the folder is there, it starts with that, in the
+# background and for minutes.
+GENERATED = ".local/share/fish/generated_completions"
 
 LEFT, LINE_START, LINE_END, ERASE_LINE = "\x02", "\x01", "\x05", "\x15"
 # Gives the line up and runs another one.
@@ -151,8 +156,8 @@ class Session:
 
     def __init__(self, setup="", script=True, sample=None):
         self.home = os.path.realpath(tempfile.mkdtemp(prefix="tarv-shells-"))
-        for folder in ("bin", "docs", "my dir", "site-functions"):
-            os.mkdir(os.path.join(self.home, folder))
+        for folder in ("bin", "docs", "my dir", "site-functions", GENERATED):
+            os.makedirs(os.path.join(self.home, folder))
         for name in ("notes.txt", "my file", "odd:name,with=signs", "\u00e4rger", "docs/answer"):
             self.write(name, "")
         for name in ("report",) if sample else ("report", "sample"):
@@ -178,8 +183,22 @@ class Session:
         self.terminal = Terminal(SHELL, self.home, self._setup)
 
     def close(self):
+        TALLY.row("what runs besides the shell", self._companions())
         self.terminal.close()
         shutil.rmtree(self.home)
+
+    def _companions(self):
+        """The processes of this home directory that make completions of man pages, or None."""
+        found = []
+        for process in glob.glob("/proc/[0-9]*"):
+            try:
+                with open(process + "/environ", "rb") as environment, open(process + "/cmdline", "rb") as command:
+                    is_ours = f"HOME={self.home}\0".encode() in environment.read()
+                    if is_ours and b"create_manpage_completions" in (words := command.read()):
+                        found.append(words)
+            except OSError:
+                pass  # ended meanwhile, or somebody else's
+        return found or None
 
 
 def script_of_sample():
