@@ -48,10 +48,9 @@ ReadArgument Reader::lookAtPlain() const {
 
 ReadArgument Reader::lookAtName(const std::string& argument, const std::string* next) {
     const std::vector<OptionDescription>& options = m_parser.registry().m_options;
-    const NameOutcome outcome = m_matcher.look(argument, options, &m_parser.registry());
     ReadArgument read;
-    read.token = m_matcher.token();
-    if (outcome == NameOutcome::none) {
+    Match found = match(argument, read.token);
+    if (found.outcome == NameOutcome::none) {
         const bool isPositional = mayBePositional(argument);
         read.role = isPositional ? ArgumentRole::positional : ArgumentRole::unknown;
         read.place = isPositional ? m_filled : ReadArgument::nowhere;
@@ -59,20 +58,56 @@ ReadArgument Reader::lookAtName(const std::string& argument, const std::string* 
         return read;
     }
     const std::string_view typed = read.token.nameIn(argument);
-    if (!isOptionName(typed) || outcome == NameOutcome::ambiguous) {
+    if (!isOptionName(typed) || found.outcome == NameOutcome::ambiguous) {
         read.role = isOptionName(typed) ? ArgumentRole::ambiguous : ArgumentRole::misnamed;
         read.isRefused = true;
         return read;
     }
     read.role = ArgumentRole::named;
-    read.place = static_cast<std::size_t>(m_matcher.place());
-    read.name = m_matcher.bestNameIn(argument);
+    read.place = found.place;
+    read.name = std::move(found.name);
     const das_variant_type_t kind = options[read.place].m_type;
     read.isAbbreviated = typed != read.name;
     read.isNegated = kind == vtBool && beginsWithNegation(read.name);
     read.source = valueSource(kind, read.token.valueIn(argument), next);
     read.isRefused = isRefused(read.source);
     return read;
+}
+
+// An argument with the dashes and the name of one that was remembered is cut in the same way. What has
+// nothing behind its dashes is not remembered, since "-" is none where "-=x" fits many. A whole name need not
+// be: it is found without a walk.
+Reader::Match Reader::match(const std::string& argument, Token& token) {
+    token = splitToken(argument, m_classifier);
+    const auto known = m_remembered.find(argument.substr(0, token.nameEnd));
+    if (known != m_remembered.end()) {
+        return known->second;
+    }
+    const Match found = matchAnew(argument);
+    token = m_matcher.token();
+    const std::string_view typed = token.nameIn(argument);
+    if (!typed.empty() && typed != found.name) {
+        remember(argument, found);
+    }
+    return found;
+}
+
+Reader::Match Reader::matchAnew(const std::string& argument) {
+    Match found;
+    found.outcome = m_matcher.look(argument, m_parser.registry().m_options, &m_parser.registry());
+    if (found.outcome == NameOutcome::found) {
+        found.place = static_cast<std::size_t>(m_matcher.place());
+        found.name = m_matcher.bestNameIn(argument);
+    }
+    return found;
+}
+
+void Reader::remember(const std::string& argument, const Match& found) {
+    const std::size_t nameEnd = m_matcher.token().nameEnd;
+    const bool isShort = nameEnd <= longestRemembered && found.name.size() <= longestRemembered;
+    if (isShort && m_remembered.size() < mostRemembered) {
+        m_remembered.emplace(argument.substr(0, nameEnd), found);
+    }
 }
 
 bool Reader::mayBePositional(const std::string& argument) const {

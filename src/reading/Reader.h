@@ -2,9 +2,12 @@
 
 #include <cstddef>
 #include <string>
+#include <unordered_map>
 #include <vector>
 
+#include "platform/hashOf.h"
 #include "recognition/NameMatcher.h"
+#include "recognition/SpaceClassifier.h"
 #include "recognition/valueSource.h"
 
 namespace tarv_3_3 {
@@ -56,6 +59,9 @@ struct ReadArgument {
 /// Says of the arguments of one command line, one after the other, what they are. It asks what the parse
 /// asks, but past errors, and nobody notices: no events, no position indices, no trace, no option files.
 ///
+/// A name that is not whole is compared with every option, so a line may cost the product of both. What such
+/// a name gives is remembered: the first `mostRemembered` different ones, unless they are very long.
+///
 /// The parser outlives it, and gets no declarations meanwhile.
 class Reader {
 public:
@@ -67,9 +73,27 @@ public:
     /// Goes on behind an argument that was looked at.
     void pass(const ReadArgument& argument);
 
+    static constexpr std::size_t mostRemembered = 10000;
+    static constexpr std::size_t longestRemembered = 256;
+
 private:
+    /// What a typed name gives.
+    struct Match {
+        NameOutcome outcome = NameOutcome::none;
+        /// Where exactly one fits: its place, and the whole name.
+        std::size_t place = ReadArgument::nowhere;
+        std::string name;
+    };
+
+    struct Hash {
+        std::size_t operator()(const std::string& text) const { return internal::hashOf(text); }
+    };
+
     ReadArgument lookAtPlain() const;
     ReadArgument lookAtName(const std::string& argument, const std::string* next);
+    Match match(const std::string& argument, Token& token);
+    Match matchAnew(const std::string& argument);
+    void remember(const std::string& argument, const Match& found);
     bool mayBePositional(const std::string& argument) const;
 
     BasicParser& m_parser;
@@ -77,6 +101,9 @@ private:
     /// The place of the option that positional arguments fill; the size of the table when there is none.
     const std::size_t m_filled;
     NameMatcher m_matcher;
+    SpaceClassifier m_classifier;
+    /// By the name and the dashes in front of it.
+    std::unordered_map<std::string, Match, Hash> m_remembered;
     /// The option whose value comes next.
     std::size_t m_awaiting = ReadArgument::nowhere;
     bool m_isFirst = true;

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <ctime>
+
 #include "parser/BasicParser.h"
 
 namespace tarv_3_3 {
@@ -127,6 +129,92 @@ TEST(Reader, SaysWhereNameAndValueBegin) {
         EXPECT_EQ(token.valueStart, valueStart);
         EXPECT_EQ(token.hasValue, hasValue);
     }
+}
+
+// Each as if it were the only one on the line, however often its name comes, and with which value.
+TEST(Reader, ReadsANameThatComesAgainLikeTheFirst) {
+    BasicParser parser(0);
+    declare(parser);
+    parser.option("x", "", vtString, nullptr);
+    const std::string longest(Reader::longestRemembered - 2, 'y');
+    const std::string tooLong = longest + "y";
+    parser.option((longest + "z," + tooLong + "zz").c_str(), "", vtNull, nullptr);
+    const struct {
+        std::vector<std::string> arguments;
+        std::string expected;
+    } cases[] = {
+        {{"--lev=3", "--lev=4", "-lev=5", "--lev"},
+         "named 0 level, cut short, same argument; named 0 level, cut short, same argument; "
+         "named 0 level, cut short, same argument; named 0 level, cut short, missing, refused; "},
+        {{"--lev", "3", "--lev 4", "--lev", "-l"},
+         "named 0 level, cut short, next; value 0; named 0 level, cut short, same argument; "
+         "named 0 level, cut short, next looks like option, refused; named 0 l, missing, refused; "},
+        {{"--no-verb", "--no-verb=1", "--verb", "--no-verb"},
+         "named 1 no-verbose, cut short, negated, from name; "
+         "named 1 no-verbose, cut short, negated, unwanted by switch, refused; "
+         "named 1 verbose, cut short, from name; named 1 no-verbose, cut short, negated, from name; "},
+        {{"--ver", "--ver", "--ver=1", "--vers"},
+         "ambiguous, refused; ambiguous, refused; ambiguous, refused; named 2 version, cut short, no "
+         "value; "},
+        {{"--none", "none", "--none=1", "--none"}, "unknown; unknown; unknown; unknown; "},
+        {{"--level=1", "--level=2"}, "named 0 level, same argument; named 0 level, same argument; "},
+        {{"-=x", "-", "-=x", "-"}, "misnamed, refused; unknown; misnamed, refused; unknown; "},
+        {{"--" + longest, "--" + longest}, "ambiguous, refused; ambiguous, refused; "},
+        {{"--" + tooLong, "--" + tooLong + "=1"},
+         "named 5 " + tooLong + "zz, cut short, no value; named 5 " + tooLong +
+             "zz, cut short, unwanted, refused; "},
+    };
+    for (const auto& [arguments, expected] : cases) {
+        SCOPED_TRACE(testing::PrintToString(arguments));
+        EXPECT_EQ(describeAll(parser, arguments), expected);
+    }
+}
+
+// Without a name, the first is an abbreviation of all that there is, but the second has no name at all.
+TEST(Reader, TellsADashFromANameOfNoLetters) {
+    BasicParser parser(0);
+    parser.option("level", "", vtInt32, nullptr);
+    EXPECT_EQ(describeAll(parser, {"-=x", "-", "-=x"}), "misnamed, refused; unknown; misnamed, refused; ");
+}
+
+std::vector<std::string> abbreviatedNames(std::size_t count, std::size_t different) {
+    std::vector<std::string> names;
+    for (std::size_t i = 0; i < count; ++i) {
+        names.push_back("--option-numb-" + std::to_string(i % different));
+    }
+    return names;
+}
+
+TEST(Reader, ReadsMoreNamesThanItRemembers) {
+    BasicParser parser(0);
+    parser.option("option-number-19999", "", vtNull, nullptr);
+    const std::size_t different = 2 * Reader::mostRemembered;
+    const std::vector<ReadArgument> readings =
+        readArguments(parser, abbreviatedNames(2 * different, different));
+    ASSERT_EQ(readings.size(), 2 * different);
+    for (std::size_t i = 0; i < readings.size(); ++i) {
+        const bool isLast = i % different == different - 1 || i % different == 1999 || i % different == 199 ||
+                            i % different == 19 || i % different == 1;
+        ASSERT_EQ(describe(readings[i]),
+                  isLast ? "named 0 option-number-19999, cut short, no value" : "unknown")
+            << i;
+    }
+}
+
+double secondsToRead(BasicParser& parser, const std::vector<std::string>& arguments) {
+    const std::clock_t start = std::clock();
+    readArguments(parser, arguments);
+    return static_cast<double>(std::clock() - start) / CLOCKS_PER_SEC;
+}
+
+TEST(Reader, WalksOverTheTableOnceForANameThatRepeats) {
+    BasicParser parser(0);
+    for (int i = 0; i < 5000; ++i) {
+        parser.option(("option-number-" + std::to_string(i)).c_str(), "", vtNull, nullptr);
+    }
+    const double different = secondsToRead(parser, abbreviatedNames(2000, 2000));
+    const double repeated = secondsToRead(parser, abbreviatedNames(2000, 20));
+    EXPECT_LT(repeated, different / 10);
 }
 
 } // namespace
