@@ -29,6 +29,7 @@ cookbook/lists 2 lists: Unknown option: |
 cookbook/many_results 2 many_results: Unknown option: |
 cookbook/negative 0
 cookbook/option_files 0
+cookbook/own_values 2 own_values: Unknown option: |
 cookbook/own_wording 2 own_wording: what is ?|
 cookbook/required 2 required: Unknown option: |
 cookbook/rules 2 rules: Unknown option: |
