@@ -1,8 +1,10 @@
 #pragma once
 
+#include <functional>
 #include <initializer_list>
 #include <random>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "parser/BasicParser.h"
@@ -11,9 +13,13 @@
 /// ambiguous often. The same seed gives the same ones.
 class RandomCommandLine {
 public:
-    explicit RandomCommandLine(unsigned seed) : m_engine(seed) {}
+    explicit RandomCommandLine(unsigned seed)
+        : m_draw([engine = std::mt19937(seed)]() mutable { return static_cast<unsigned>(engine()); }) {}
 
-    unsigned below(unsigned limit) { return static_cast<unsigned>(m_engine() % limit); }
+    /// Decides by what `draw` returns.
+    explicit RandomCommandLine(std::function<unsigned()> draw) : m_draw(std::move(draw)) {}
+
+    unsigned below(unsigned limit) { return m_draw() % limit; }
     bool once(unsigned times) { return below(times) == 0; }
 
     std::string oneOf(std::initializer_list<const char*> texts) {
@@ -136,5 +142,5 @@ private:
         }
     }
 
-    std::mt19937 m_engine;
+    std::function<unsigned()> m_draw;
 };
