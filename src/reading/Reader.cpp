@@ -61,6 +61,9 @@ ReadArgument Reader::lookAtName(const std::string& argument, const std::string* 
     if (!isOptionName(typed) || found.outcome == NameOutcome::ambiguous) {
         read.role = isOptionName(typed) ? ArgumentRole::ambiguous : ArgumentRole::misnamed;
         read.isRefused = true;
+        if (read.role == ArgumentRole::ambiguous) {
+            read.candidates = m_matcher.bestNames();
+        }
         return read;
     }
     read.role = ArgumentRole::named;

@@ -51,6 +51,8 @@ struct ReadArgument {
     bool isNegated = false;
     /// Of a named one: where its value comes from, or why it has none.
     ValueSource source = ValueSource::none;
+    /// Of an ambiguous one: the names that it gives.
+    std::vector<std::string> candidates;
     /// Whether a parse ends here with an error. Whether a value is one of the option's, and what handlers
     /// say, is not asked for.
     bool isRefused = false;
