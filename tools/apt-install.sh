@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # Installs what is missing of the named groups of Debian packages:
-#   build      what a build of the library and the examples needs
+#   build      what a build of the library, the companion program and the examples needs
 #   test       what the tests need besides
 #   ci         what only .ci/run needs besides
 #   coverage   what tools/coverage.sh needs besides the tests
@@ -10,10 +10,10 @@
 set -euo pipefail
 
 declare -A groups=(
-    [build]="g++ cmake ninja-build"
+    [build]="g++ cmake ninja-build nlohmann-json3-dev"
     [test]="abigail-tools bash-completion clang doxygen fish googletest libboost-program-options-dev
-        libclang-rt-14-dev libcli11-dev libgtest-dev mandoc pkg-config python3 python3-jsonschema
-        zsh"
+        libclang-rt-14-dev libcli11-dev libgtest-dev man-db mandoc pkg-config python3 python3-jsonschema
+        shfmt zsh"
     [ci]="ccache clang-format clang-tidy cppcheck dpkg-dev file lintian shellcheck"
     [coverage]="gcovr"
     [memcheck]="valgrind"

@@ -40,7 +40,7 @@ class TarvConan(ConanFile):
 
     def generate(self):
         toolchain = CMakeToolchain(self)
-        for part in ("TESTS", "EXAMPLES", "BENCHMARKS"):
+        for part in ("TESTS", "EXAMPLES", "BENCHMARKS", "PROGRAM"):
             toolchain.cache_variables["TARV_BUILD_" + part] = False
         toolchain.generate()
 

@@ -11,6 +11,7 @@ vcpkg_cmake_configure(
     OPTIONS
         -DTARV_BUILD_TESTS=OFF
         -DTARV_BUILD_EXAMPLES=OFF
+        -DTARV_BUILD_PROGRAM=OFF
         -DTARV_BUILD_BENCHMARKS=OFF)
 vcpkg_cmake_install()
 vcpkg_cmake_config_fixup(CONFIG_PATH lib/cmake/tarv)

@@ -1,0 +1,14 @@
+#include "model/CommandLine.h"
+
+namespace tarv_program {
+
+const std::string* Option::note(const std::string& key) const {
+    for (const Note& note : notes) {
+        if (note.first == key) {
+            return &note.second;
+        }
+    }
+    return nullptr;
+}
+
+} // namespace tarv_program

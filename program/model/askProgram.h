@@ -1,0 +1,23 @@
+#pragma once
+
+#include <chrono>
+#include <cstddef>
+#include <string>
+#include <vector>
+
+namespace tarv_program {
+
+/// How long another program may run, and how much it may print.
+struct Limits {
+    std::chrono::milliseconds time = std::chrono::seconds(10);
+    std::size_t bytes = 16 * 1024 * 1024;
+};
+
+/// Runs a program, by its path or found in PATH, without input and without its standard error, and returns
+/// what it prints. `input` is a file for its standard input, "" for none.
+/// Throws `Failure` when it cannot be started, does not end with exit code 0, or goes beyond the limits; then
+/// it was killed, with what it had started in its process group.
+std::string outputOf(const std::vector<std::string>& command, const Limits& limits,
+                     const std::string& input = "");
+
+} // namespace tarv_program

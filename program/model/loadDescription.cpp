@@ -1,0 +1,79 @@
+#include "model/loadDescription.h"
+
+#include <cerrno>
+#include <cstring>
+#include <filesystem>
+#include <fstream>
+
+#include "model/readDescription.h"
+
+namespace tarv_program {
+
+namespace {
+
+constexpr std::size_t mostBytes = 16 * 1024 * 1024;
+
+bool isDescriptionFile(const std::string& path) {
+    std::error_code ignored;
+    if (!std::filesystem::is_regular_file(path, ignored)) {
+        return false;
+    }
+    std::ifstream file(path, std::ios::binary);
+    char begin[256];
+    file.read(begin, sizeof begin);
+    return looksLikeDescription(std::string(begin, static_cast<std::size_t>(file.gcount())));
+}
+
+std::string jsonOf(const std::string& source, const Limits& limits) {
+    if (isDescriptionFile(source)) {
+        return contentsOf(source);
+    }
+    std::string answer = outputOf({source, "tarvoption=describe"}, limits);
+    if (!looksLikeDescription(answer)) {
+        throw Failure(source + ": is no description, and does not answer tarvoption=describe with one");
+    }
+    return answer;
+}
+
+} // namespace
+
+std::string contentsOf(const std::string& path) {
+    std::error_code error;
+    if (std::filesystem::is_directory(path, error)) {
+        throw Failure(path + ": is a directory");
+    }
+    std::ifstream file(path, std::ios::binary);
+    if (!file) {
+        throw Failure(path + ": " + std::strerror(errno));
+    }
+    std::string contents;
+    char buffer[65536];
+    while (file.read(buffer, sizeof buffer) || file.gcount() > 0) {
+        contents.append(buffer, static_cast<std::size_t>(file.gcount()));
+        if (contents.size() > mostBytes) {
+            throw Failure(path + ": has more than " + std::to_string(mostBytes) + " bytes");
+        }
+    }
+    return contents;
+}
+
+std::string programName(const std::string& path) {
+    const std::filesystem::path name = std::filesystem::path(path).filename();
+    return name.extension() == ".json" ? name.stem().string() : name.string();
+}
+
+CommandLine loadDescription(const std::string& source, const Limits& limits) {
+    CommandLine line = readDescription(jsonOf(source, limits), source);
+    if (line.names.empty() || line.names.front().empty()) {
+        line.names = {programName(source)};
+    }
+    return line;
+}
+
+std::string loadJson(const std::string& source, const Limits& limits) {
+    std::string json = jsonOf(source, limits);
+    readDescription(json, source);
+    return json;
+}
+
+} // namespace tarv_program

@@ -1,0 +1,40 @@
+#pragma once
+
+#include <cstddef>
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include <tarv_3_3/tarv.h>
+
+#include "model/CommandLine.h"
+
+namespace tarv_program {
+
+struct Destroy {
+    template <class Object>
+    void operator()(Object* object) const {
+        object->destroy();
+    }
+};
+
+using Parser = std::unique_ptr<tarv_3_3::IParser, Destroy>;
+using Result = std::unique_ptr<tarv_3_3::IParseResult, Destroy>;
+
+/// What a rebuilt parser does with the option "option-file" where the description says that its values
+/// are read: questions about a command line must not open what it names.
+enum class OptionFiles { areRead, areOnlyDeclared };
+
+/// Declares to a new parser what a description says: the same options with the same rules. What is code of
+/// the program, its event handlers for one, is not there. Throws `Failure` with the place of what cannot
+/// be declared, such as a default of another kind.
+Parser rebuild(const CommandLine& line, OptionFiles files = OptionFiles::areOnlyDeclared);
+
+/// A value as the kind has it; none where the text is not one.
+std::optional<tarv_3_3::variant_t> valueOf(tarv_3_3::das_variant_type_t kind, const std::string& text);
+
+/// A new result of a parser.
+Result createResult(tarv_3_3::IParser& parser);
+
+} // namespace tarv_program
