@@ -28,6 +28,10 @@ std::string jsonOf(const std::string& source, const Limits& limits) {
     if (isDescriptionFile(source)) {
         return contentsOf(source);
     }
+    std::error_code ignored;
+    if (source.find('/') == std::string::npos && std::filesystem::is_regular_file(source, ignored)) {
+        throw Failure(source + ": is a file, but no description; a program here is ./" + source);
+    }
     std::string answer = outputOf({source, "tarvoption=describe"}, limits);
     if (!looksLikeDescription(answer)) {
         throw Failure(source + ": is no description, and does not answer tarvoption=describe with one");

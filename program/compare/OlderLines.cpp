@@ -1,0 +1,82 @@
+#include "compare/OlderLines.h"
+
+#include <algorithm>
+
+#include <tarv_3_3/description.h>
+
+#include "compare/LineQuestion.h"
+
+namespace tarv_program {
+
+using namespace tarv_3_3;
+
+OlderLines::OlderLines(const Side& side, Examples& examples) : m_side(side), m_examples(examples) {
+    for (std::size_t place = 0; place < side.line().options.size(); ++place) {
+        if (side.option(place).isAction) {
+            m_actions.push_back(place);
+        }
+    }
+    for (const Rule& rule : side.line().rules) {
+        m_rules.emplace_back();
+        for (const std::string& name : rule.names) {
+            m_rules.back().push_back(side.placeOf({name}));
+        }
+    }
+}
+
+std::optional<std::vector<std::string>> OlderLines::with(std::set<std::size_t> places) {
+    addWhatIsNeeded(places);
+    std::vector<std::string> arguments = argumentsOf(places);
+    if (askLine(m_side, arguments).isAccepted) {
+        return arguments;
+    }
+    for (const std::size_t action : m_actions) {
+        std::set<std::size_t> more = places;
+        more.insert(action);
+        addWhatIsNeeded(more);
+        arguments = argumentsOf(more);
+        if (askLine(m_side, arguments).isAccepted) {
+            return arguments;
+        }
+    }
+    return std::nullopt;
+}
+
+// What one rule adds may be what another one asks about.
+void OlderLines::addWhatIsNeeded(std::set<std::size_t>& places) const {
+    for (bool isChanged = true; isChanged;) {
+        isChanged = false;
+        for (std::size_t i = 0; i < m_rules.size(); ++i) {
+            isChanged = addOnce(places, m_rules[i], m_side.line().rules[i].kind) || isChanged;
+        }
+    }
+}
+
+bool OlderLines::addOnce(std::set<std::size_t>& places, const std::vector<std::size_t>& rule,
+                         int kind) const {
+    const std::size_t before = places.size();
+    const bool isAnyGiven =
+        std::any_of(rule.begin(), rule.end(), [&](std::size_t place) { return places.count(place) != 0; });
+    const bool needsOne = kind == ruleAtLeastOne || kind == ruleExactlyOne;
+    const bool needsAll = kind == ruleRequired || (kind == ruleAllOrNone && isAnyGiven) ||
+                          (kind == ruleNeeds && places.count(rule.front()) != 0);
+    if (needsAll) {
+        places.insert(rule.begin(), rule.end());
+    } else if (needsOne && !isAnyGiven) {
+        places.insert(rule.front());
+    }
+    places.erase(Side::nowhere);
+    return places.size() != before;
+}
+
+std::vector<std::string> OlderLines::argumentsOf(const std::set<std::size_t>& places) {
+    std::vector<std::string> arguments;
+    for (const std::size_t place : places) {
+        const std::vector<std::string> more = m_examples.argumentsOf(place);
+        const bool isAction = m_side.option(place).isAction;
+        arguments.insert(isAction ? arguments.begin() : arguments.end(), more.begin(), more.end());
+    }
+    return arguments;
+}
+
+} // namespace tarv_program

@@ -1,0 +1,64 @@
+#pragma once
+
+#include <string>
+#include <unordered_map>
+#include <vector>
+
+#include "model/CommandLine.h"
+#include "model/rebuild.h"
+
+namespace tarv_program {
+
+/// What a name means when it is typed.
+struct Meaning {
+    enum Kind { nothing, one, several, positional };
+    Kind kind = nothing;
+    /// Of one: the option's place, and the whole name, "no-" included.
+    std::size_t place = 0;
+    std::string name;
+    bool isNegated = false;
+    /// Of several.
+    std::vector<std::string> candidates;
+};
+
+/// One of two command lines that are compared, and a parser made of it, which answers what is accepted.
+class Side {
+public:
+    explicit Side(const CommandLine& line);
+
+    const CommandLine& line() const { return m_line; }
+    const Option& option(std::size_t place) const { return m_line.options[place]; }
+    tarv_3_3::IParser& parser() const { return *m_parser; }
+
+    /// What "--" and `typed` means.
+    Meaning meaningOf(const std::string& typed) const;
+
+    static constexpr auto nowhere = static_cast<std::size_t>(-1);
+    /// The option that has exactly one of these names; the first names count most.
+    std::size_t placeOf(const std::vector<std::string>& names) const;
+
+    /// The option that positional arguments fill.
+    std::size_t filledPlace() const;
+
+private:
+    const CommandLine& m_line;
+    Parser m_parser;
+    std::unordered_map<std::string, std::size_t> m_places;
+};
+
+/// An older and a newer side, and which options are the same ones.
+class Sides {
+public:
+    Sides(const CommandLine& older, const CommandLine& newer);
+
+    /// The place on the newer side of an option of the older one.
+    std::size_t twin(std::size_t place) const { return m_twins[place]; }
+
+    const Side older;
+    const Side newer;
+
+private:
+    std::vector<std::size_t> m_twins;
+};
+
+} // namespace tarv_program

@@ -1,0 +1,167 @@
+#include "compare/names.h"
+
+#include <map>
+#include <set>
+#include <tuple>
+
+#include "compare/abbreviations.h"
+#include "text/shellQuoted.h"
+
+namespace tarv_program {
+
+namespace {
+
+/// Whose name it is: the place of the option on the newer side, and whether it turns a switch off.
+using Owner = std::tuple<std::size_t, bool>;
+
+std::vector<std::string> candidatesOf(const Option& option) {
+    std::vector<std::string> names = option.names;
+    if (option.isSwitch()) {
+        for (const std::string& name : option.names) {
+            names.push_back("no-" + name);
+        }
+    }
+    return names;
+}
+
+class NameComparison {
+public:
+    NameComparison(const Sides& sides, Examples& examples, Comparison& comparison)
+        : m_sides(sides), m_examples(examples), m_comparison(comparison) {
+        std::map<std::string, std::multiset<Owner>> before;
+        std::map<std::string, std::multiset<Owner>> now;
+        collect(sides.older, before, [&](std::size_t place) { return sides.twin(place); });
+        collect(sides.newer, now, [](std::size_t place) { return place; });
+        for (const auto& [name, owners] : before) {
+            m_table.add(name);
+            const auto found = now.find(name);
+            const bool isGone = std::get<0>(*owners.begin()) == Side::nowhere;
+            if (isGone || found == now.end() || found->second != owners) {
+                m_touched.add(name);
+            }
+        }
+        for (const auto& [name, owners] : now) {
+            if (before.count(name) == 0) {
+                m_table.add(name);
+                m_touched.add(name);
+            }
+        }
+    }
+
+    void compareAll() {
+        std::set<std::string> done;
+        for (std::size_t place = 0; place < m_sides.older.line().options.size(); ++place) {
+            for (const std::string& name : candidatesOf(m_sides.older.option(place))) {
+                if (done.insert(name).second && !m_touched.rivalsOf(name).empty()) {
+                    compare(place, name);
+                }
+            }
+        }
+    }
+
+private:
+    template <class PlaceOf>
+    static void collect(const Side& side, std::map<std::string, std::multiset<Owner>>& owners,
+                        PlaceOf placeOf) {
+        for (std::size_t place = 0; place < side.line().options.size(); ++place) {
+            for (const std::string& name : side.option(place).names) {
+                // A switch is turned off by whatever begins so, its own name included.
+                const bool isSwitch = side.option(place).isSwitch();
+                owners[name].emplace(placeOf(place), isSwitch && name.substr(0, 3) == "no-");
+                if (isSwitch) {
+                    owners["no-" + name].emplace(placeOf(place), true);
+                }
+            }
+        }
+    }
+
+    void compare(std::size_t place, const std::string& name) {
+        // What each abbreviation does now, and the longest one that does it.
+        std::map<std::string, Finding> found;
+        std::map<std::string, std::string> longest;
+        const bool isDone =
+            forEachAbbreviation(name, m_table.rivalsOf(name), m_touched.rivalsOf(name),
+                                [&](const Abbreviations& typed) { ask(name, typed, found, longest); });
+        if (!isDone) {
+            throw Failure("the name '" + name + "' can be abbreviated in too many ways to compare them");
+        }
+        for (auto& [now, finding] : found) {
+            finding.command = m_examples.shown(m_examples.argumentsOf(place, longest[now]));
+            finding.shorter -= 1;
+            m_comparison.breaks.push_back(finding);
+        }
+    }
+
+    void ask(const std::string& name, const Abbreviations& typed, std::map<std::string, Finding>& found,
+             std::map<std::string, std::string>& longest) const {
+        const Meaning before = m_sides.older.meaningOf(typed.longest);
+        if (before.kind != Meaning::one || before.name != name) {
+            return;
+        }
+        const Meaning now = m_sides.newer.meaningOf(typed.longest);
+        if (now.kind == Meaning::one && now.place == m_sides.twin(before.place) &&
+            now.isNegated == before.isNegated) {
+            return;
+        }
+        const std::string what = said(now);
+        Finding& finding = found[what];
+        finding.kind = "name";
+        finding.was = "means " + shellQuoted("--" + name);
+        finding.now = what;
+        finding.shorter += typed.count;
+        std::string& shown = longest[what];
+        shown = typed.longest.size() > shown.size() ? typed.longest : shown;
+    }
+
+    static std::string said(const Meaning& meaning) {
+        if (meaning.kind == Meaning::nothing) {
+            return "is unknown";
+        }
+        if (meaning.kind == Meaning::positional) {
+            return "is a positional argument";
+        }
+        if (meaning.kind == Meaning::one) {
+            return "means " + shellQuoted("--" + meaning.name);
+        }
+        std::string text;
+        for (const std::string& name : meaning.candidates) {
+            text += (text.empty() ? "is ambiguous: " : ", ") + shellQuoted("--" + name);
+        }
+        return text;
+    }
+
+    const Sides& m_sides;
+    Examples& m_examples;
+    Comparison& m_comparison;
+    /// Of both sides.
+    NameTable m_table;
+    /// Those that are not the same option's on both sides.
+    NameTable m_touched;
+};
+
+} // namespace
+
+void compareNames(const Sides& sides, Examples& examples, Comparison& comparison) {
+    NameComparison(sides, examples, comparison).compareAll();
+}
+
+void listNewNames(const Sides& sides, const Examples& examples, Comparison& comparison) {
+    std::set<std::size_t> twins;
+    std::set<std::string> names;
+    for (std::size_t place = 0; place < sides.older.line().options.size(); ++place) {
+        twins.insert(sides.twin(place));
+        names.insert(sides.older.option(place).names.begin(), sides.older.option(place).names.end());
+    }
+    for (std::size_t place = 0; place < sides.newer.line().options.size(); ++place) {
+        const Option& option = sides.newer.option(place);
+        for (const std::string& name : option.names) {
+            if (names.count(name) == 0) {
+                const bool isNew = twins.count(place) == 0;
+                comparison.additions.push_back(examples.shown({"--" + name}) +
+                                               (isNew ? "" : ", a name for --" + option.primaryName()));
+            }
+        }
+    }
+}
+
+} // namespace tarv_program
