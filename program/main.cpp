@@ -71,6 +71,20 @@ const Verb* verbCalled(const char* name) {
     return nullptr;
 }
 
+std::size_t positionalCount(const Arguments& arguments) {
+    const Description* const description = describe(&arguments.parser());
+    if (description == nullptr) {
+        throw std::bad_alloc();
+    }
+    std::size_t count = 0;
+    for (unsigned i = 0; i < description->declarationCount; ++i) {
+        const Declaration& option = declarationAt(*description, i);
+        count += option.isPositional == positionalFilled ? arguments.values(option.names[0]).size() : 0;
+    }
+    release(description);
+    return count;
+}
+
 // `argv[0]` is the verb.
 int runVerb(const Verb& verb, int argc, const char* const* argv) {
     const Parser parser = parserOf(verb);
@@ -85,7 +99,12 @@ int runVerb(const Verb& verb, int argc, const char* const* argv) {
     if (checkRules(parser.get(), result.get()) != parseOk) {
         return refuse(parser->getErrorDesc(), *parser, nullptr);
     }
-    return verb.run(Arguments(*parser, *result));
+    const Arguments arguments(*parser, *result);
+    const std::size_t count = positionalCount(arguments);
+    if (count < verb.least || count > verb.most) {
+        return refuse(std::string(verb.name) + " takes " + verb.synopsis, *parser, nullptr);
+    }
+    return verb.run(arguments);
 }
 
 int run(int argc, const char* const* argv) {

@@ -8,9 +8,16 @@ namespace tarv_program {
 
 /// One of the things that the program does.
 struct Verb {
+    static constexpr auto anyNumber = static_cast<std::size_t>(-1);
+
     const char* name;
     /// What stands behind it in a synopsis.
     const char* synopsis;
+    ///@{
+    /// How many positional arguments it takes.
+    std::size_t least;
+    std::size_t most;
+    ///@}
     const char* text;
     /// Flags of its parser.
     int flags;

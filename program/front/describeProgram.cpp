@@ -9,6 +9,18 @@ namespace tarv_program {
 
 using Json = nlohmann::ordered_json;
 
+namespace {
+
+Json countOf(const Verb& verb) {
+    Json count = {{"least", verb.least}};
+    if (verb.most != Verb::anyNumber) {
+        count["most"] = verb.most;
+    }
+    return count;
+}
+
+} // namespace
+
 std::string describeProgram(const std::vector<Verb>& verbs, tarv_3_3::IParser& root) {
     Json all = Json::parse(describeAsJson(&root));
     // The verb is what follows in "verbs".
@@ -22,6 +34,11 @@ std::string describeProgram(const std::vector<Verb>& verbs, tarv_3_3::IParser& r
         for (const auto& [name, value] : described.items()) {
             if (name != "format" && name != "version") {
                 one[name] = value;
+            }
+        }
+        for (Json& option : one["declarations"]) {
+            if (option.contains("positional")) {
+                option["count"] = countOf(verb);
             }
         }
         all["verbs"].push_back(one);

@@ -1,9 +1,13 @@
+#include <tarv_3_3/completion.h>
 #include <tarv_3_3/description.h>
 
 #include "compare/compare.h"
 #include "compare/report.h"
+#include "explain/explainLine.h"
 #include "front/Verb.h"
+#include "front/files.h"
 #include "model/loadDescription.h"
+#include "pages/Page.h"
 
 namespace tarv_program {
 
@@ -28,24 +32,12 @@ void declarePositional(IParser& parser, const char* name) {
     annotate(&parser, name, "complete", "file");
 }
 
-std::vector<std::string> positionals(const Arguments& arguments, const char* name, std::size_t least,
-                                     std::size_t most) {
-    std::vector<std::string> values = arguments.values(name);
-    if (values.size() < least) {
-        throw Failure(std::string("needs ") + name);
-    }
-    if (values.size() > most) {
-        throw Failure("'" + values[most] + "' is one argument too many");
-    }
-    return values;
-}
-
 std::string programOf(const Arguments& arguments) {
-    return positionals(arguments, "PROGRAM", 1, 1).front();
+    return arguments.values("PROGRAM").front();
 }
 
 void declareCompare(IParser& parser) {
-    declarePositional(parser, "OLD and NEW");
+    declarePositional(parser, "DESCRIPTION");
     parser.option("format,f", "How to print what was found; baseline: as a file for --baseline.", vtString)
         .allowValue("text")
         .allowValue("json")
@@ -57,7 +49,7 @@ void declareCompare(IParser& parser) {
 }
 
 int runCompare(const Arguments& arguments) {
-    const std::vector<std::string> sources = positionals(arguments, "OLD and NEW", 2, 2);
+    const std::vector<std::string> sources = arguments.values("DESCRIPTION");
     Comparison comparison = compare(loadDescription(sources[0]), loadDescription(sources[1]));
     if (const auto baseline = arguments.value("baseline")) {
         acceptBreaks(comparison, contentsOf(*baseline));
@@ -78,13 +70,96 @@ int runJson(const Arguments& arguments) {
     return 0;
 }
 
+int runExplain(const Arguments& arguments) {
+    const ExplainedLine line = explainLine(loadDescription(programOf(arguments)), arguments.plain());
+    print(table(line));
+    return line.isAccepted ? 0 : 1;
+}
+
+void declarePages(IParser& parser) {
+    declarePositional(parser, "PROGRAM");
+    parser
+        .option("directory,d", "Write a page for the program and one for each verb into this folder.",
+                vtString)
+        .tokenize(0);
+    annotate(&parser, "directory", "complete", "directory");
+    annotate(&parser, "directory", "value", "FOLDER");
+    parser.option("purpose", "What the program is for, where its description does not say.", vtString)
+        .tokenize(0);
+    annotate(&parser, "purpose", "complete", "none");
+}
+
+void declareManual(IParser& parser) {
+    declarePages(parser);
+    parser.option("date", "The date of the page; otherwise SOURCE_DATE_EPOCH counts, or today.", vtString)
+        .tokenize(0);
+    parser.option("section", "The section of the manual.", vtString).defaultValue("1").tokenize(0);
+    annotate(&parser, "date", "complete", "none");
+    annotate(&parser, "section", "complete", "none");
+}
+
+template <class Write>
+int writePages(const Arguments& arguments, const std::string& ending, Write write) {
+    CommandLine program = loadDescription(programOf(arguments));
+    program.text = program.text.empty() ? arguments.value("purpose").value_or("") : program.text;
+    const auto folder = arguments.value("directory");
+    if (!folder) {
+        print(write(wholePage(program)));
+        return 0;
+    }
+    for (const Page& page : pageForEachVerb(program)) {
+        writeFile(*folder + "/" + fileNameOf(page) + ending, write(page));
+    }
+    return 0;
+}
+
+int runManual(const Arguments& arguments) {
+    const std::string section = arguments.value("section").value_or("1");
+    const std::string date = arguments.value("date").value_or(dateOfToday());
+    return writePages(arguments, "." + section,
+                      [&](const Page& page) { return asManual(page, section, date); });
+}
+
+int runMarkdown(const Arguments& arguments) {
+    return writePages(arguments, ".md", asMarkdown);
+}
+
+void declareCompletion(IParser& parser) {
+    declarePositional(parser, "PROGRAM");
+    parser.option("shell,s", "The shell that the script is for.", vtString)
+        .allowValue("bash")
+        .allowValue("zsh")
+        .allowValue("fish")
+        .tokenize(0);
+    addRule(&parser, ruleRequired, "shell");
+}
+
+int runCompletion(const Arguments& arguments) {
+    const CommandLine program = loadDescription(programOf(arguments));
+    const std::string request = "tarvoption=completion=" + *arguments.value("shell");
+    const char* const argv[] = {program.names.front().c_str(), request.c_str()};
+    answerCompletion(&arguments.parser(), 2, argv);
+    print("");
+    return 0;
+}
+
 } // namespace
 
 const std::vector<Verb>& allVerbs() {
     static const std::vector<Verb> verbs = {
-        {"compare", "OLD NEW", "Say which command lines that OLD accepts NEW does not, or takes for others.",
-         filesEverywhere, declareCompare, runCompare},
-        {"json", "PROGRAM", "Print the description of a program.", filesEverywhere, declareProgram, runJson},
+        {"compare", "OLD NEW", 2, 2,
+         "Say which command lines that OLD accepts NEW does not, or takes for others.", filesEverywhere,
+         declareCompare, runCompare},
+        {"explain", "PROGRAM -- ARGUMENT...", 1, 1,
+         "Show how a program understands arguments, without running it.",
+         flagRejectUnknown | flagDashIsNotPositional, declareProgram, runExplain},
+        {"man", "PROGRAM", 1, 1, "Write a manual page.", filesEverywhere, declareManual, runManual},
+        {"markdown", "PROGRAM", 1, 1, "Write the same as Markdown.", filesEverywhere, declarePages,
+         runMarkdown},
+        {"json", "PROGRAM", 1, 1, "Print the description of a program.", filesEverywhere, declareProgram,
+         runJson},
+        {"completion", "PROGRAM", 1, 1, "Print the script that completes a program in a shell.",
+         filesEverywhere, declareCompletion, runCompletion},
     };
     return verbs;
 }

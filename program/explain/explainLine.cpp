@@ -1,0 +1,283 @@
+#include "explain/explainLine.h"
+
+#include <algorithm>
+#include <deque>
+#include <memory>
+#include <new>
+#include <set>
+
+#include <tarv_3_3/explain.h>
+
+#include "compare/LineQuestion.h"
+#include "compare/Side.h"
+#include "compare/ValueQuestion.h"
+#include "model/verbs.h"
+#include "text/shellQuoted.h"
+
+namespace tarv_program {
+
+using namespace tarv_3_3;
+
+namespace {
+
+std::string joined(const std::vector<std::string>& texts) {
+    std::string all;
+    for (const std::string& text : texts) {
+        all += (all.empty() ? "" : ", ") + text;
+    }
+    return all;
+}
+
+std::string sourceOf(int source) {
+    switch (source) {
+    case sourceName:
+        return "from its name";
+    case sourceSameArgument:
+        return "from the same argument";
+    case sourceNextArgument:
+        return "from the next argument";
+    case sourceUnwanted:
+    case sourceUnwantedBySwitch:
+        return "takes no value";
+    case sourceMissing:
+        return "its value is missing";
+    case sourceNextIsEmpty:
+        return "its value is empty";
+    case sourceNextLooksLikeOption:
+        return "its value is missing: the next argument looks like an option";
+    default:
+        return "";
+    }
+}
+
+/// Explains arguments by the parser of one level: the program, or one of its verbs.
+class Level {
+public:
+    Level(const CommandLine& line, const std::vector<std::string>& arguments)
+        : m_side(line), m_arguments(arguments) {
+        std::vector<const char*> argv(1, "");
+        for (const std::string& argument : arguments) {
+            argv.push_back(argument.c_str());
+        }
+        m_explanation.reset(explain(&m_side.parser(), static_cast<int>(argv.size()), argv.data()));
+        if (m_explanation == nullptr) {
+            throw std::bad_alloc();
+        }
+    }
+
+    /// The first argument that is no option's; the number of arguments when there is none.
+    std::size_t firstNameless() const {
+        std::size_t place = 0;
+        while (place < m_arguments.size() && role(place) != explainedPositional &&
+               role(place) != explainedUnknown) {
+            ++place;
+        }
+        return place;
+    }
+
+    void add(ExplainedLine& line, std::size_t count) {
+        for (std::size_t i = 0; i < count; ++i) {
+            line.words.push_back(word(i));
+        }
+    }
+
+    void addNotGiven(ExplainedLine& line) const {
+        for (std::size_t place = 0; place < m_side.line().options.size(); ++place) {
+            const Option& option = m_side.option(place);
+            const std::string* const variable = option.note("environment");
+            if (m_given.count(place) != 0 || option.names.empty() ||
+                (!option.defaultText && variable == nullptr)) {
+                continue;
+            }
+            std::string text = shellQuoted("--" + option.primaryName());
+            text += option.defaultText ? " is " + shellQuoted(*option.defaultText) : " has no default";
+            text += variable != nullptr ? ", unless " + shellQuoted(*variable) + " is set" : "";
+            line.notGiven.push_back(text);
+        }
+    }
+
+    void judge(ExplainedLine& line) const {
+        const LineAnswer answer = askLine(m_side, m_arguments);
+        line.isAccepted = answer.isAccepted && m_refusedValue.empty();
+        line.message = answer.isAccepted ? m_refusedValue : answer.message;
+    }
+
+private:
+    struct Release {
+        void operator()(const Explanation* explanation) const { release(explanation); }
+    };
+
+    const ExplainedArgument& at(std::size_t place) const {
+        return explainedAt(*m_explanation, static_cast<unsigned>(place));
+    }
+    int role(std::size_t place) const { return at(place).role; }
+
+    ExplainedWord word(std::size_t place) {
+        const ExplainedArgument& found = at(place);
+        ExplainedWord word;
+        word.argument = shellQuoted(m_arguments[place]);
+        if (found.place >= 0) {
+            m_given.insert(static_cast<std::size_t>(found.place));
+        }
+        switch (found.role) {
+        case explainedNamed:
+            explainNamed(word, found, place);
+            break;
+        case explainedValue:
+            word.means = "the value of " + titleOf(found.place);
+            break;
+        case explainedPositional:
+            word.means = titleOf(found.place);
+            setValue(word, found.place, m_arguments[place]);
+            word.remark = "positional";
+            break;
+        case explainedAmbiguous: {
+            std::vector<std::string> names;
+            for (unsigned i = 0; i < found.candidateCount; ++i) {
+                names.push_back(shellQuoted(std::string("--") + found.candidates[i]));
+            }
+            word.means = "?";
+            word.remark = "ambiguous: " + joined(names);
+            break;
+        }
+        default:
+            explainOthers(word, found);
+        }
+        return word;
+    }
+
+    void explainOthers(ExplainedWord& word, const ExplainedArgument& found) const {
+        static const char* const meanings[] = {
+            "switches the trace on",     "", "",        "", "the end of options",
+            "behind the end of options", "", "no name", ""};
+        word.means = meanings[found.role];
+        if (found.role == explainedUnknown) {
+            word.means = "?";
+            word.remark = found.isRefused != 0 ? "unknown" : "unknown, and passed over";
+        } else if (found.role == explainedPlain && found.place >= 0) {
+            word.means = titleOf(found.place);
+            word.remark = "positional, behind the end of options";
+        }
+    }
+
+    void explainNamed(ExplainedWord& word, const ExplainedArgument& found, std::size_t place) {
+        const Option& option = m_side.option(static_cast<std::size_t>(found.place));
+        const bool isOwnName =
+            std::find(option.names.begin(), option.names.end(), found.name) != option.names.end();
+        word.means = shellQuoted((isOwnName ? "--" : "--no-") + option.primaryName());
+        const std::string& argument = m_arguments[place];
+        if (found.source == sourceSameArgument) {
+            setValue(word, found.place, argument.substr(found.valueStart));
+        } else if (found.source == sourceNextArgument) {
+            setValue(word, found.place, m_arguments[place + 1]);
+        } else if (found.source == sourceName) {
+            word.value = found.isNegated != 0 ? "0" : "1";
+        }
+        std::vector<std::string> remarks;
+        if (word.remark.empty() && !sourceOf(found.source).empty()) {
+            remarks.push_back(sourceOf(found.source));
+        } else if (!word.remark.empty()) {
+            remarks.push_back(word.remark);
+        }
+        if (found.isAbbreviated != 0) {
+            remarks.emplace_back("abbreviated");
+        }
+        if (const std::string* const instead = option.note("deprecated")) {
+            remarks.push_back("deprecated" + (instead->empty() ? "" : "; use " + visible(*instead)));
+        }
+        word.remark = joined(remarks);
+    }
+
+    void setValue(ExplainedWord& word, int place, const std::string& text) {
+        const auto values = ValueQuestion(m_side.option(static_cast<std::size_t>(place))).accept(text);
+        if (!values) {
+            word.value = shellQuoted(text);
+            word.remark = "the value is refused";
+            // The parser knows nothing of a range, which is the program's to check.
+            m_refusedValue = "'" + text + "' is no value of " + titleOf(place);
+        } else {
+            word.value = shellQuoted(*values);
+        }
+    }
+
+    std::string titleOf(int place) const {
+        const Option& option = m_side.option(static_cast<std::size_t>(place));
+        const std::string name =
+            option.positional == Positional::no ? "--" + option.primaryName() : option.primaryName();
+        return name.empty() ? "positional" : shellQuoted(name);
+    }
+
+    const Side m_side;
+    const std::vector<std::string> m_arguments;
+    std::unique_ptr<const Explanation, Release> m_explanation;
+    std::set<std::size_t> m_given;
+    std::string m_refusedValue;
+};
+
+} // namespace
+
+ExplainedLine explainLine(const CommandLine& program, const std::vector<std::string>& arguments) {
+    ExplainedLine explained;
+    // Each verb is a command line of its own, which outlives its level.
+    std::deque<CommandLine> lines = {withRequiredAsRules(program)};
+    std::vector<std::string> left = arguments;
+    for (;;) {
+        const CommandLine& line = lines.back();
+        Level level(line, left);
+        const std::size_t verbPlace = level.firstNameless();
+        if (line.verbs.empty() || verbPlace == left.size()) {
+            level.add(explained, left.size());
+            level.addNotGiven(explained);
+            level.judge(explained);
+            return explained;
+        }
+        level.add(explained, verbPlace);
+        const std::string typed = left[verbPlace];
+        const CommandLine names = verbsAsOptions(line);
+        const Meaning meaning = Side(names).meaningOf(typed);
+        if (meaning.kind != Meaning::one) {
+            const std::string remark = meaning.kind == Meaning::several
+                                           ? "ambiguous: " + joined(meaning.candidates)
+                                           : std::string("no verb");
+            explained.words.push_back({shellQuoted(typed), "?", "", visible(remark)});
+            explained.message = "'" + typed + "' is " +
+                                (meaning.kind == Meaning::several ? "short for several verbs" : "no verb");
+            return explained;
+        }
+        const CommandLine& verb = line.verbs[meaning.place];
+        explained.words.push_back({shellQuoted(typed), "verb " + shellQuoted(verb.names.front()), "",
+                                   meaning.name == typed ? "" : "abbreviated"});
+        // What stands in front of the verb goes with it.
+        std::vector<std::string> behind(left.begin() + static_cast<std::ptrdiff_t>(verbPlace) + 1,
+                                        left.end());
+        left = std::move(behind);
+        lines.push_back(within(line, verb));
+    }
+}
+
+std::string table(const ExplainedLine& line) {
+    std::vector<ExplainedWord> rows = {{"ARGUMENT", "MEANS", "VALUE", "REMARK"}};
+    rows.insert(rows.end(), line.words.begin(), line.words.end());
+    std::size_t widths[3] = {};
+    for (const ExplainedWord& row : rows) {
+        widths[0] = std::max(widths[0], row.argument.size());
+        widths[1] = std::max(widths[1], row.means.size());
+        widths[2] = std::max(widths[2], row.value.size());
+    }
+    std::string text;
+    const auto cell = [](std::string content, std::size_t width) {
+        content.resize(std::max(width, content.size()) + 2, ' ');
+        return content;
+    };
+    for (const ExplainedWord& row : rows) {
+        std::string one = cell(row.argument, widths[0]) + cell(row.means, widths[1]) +
+                          cell(row.value, widths[2]) + row.remark;
+        text += one.erase(one.find_last_not_of(' ') + 1) + "\n";
+    }
+    for (const std::string& sentence : line.notGiven) {
+        text += "Not given: " + sentence + ".\n";
+    }
+    return text + (line.isAccepted ? "Accepted.\n" : "Refused: " + visible(line.message) + "\n");
+}
+
+} // namespace tarv_program
