@@ -14,6 +14,7 @@ set(floor_help 6)
 set(floor_reading 7)
 set(floor_description 8)
 set(floor_completion 8)
+set(floor_typed 9)
 
 set(wrong "")
 set(count 0)

@@ -1,0 +1,714 @@
+#pragma once
+
+#include <new>
+#include <type_traits>
+
+#include "tarv_3_3/internal/typedEngine.h"
+
+/// How a C++ type is made of text. Hosts use `tarv_3_3/typed.h`; for them are `Text`, `Size`, `Choice` and
+/// `Names`.
+namespace tarv_3_3::typed {
+
+inline namespace v1 {
+
+/// A text that the program keeps; never null. Compared by content.
+class Text {
+public:
+    constexpr Text(const char* text = "") : m_text(text != nullptr ? text : "") {}
+    constexpr const char* c_str() const { return m_text; }
+    constexpr operator const char*() const { return m_text; }
+    constexpr bool isEmpty() const { return *m_text == '\0'; }
+
+    friend constexpr bool operator==(Text left, Text right) { return isEqual(left.m_text, right.m_text); }
+    friend constexpr bool operator!=(Text left, Text right) { return !isEqual(left.m_text, right.m_text); }
+    friend constexpr bool operator==(Text left, const char* right) { return left == Text(right); }
+    friend constexpr bool operator!=(Text left, const char* right) { return left != Text(right); }
+
+private:
+    static constexpr bool isEqual(const char* left, const char* right) {
+        for (; *left != '\0' && *left == *right; ++left, ++right) {
+        }
+        return *left == *right;
+    }
+
+    const char* m_text;
+};
+
+/// A number of bytes, typed as "4096", "4k", "4kB" (1000 each) or "4Ki", "4KiB" (1024), up to E.
+struct Size {
+    constexpr Size(unsigned long long count = 0) : bytes(count) {}
+    constexpr operator unsigned long long() const { return bytes; }
+
+    unsigned long long bytes;
+};
+
+/// The name of an enumerator, as it is typed.
+template <class E>
+struct Choice {
+    const char* name;
+    E value;
+};
+
+/// Specialize it with `static constexpr Choice<E> list[]` for an enumeration that the compiler cannot
+/// name: one whose values do not count up from 0 to 127 at most, or whose names are longer than 63 bytes.
+template <class E>
+struct Names;
+
+namespace values {
+
+template <class>
+inline constexpr bool never = false;
+
+template <class T>
+void swap(T*& left, T*& right) {
+    T* const kept = left;
+    left = right;
+    right = kept;
+}
+
+// ---- What a type is -------------------------------------------------------------------------------
+
+template <class T, class = void>
+inline constexpr bool isForeign = false;
+template <class T>
+inline constexpr bool
+    isForeign<T, std::void_t<decltype(fromText(static_cast<const char*>(nullptr), std::declval<T&>()))>> =
+        true;
+
+template <class T, class = void>
+inline constexpr bool isOptional = false;
+template <class T>
+inline constexpr bool isOptional<T, std::void_t<typename T::value_type, decltype(&T::has_value)>> = true;
+
+template <class T>
+inline constexpr bool isText =
+    std::is_class_v<T>&& std::is_convertible_v<const char*, T> && !isForeign<T> && !isOptional<T>;
+
+template <class T, class = void>
+inline constexpr bool hasPushBack = false;
+template <class T>
+inline constexpr bool hasPushBack<
+    T, std::void_t<decltype(std::declval<T&>().push_back(std::declval<typename T::value_type>()))>> = true;
+
+template <class T, class = void>
+inline constexpr bool hasInsert = false;
+template <class T>
+inline constexpr bool
+    hasInsert<T, std::void_t<decltype(std::declval<T&>().insert(std::declval<typename T::value_type>()))>> =
+        true;
+
+template <class T>
+inline constexpr bool isList = !isText<T> && !isForeign<T> && (hasPushBack<T> || hasInsert<T>);
+
+template <class T, class = void>
+inline constexpr bool isDuration = false;
+template <class T>
+inline constexpr bool isDuration<T, std::void_t<typename T::rep, typename T::period>> = true;
+
+template <class T, class = void>
+inline constexpr bool isPath = false;
+template <class T>
+inline constexpr bool isPath<T, std::void_t<decltype(T::preferred_separator)>> = true;
+
+template <class T, class = void>
+inline constexpr bool hasData = false;
+template <class T>
+inline constexpr bool hasData<T, std::void_t<decltype(std::declval<const T&>().data() + 0),
+                                             decltype(std::declval<const T&>().size())>> = true;
+
+template <class T, class = void>
+inline constexpr bool hasCString = false;
+template <class T>
+inline constexpr bool hasCString<
+    T, std::enable_if_t<std::is_convertible_v<decltype(std::declval<const T&>().c_str()), const char*>>> =
+    true;
+
+template <class T, class = void>
+inline constexpr bool isNamed = false;
+template <class T>
+inline constexpr bool isNamed<T, std::void_t<decltype(Names<T>::list)>> = true;
+
+template <class T, class = void>
+inline constexpr bool hasFixedType = false;
+template <class T>
+inline constexpr bool hasFixedType<T, std::void_t<decltype(T{0})>> = true;
+
+template <class T>
+inline constexpr bool isWide =
+    std::is_same_v<T, wchar_t> || std::is_same_v<T, char16_t> || std::is_same_v<T, char32_t>;
+
+template <class T>
+inline constexpr bool isNumber = (std::is_arithmetic_v<T> && !std::is_same_v<T, bool> &&
+                                  !std::is_same_v<T, char>) ||
+                                 std::is_same_v<T, Size> || (isDuration<T> && !isForeign<T>);
+
+template <class T, class = void>
+struct ElementOf {
+    using Type = T;
+};
+template <class T>
+struct ElementOf<T, std::enable_if_t<isList<T> || isOptional<T>>> {
+    using Type = typename T::value_type;
+};
+
+template <class T>
+struct Held {
+    using Type = T;
+};
+template <>
+struct Held<const char*> {
+    using Type = Text;
+};
+template <>
+struct Held<char*> {
+    using Type = Text;
+};
+/// What holds a value that was given a default of type T.
+template <class T>
+using HeldFor = typename Held<T>::Type;
+
+template <class T>
+constexpr int kindOf() {
+    if constexpr (isForeign<T>) {
+        return engine::kindForeign;
+    } else if constexpr (std::is_same_v<T, bool>) {
+        return engine::kindSwitch;
+    } else if constexpr (std::is_same_v<T, char>) {
+        return engine::kindByte;
+    } else if constexpr (std::is_integral_v<T> && !isWide<T>) {
+        return std::is_signed_v<T> ? engine::kindSigned : engine::kindUnsigned;
+    } else if constexpr (std::is_same_v<T, float> || std::is_same_v<T, double>) {
+        return engine::kindReal;
+    } else if constexpr (std::is_enum_v<T>) {
+        return engine::kindChoice;
+    } else if constexpr (std::is_same_v<T, Size>) {
+        return engine::kindSize;
+    } else if constexpr (isDuration<T>) {
+        return engine::kindDuration;
+    } else if constexpr (isText<T>) {
+        return engine::kindText;
+    } else {
+        static_assert(never<T>, "tarv: no option can hold this type; write a bool fromText(const char*, T&) "
+                                "beside it");
+    }
+}
+
+// ---- Enumerations ---------------------------------------------------------------------------------
+
+template <class T, T...>
+struct Values {};
+#if defined(__clang__)
+template <int count>
+using FirstValues = __make_integer_seq<Values, int, count>;
+#else
+template <int count>
+using FirstValues = Values<int, __integer_pack(count)...>;
+#endif
+
+template <class E, E... tarvValues>
+constexpr const char* spelled() {
+    return __PRETTY_FUNCTION__;
+}
+template <class E, int from, int... places>
+constexpr const char* spelling(Values<int, places...>) {
+    return spelled<E, static_cast<E>(from + places)...>();
+}
+
+/// What the compiler's spelling of several values says: which have names. The library reads the names
+/// themselves from it.
+struct Spelled {
+    int named = 0;
+    int lastNamed = -1;
+    int longest = 0;
+};
+
+constexpr bool isNameByte(char byte) {
+    return ('a' <= byte && byte <= 'z') || ('A' <= byte && byte <= 'Z') || ('0' <= byte && byte <= '9') ||
+           byte == '_' || byte == '$' || (static_cast<unsigned char>(byte) & 0x80) != 0;
+}
+
+constexpr const char* behindLabel(const char* text) {
+    constexpr const char* label = "tarvValues = ";
+    for (; *text != '\0'; ++text) {
+        int length = 0;
+        while (label[length] != '\0' && text[length] == label[length]) {
+            ++length;
+        }
+        if (label[length] == '\0') {
+            return text + length;
+        }
+    }
+    return text;
+}
+
+// A value with a name ends in its name, "ns::Paper::a4"; one without in a number, "(ns::Paper)7".
+constexpr Spelled scan(const char* text) {
+    Spelled found;
+    int depth = 0;
+    int place = 0;
+    for (text = behindLabel(text); *text != '\0'; ++text) {
+        const bool opens = *text == '(' || *text == '<' || *text == '{';
+        const bool closes = *text == ')' || *text == '>' || *text == '}';
+        if ((*text == ',' && depth == 1) || (closes && depth == 1)) {
+            const char* name = text;
+            while (isNameByte(name[-1])) {
+                --name;
+            }
+            if (name[-1] != ')' && name[-1] != '-') {
+                ++found.named;
+                found.lastNamed = place;
+                found.longest = text - name > found.longest ? static_cast<int>(text - name) : found.longest;
+            }
+            ++place;
+        }
+        depth += opens ? 1 : closes ? -1 : 0;
+        if (depth == 0) {
+            break;
+        }
+    }
+    return found;
+}
+
+template <class E>
+constexpr const char* spellingOf() {
+    if constexpr (isNamed<E>) {
+        return nullptr;
+    } else if constexpr (!hasFixedType<E> || std::is_same_v<std::underlying_type_t<E>, bool>) {
+        static_assert(never<E>, "tarv: this enumeration has no fixed underlying type; specialize "
+                                "tarv_3_3::typed::Names for it");
+    } else {
+        constexpr Spelled found = scan(spelling<E, 0>(FirstValues<128>()));
+        constexpr int below = std::is_signed_v<std::underlying_type_t<E>>
+                                  ? scan(spelling<E, -128>(FirstValues<128>())).named
+                                  : 0;
+        static_assert(found.named > 0 && found.lastNamed + 1 == found.named && below == 0,
+                      "tarv: the values of this enumeration do not count up from 0; specialize "
+                      "tarv_3_3::typed::Names for it");
+        static_assert(found.longest <= 63, "tarv: a name of this enumeration is over 63 bytes; specialize "
+                                           "tarv_3_3::typed::Names for it");
+        return spelling<E, 0>(FirstValues<found.named>());
+    }
+}
+
+template <class E>
+int placeOf(E value) {
+    if constexpr (isNamed<E>) {
+        int place = 0;
+        for (const Choice<E>& choice : Names<E>::list) {
+            if (choice.value == value) {
+                return place;
+            }
+            ++place;
+        }
+        return -1;
+    } else {
+        return static_cast<int>(value);
+    }
+}
+
+/// The name at a place of `Names`; null behind the last.
+template <class E>
+const char* choiceAt(int place) {
+    if constexpr (isNamed<E>) {
+        constexpr int count = static_cast<int>(sizeof Names<E>::list / sizeof Names<E>::list[0]);
+        return place < count ? Names<E>::list[place].name : nullptr;
+    } else {
+        return nullptr;
+    }
+}
+
+template <class E>
+E valueAt(int place) {
+    if constexpr (isNamed<E>) {
+        return Names<E>::list[place].value;
+    } else {
+        return static_cast<E>(place);
+    }
+}
+
+// ---- Records --------------------------------------------------------------------------------------
+
+template <class Element>
+struct Check {
+    Check* next;
+    const char* must;
+    bool (*accepts)(const Check*, const Element&);
+    void (*destroy)(Check*);
+};
+
+struct Completer {
+    void (*call)(const Completer*, engine::Taking*, const char* word);
+    void (*destroy)(Completer*);
+};
+
+/// What a handle points to.
+template <class T>
+struct Slot : engine::State {
+    using Element = typename ElementOf<T>::Type;
+
+    Slot(const engine::Shape& itsShape, T&& value)
+        : engine::State{&itsShape, nullptr, nullptr, 0, 0, 0, nullptr}, initial(static_cast<T&&>(value)),
+          own(initial) {}
+    Slot(const Slot&) = delete;
+    Slot& operator=(const Slot&) = delete;
+    ~Slot() {
+        while (checks != nullptr) {
+            Check<Element>* const gone = checks;
+            checks = gone->next;
+            gone->destroy(gone);
+        }
+        if (completer != nullptr) {
+            completer->destroy(completer);
+        }
+    }
+
+    T initial;
+    T own;
+    T* target = &own;
+    Check<Element>* checks = nullptr;
+    Completer* completer = nullptr;
+};
+
+template <class N>
+bool readNumber(engine::Taking* taking, const char* text, N& number) {
+    if constexpr (std::is_floating_point_v<N>) {
+        double value = 0;
+        const bool isRead = engine::readReal(taking, text, &value);
+        number = static_cast<N>(value);
+        return isRead;
+    } else if constexpr (std::is_signed_v<N>) {
+        long long value = 0;
+        const bool isRead = engine::readSigned(taking, text, &value);
+        number = static_cast<N>(value);
+        return isRead;
+    } else {
+        unsigned long long value = 0;
+        const bool isRead = engine::readUnsigned(taking, text, &value);
+        number = static_cast<N>(value);
+        return isRead;
+    }
+}
+
+/// Reads one element; false when the text is none, which the library notes.
+template <class E>
+bool read(engine::Taking* taking, const char* text, E& element) {
+    if constexpr (isForeign<E>) {
+        return fromText(text, element) || engine::refuse(taking, nullptr);
+    } else if constexpr (std::is_same_v<E, bool>) {
+        return engine::readSwitch(taking, text, &element);
+    } else if constexpr (std::is_same_v<E, char>) {
+        const char* const byte = engine::readText(taking, text, false);
+        element = byte != nullptr ? *byte : element;
+        return byte != nullptr;
+    } else if constexpr (std::is_enum_v<E>) {
+        int place = 0;
+        const bool isRead = engine::readChoice(taking, text, &place);
+        element = isRead ? valueAt<E>(place) : element;
+        return isRead;
+    } else if constexpr (isText<E>) {
+        // What owns nothing points to what the program keeps.
+        const char* const whole = engine::readText(taking, text, std::is_trivially_copyable_v<E>);
+        if (whole == nullptr) {
+            return false;
+        }
+        element = static_cast<E>(whole);
+        return true;
+    } else if constexpr (isDuration<E>) {
+        typename E::rep number{};
+        const bool isRead = readNumber(taking, text, number);
+        element = E(number);
+        return isRead;
+    } else if constexpr (std::is_same_v<E, Size>) {
+        return engine::readUnsigned(taking, text, &element.bytes);
+    } else {
+        return readNumber(taking, text, element);
+    }
+}
+
+template <class T>
+bool take(engine::State* state, engine::Taking* taking, const char* text, int mode) {
+    auto& slot = static_cast<Slot<T>&>(*state);
+    using Element = typename ElementOf<T>::Type;
+    Element element{};
+    if (!read(taking, text, element)) {
+        return false;
+    }
+    for (const Check<Element>* check = slot.checks; check != nullptr; check = check->next) {
+        if (!check->accepts(check, element)) {
+            return engine::refuse(taking, check->must);
+        }
+    }
+    if (mode == engine::takeCheck) {
+        return true;
+    }
+    if constexpr (isList<T>) {
+        if (mode == engine::takeFirst) {
+            *slot.target = T();
+        }
+        if constexpr (hasPushBack<T>) {
+            slot.target->push_back(static_cast<Element&&>(element));
+        } else {
+            slot.target->insert(static_cast<Element&&>(element));
+        }
+    } else {
+        *slot.target = static_cast<Element&&>(element);
+    }
+    return true;
+}
+
+template <class T>
+void restore(engine::State* state) {
+    auto& slot = static_cast<Slot<T>&>(*state);
+    *slot.target = slot.initial;
+}
+
+template <class T>
+void destroy(engine::State* state) {
+    delete static_cast<Slot<T>*>(state);
+}
+
+template <class N>
+constexpr engine::Shape withLimits(engine::Shape shape) {
+    if constexpr (std::is_integral_v<N>) {
+        constexpr bool isSigned = std::is_signed_v<N>;
+        constexpr int bits = static_cast<int>(sizeof(N)) * 8 - (isSigned ? 1 : 0);
+        shape.most = ~0ULL >> (64 - bits);
+        shape.least = isSigned ? -static_cast<long long>(shape.most) - 1 : 0;
+    }
+    return shape;
+}
+
+template <class T>
+constexpr engine::Shape makeShape(int kind) {
+    using Element = typename ElementOf<T>::Type;
+    engine::Shape shape = {};
+    shape.size = sizeof(engine::Shape);
+    shape.kind = kind;
+    shape.holds = isList<T> ? engine::holdsMany : isOptional<T> ? engine::holdsOptional : engine::holdsOne;
+    shape.isFloat = std::is_same_v<Element, float>;
+    shape.isPath = isPath<Element>;
+    shape.restore = restore<T>;
+    shape.take = take<T>;
+    shape.destroy = destroy<T>;
+    if constexpr (std::is_enum_v<Element> && !isForeign<Element>) {
+        shape.spelling = spellingOf<Element>();
+        shape.choiceAt = isNamed<Element> ? choiceAt<Element> : nullptr;
+    } else if constexpr (std::is_same_v<Element, Size>) {
+        return withLimits<unsigned long long>(shape);
+    } else if constexpr (isDuration<Element> && !isForeign<Element>) {
+        shape.periodNumerator = Element::period::num;
+        shape.periodDenominator = Element::period::den;
+        shape.isFloat = std::is_floating_point_v<typename Element::rep>;
+        return withLimits<typename Element::rep>(shape);
+    }
+    return withLimits<Element>(shape);
+}
+
+template <class T>
+inline constexpr engine::Shape shapeFor = makeShape<T>(kindOf<typename ElementOf<T>::Type>());
+inline constexpr engine::Shape shapeForCounter = makeShape<int>(engine::kindCounter);
+
+template <class T>
+constexpr const engine::Shape& shapeOf() {
+    return shapeFor<T>;
+}
+inline const engine::Shape& counterShape() {
+    return shapeForCounter;
+}
+
+template <class T>
+Slot<T>* makeSlot(const engine::Shape& shape, T initial) {
+    return new (std::nothrow) Slot<T>(shape, static_cast<T&&>(initial));
+}
+
+// ---- What a declaration says ----------------------------------------------------------------------
+
+template <class T>
+void showDefault(engine::Option* option, const T& value) {
+    if constexpr (isForeign<T>) {
+    } else if constexpr (isOptional<T>) {
+        if (value.has_value()) {
+            showDefault(option, *value);
+        }
+    } else if constexpr (isList<T>) {
+        for (const auto& element : value) {
+            showDefault<typename ElementOf<T>::Type>(option, element);
+        }
+    } else if constexpr (std::is_enum_v<T>) {
+        engine::addDefaultSigned(option, placeOf(value));
+    } else if constexpr (isDuration<T>) {
+        showDefault(option, value.count());
+    } else if constexpr (std::is_same_v<T, char>) {
+        engine::addDefaultText(option, &value, 1);
+    } else if constexpr (std::is_floating_point_v<T>) {
+        engine::addDefaultReal(option, static_cast<double>(value));
+    } else if constexpr (std::is_integral_v<T> && std::is_signed_v<T>) {
+        engine::addDefaultSigned(option, value);
+    } else if constexpr (std::is_integral_v<T> || std::is_same_v<T, Size>) {
+        engine::addDefaultUnsigned(option, value);
+    } else if constexpr (hasData<T>) {
+        engine::addDefaultText(option, value.data(), static_cast<unsigned long>(value.size()));
+    } else if constexpr (hasCString<T>) {
+        engine::addDefaultText(option, value.c_str(), __builtin_strlen(value.c_str()));
+    }
+}
+
+[[gnu::error("tarv: a bound of range() is outside of the option's type")]] void boundIsOutsideOfType();
+
+template <class N, class Bound>
+constexpr bool isOutside(Bound bound) {
+    if constexpr (!std::is_integral_v<N>) {
+        return false;
+    } else if (bound < Bound()) {
+        return !std::is_signed_v<N> || static_cast<long long>(bound) < shapeFor<N>.least;
+    } else {
+        return static_cast<unsigned long long>(bound) > shapeFor<N>.most;
+    }
+}
+
+template <class N, class Low, class High>
+[[gnu::always_inline]] inline void setRangeOfNumber(engine::Option* option, Low low, High high) {
+    static_assert(std::is_arithmetic_v<Low> && std::is_arithmetic_v<High>,
+                  "tarv: the bounds of range() are numbers");
+    if constexpr (std::is_floating_point_v<N>) {
+        engine::setRangeReal(option, static_cast<double>(low), static_cast<double>(high));
+    } else {
+        static_assert(
+            std::is_integral_v<Low> && std::is_integral_v<High>,
+            "tarv: the bounds of range() are outside of the option's type, which is a whole number");
+        const bool isWrong = isOutside<N>(low) || isOutside<N>(high);
+        if (__builtin_constant_p(isWrong) && isWrong) {
+            boundIsOutsideOfType();
+        }
+        if (low < Low() || high < High()) {
+            engine::setRangeSigned(option, static_cast<long long>(low), static_cast<long long>(high));
+        } else {
+            engine::setRangeUnsigned(option, static_cast<unsigned long long>(low),
+                                     static_cast<unsigned long long>(high));
+        }
+    }
+}
+
+template <class Element, class Low, class High>
+[[gnu::always_inline]] inline void setRange(engine::Option* option, Low low, High high) {
+    if constexpr (isDuration<Element>) {
+        setRangeOfNumber<typename Element::rep>(option, Element(low).count(), Element(high).count());
+    } else if constexpr (std::is_same_v<Element, Size>) {
+        setRange<unsigned long long>(option, static_cast<unsigned long long>(low),
+                                     static_cast<unsigned long long>(high));
+    } else {
+        setRangeOfNumber<Element>(option, low, high);
+    }
+}
+
+template <class Element, class C>
+void addChoice(engine::Option* option, const C& choice) {
+    if constexpr (std::is_convertible_v<const C&, const char*>) {
+        engine::refine(option, engine::refineChoice, choice);
+    } else if constexpr (hasCString<C>) {
+        engine::refine(option, engine::refineChoice, choice.c_str());
+    } else {
+        static_assert(std::is_arithmetic_v<C> && std::is_arithmetic_v<Element>,
+                      "tarv: a value of oneOf() is of another type than the option");
+        if constexpr (std::is_floating_point_v<Element>) {
+            engine::addChoiceReal(option, static_cast<double>(choice));
+        } else {
+            engine::addChoiceSigned(option, static_cast<long long>(choice));
+        }
+    }
+}
+
+template <class T, class F>
+void addCheck(Slot<T>* slot, const char* must, F accepts) {
+    using Element = typename Slot<T>::Element;
+    struct With : Check<Element> {
+        explicit With(F&& function) : Check<Element>{}, test(static_cast<F&&>(function)) {}
+        F test;
+    };
+    if (slot == nullptr) {
+        return;
+    }
+    const char* const kept = engine::addCheck(slot->option, must);
+    With* const made = new (std::nothrow) With(static_cast<F&&>(accepts));
+    if (kept == nullptr || made == nullptr) {
+        delete made;
+        engine::failMemory(slot->option);
+        return;
+    }
+    made->must = kept;
+    made->accepts = [](const Check<Element>* check, const Element& element) -> bool {
+        return static_cast<const With*>(check)->test(element);
+    };
+    made->destroy = [](Check<Element>* check) { delete static_cast<With*>(check); };
+    Check<Element>** end = &slot->checks;
+    while (*end != nullptr) {
+        end = &(*end)->next;
+    }
+    *end = made;
+}
+
+template <class Candidates, class T, class F>
+void setCompleter(Slot<T>* slot, F function) {
+    struct With : Completer {
+        explicit With(F&& completer) : Completer{}, completes(static_cast<F&&>(completer)) {}
+        F completes;
+    };
+    With* const made = slot != nullptr ? new (std::nothrow) With(static_cast<F&&>(function)) : nullptr;
+    if (made == nullptr) {
+        engine::failMemory(slot != nullptr ? slot->option : nullptr);
+        return;
+    }
+    made->call = [](const Completer* completer, engine::Taking* taking, const char* word) {
+        Candidates candidates(taking);
+        static_cast<const With*>(completer)->completes(word, candidates);
+    };
+    made->destroy = [](Completer* completer) { delete static_cast<With*>(completer); };
+    if (slot->completer != nullptr) {
+        slot->completer->destroy(slot->completer);
+    }
+    slot->completer = made;
+    slot->complete = [](engine::State* state, engine::Taking* taking, const char* word) {
+        const Completer* const completer = static_cast<Slot<T>*>(state)->completer;
+        completer->call(completer, taking, word);
+    };
+}
+
+template <class F>
+engine::Body* makeBody(F function) {
+    struct With : engine::Body {
+        explicit With(F&& body) : engine::Body{}, runs(static_cast<F&&>(body)) {}
+        F runs;
+    };
+    With* const made = new (std::nothrow) With(static_cast<F&&>(function));
+    if (made != nullptr) {
+        made->call = [](engine::Body* body) -> int {
+            if constexpr (std::is_void_v<decltype(static_cast<With*>(body)->runs())>) {
+                static_cast<With*>(body)->runs();
+                return 0;
+            } else {
+                return static_cast<With*>(body)->runs();
+            }
+        };
+        made->destroy = [](engine::Body* body) { delete static_cast<With*>(body); };
+    }
+    return made;
+}
+
+inline bool perform(const engine::Step& step) {
+    switch (step.kind) {
+    case engine::stepRestore:
+        step.state->shape->restore(step.state);
+        return true;
+    case engine::stepTake:
+        return step.state->shape->take(step.state, step.taking, step.text, step.mode);
+    default:
+        step.state->complete(step.state, step.taking, step.text);
+        return true;
+    }
+}
+
+} // namespace values
+
+} // namespace v1
+
+} // namespace tarv_3_3::typed

@@ -1,0 +1,422 @@
+#pragma once
+
+#include <new>
+#include <type_traits>
+
+#include "tarv_3_3/internal/typedEngine.h"
+#include "tarv_3_3/internal/typedValues.h"
+
+/// Command lines declared with the types of C++. Start here.
+///
+///     namespace tarv = tarv_3_3::typed;
+///
+///     int main(int argc, char** argv) {
+///         tarv::Program tool("pack", "1.0", "Packs files.");
+///         auto level = tool.option("level,l", "How hard to try.", 2).range(0, 9);
+///         auto files = tool.positional<std::vector<std::string>>("file", "What to pack.").required();
+///         return tool.run(argc, argv, [=] { return pack(*files, *level); });
+///     }
+///
+/// Types: `bool`; every integer, `char` (one byte of text), `float` and `double`; enumerations; texts
+/// (whatever is made of a `const char*`: `std::string`, `std::string_view`, `std::filesystem::path`;
+/// a literal as default makes it a `Text`); `Size`; durations of `std::chrono`; a type of the host's beside
+/// which a `bool fromText(const char*, T&)` is found; a `std::optional` of these; every container of these
+/// with `push_back` or `insert`. Nothing else compiles. This header includes none of theirs.
+///
+/// Names are without dashes, the whole one first, separated by commas: "max-count,n". Every text is
+/// copied. Mistakes in declarations are found at the first parse, before the command line is looked at:
+/// see `Program::problems`. Without memory a declaration yields a handle that holds a `T()`, and the
+/// parse ends with exit code 2.
+///
+/// Nothing here throws by itself. What conversions, checks, completers and bodies of the host throw
+/// reaches the caller of `run` or `parse`; the program may be used again. A program belongs to one thread
+/// at a time.
+namespace tarv_3_3::typed {
+
+inline namespace v1 {
+
+class Command;
+
+/// Where a value comes from, the weakest first.
+enum class Source { initial, file, environment, commandLine };
+
+/// An option that was declared: reads its value, and refines it as long as nothing was parsed. A pointer,
+/// good as long as the program; a default-constructed one holds a `T()` that nobody gives.
+///
+/// Refinements return the handle, so that they chain.
+template <class T>
+class Handle {
+public:
+    using Element = typename values::ElementOf<T>::Type;
+
+    Handle() = default;
+
+    ///@{
+    /// The value: the last one given, all elements of a list, or the initial one. What is given to a list
+    /// takes the place of its initial elements.
+    const T& operator*() const { return m_slot != nullptr ? *m_slot->target : nothing(); }
+    const T* operator->() const { return &**this; }
+    ///@}
+
+    /// Whether somebody gave it: the command line, the environment or a settings file. A switch that was
+    /// turned off is given as well, but counts as not given in every rule.
+    bool given() const { return m_slot != nullptr && m_slot->given != 0; }
+    /// How often it was given by the source that counts.
+    int count() const { return m_slot != nullptr ? m_slot->count : 0; }
+    Source source() const {
+        return m_slot != nullptr ? static_cast<Source>(m_slot->source) : Source::initial;
+    }
+    /// The index in `argv` of the last occurrence, or of the one with that number, from 0 on. -1 when
+    /// there is none, or when it is not from the command line.
+    int position() const { return position(count() - 1); }
+    int position(int occurrence) const {
+        return 0 <= occurrence && occurrence < count() ? m_slot->positions[occurrence] : -1;
+    }
+
+    /// It must be given, and cannot have a default.
+    Handle required() const { return refine(engine::refineRequired); }
+
+    /// Numbers, sizes and durations from `low` to `high`, both included; each element of a list.
+    template <class Low, class High>
+    [[gnu::always_inline]] Handle range(Low low, High high) const {
+        static_assert(values::isNumber<Element>, "tarv: range() is for numbers, sizes and durations");
+        values::setRange<Element>(option(), low, high);
+        return *this;
+    }
+
+    /// Only these values. A beginning that fits only one of them stands for it on the command line.
+    template <class... Choices>
+    Handle oneOf(const Choices&... choices) const {
+        static_assert(values::isText<Element> || std::is_arithmetic_v<Element>,
+                      "tarv: oneOf() is for texts and numbers");
+        (values::addChoice<Element>(option(), choices), ...);
+        return *this;
+    }
+
+    /// What else a value must be, as in "must be even". `accepts` is given each element, and returns a
+    /// bool; it is called while the command line is parsed.
+    template <class F>
+    Handle check(const char* must, F accepts) const {
+        static_assert(std::is_invocable_r_v<bool, const F&, const Element&>,
+                      "tarv: a check takes the type of the option's elements, and returns a bool");
+        values::addCheck(m_slot, must, static_cast<F&&>(accepts));
+        return *this;
+    }
+
+    /// An environment variable that it is read from when the command line does not give it. An empty
+    /// variable counts as unset; a switch reads 1, true, yes, on or their contraries, a counter a number.
+    Handle env(const char* variable) const { return refine(engine::refineEnvironment, variable); }
+    /// The heading in help under which it stands.
+    Handle topic(const char* title) const { return refine(engine::refineTopic, title); }
+    /// Left out of help, suggestions and, unless its name is begun, of completion.
+    Handle hidden() const { return refine(engine::refineHidden); }
+    /// What separates the elements of a list, ',' at first; '\0' for nothing.
+    Handle separator(char character) const {
+        static_assert(values::isList<T>, "tarv: separator() is for lists");
+        const char text[] = {character, '\0'};
+        return refine(engine::refineSeparator, text);
+    }
+    /// Takes an empty text as its value, which is refused otherwise.
+    Handle mayBeEmpty() const {
+        static_assert(values::isText<Element>, "tarv: mayBeEmpty() is for texts");
+        return refine(engine::refineMayBeEmpty);
+    }
+    /// Where this one is given, that one must be given, too.
+    template <class U>
+    Handle needs(Handle<U> other) const {
+        engine::addNeed(option(), other.option());
+        return *this;
+    }
+    /// Goes with these actions, and with no others.
+    template <class... Actions>
+    Handle goesWith(Handle<Actions>... actions) const {
+        (engine::addAction(option(), actions.option()), ...);
+        return *this;
+    }
+    /// Whoever gives it reads on standard error what to use instead; "" for nothing.
+    Handle deprecated(const char* instead) const { return refine(engine::refineDeprecated, instead); }
+    /// What help calls the value, as "FILE".
+    Handle value(const char* name) const { return refine(engine::refineValueName, name); }
+    /// How many arguments a positional list takes; `most` 0 for any number.
+    Handle times(unsigned least, unsigned most = 0) const {
+        static_assert(values::isList<T>, "tarv: times() is for lists");
+        engine::setTimes(option(), least, most);
+        return *this;
+    }
+
+    /// @cond
+    explicit Handle(values::Slot<T>* slot) : m_slot(slot) {}
+    engine::Option* option() const { return m_slot != nullptr ? m_slot->option : nullptr; }
+
+private:
+    Handle refine(int refinement, const char* text = "") const {
+        engine::refine(option(), refinement, text);
+        return *this;
+    }
+    static const T& nothing() {
+        static const T value{};
+        return value;
+    }
+
+    values::Slot<T>* m_slot = nullptr;
+    /// @endcond
+};
+
+/// What a program, or one of its verbs, takes and does. Never copied: hold a verb by reference, which is
+/// good as long as the program.
+class Command {
+public:
+    Command(const Command&) = delete;
+    Command& operator=(const Command&) = delete;
+
+    /// An option without a default: it holds a `T()` until it is given. A `bool` makes a switch.
+    template <class T>
+    Handle<T> option(const char* names, const char* description) {
+        return add<T>(engine::roleOption, names, description, T(), false);
+    }
+    /// An option with a default, which is of its type.
+    template <class T, class Held = values::HeldFor<T>>
+    Handle<Held> option(const char* names, const char* description, T initial) {
+        return add<Held>(engine::roleOption, names, description, Held(static_cast<T&&>(initial)), true);
+    }
+    /// A switch, which is turned off by "no-" in front of its name.
+    Handle<bool> flag(const char* names, const char* description) { return option<bool>(names, description); }
+    /// Counts how often it is given: "-vvv" is three times.
+    Handle<int> counter(const char* names, const char* description) {
+        return declare(engine::roleOption, names, description,
+                       values::makeSlot<int>(values::counterShape(), 0), false);
+    }
+    /// An option whose values go into `variable`, which outlives the program. What it holds now is what
+    /// it holds again at the beginning of every parse.
+    template <class T>
+    Handle<T> bind(const char* names, T& variable, const char* description) {
+        return add<T>(engine::roleOption, names, description, variable, true, &variable);
+    }
+    /// An argument without a name. Several are filled in their order, required ones first; one of them
+    /// may be a list, which takes what the others leave: "cp SOURCE... DEST".
+    template <class T>
+    Handle<T> positional(const char* name, const char* description) {
+        return add<T>(engine::rolePositional, name, description, T(), false);
+    }
+    template <class T, class Held = values::HeldFor<T>>
+    Handle<Held> positional(const char* name, const char* description, T initial) {
+        return add<Held>(engine::rolePositional, name, description, Held(static_cast<T&&>(initial)), true);
+    }
+    /// Everything from the first argument without a name on, whatever it looks like: for programs that
+    /// run others.
+    template <class T>
+    Handle<T> rest(const char* name, const char* description) {
+        static_assert(values::isList<T>, "tarv: rest() is for lists");
+        return add<T>(engine::roleRest, name, description, T(), false);
+    }
+    /// One of several things that the command does, of which a command line names one: "tar --list". It
+    /// is a program of actions or of verbs, not of both.
+    Handle<bool> action(const char* names, const char* description) {
+        return add<bool>(engine::roleAction, names, description, false, false);
+    }
+
+    /// A verb, as "log" of "vcs log": the first argument without a name, which may be cut short. It has
+    /// options of its own, and all of those above it, which may stand in front of it as well.
+    Command& verb(const char* names, const char* description) {
+        engine::Command* const record = engine::addVerb(m_record, names, description);
+        Command* const made = record != nullptr ? new (std::nothrow) Command(record) : nullptr;
+        if (made == nullptr) {
+            engine::addOption(m_record, engine::roleOption, "", "", nullptr, 0);
+            return nothing();
+        }
+        made->m_next = m_verbs;
+        m_verbs = made;
+        return *made;
+    }
+
+    /// What `Program::run` does when the command line names this command: returns the exit code, or
+    /// nothing for 0. The body is kept: capture handles by value.
+    template <class F>
+    Command& does(F body) {
+        using Returned = std::invoke_result_t<F&>;
+        static_assert(std::is_void_v<Returned> || std::is_same_v<Returned, int>,
+                      "tarv: a body returns an int, the exit code, or nothing");
+        engine::setBody(m_record, values::makeBody(static_cast<F&&>(body)));
+        return *this;
+    }
+
+    ///@{
+    /// Rules over several options of this command and of those above it. Where the command line excludes
+    /// what only the environment or a settings file gave, that is not given.
+    template <class... T>
+    Command& atMostOne(Handle<T>... options) {
+        return rule(engine::atMostOne, options.option()...);
+    }
+    template <class... T>
+    Command& atLeastOne(Handle<T>... options) {
+        return rule(engine::atLeastOne, options.option()...);
+    }
+    template <class... T>
+    Command& exactlyOne(Handle<T>... options) {
+        return rule(engine::exactlyOne, options.option()...);
+    }
+    template <class... T>
+    Command& allOrNone(Handle<T>... options) {
+        return rule(engine::allOrNone, options.option()...);
+    }
+    ///@}
+
+    /// @cond
+protected:
+    explicit Command(engine::Command* record) : m_record(record) {}
+    Command(Command&& other) noexcept : m_record(other.m_record), m_verbs(other.m_verbs) {
+        other.m_record = nullptr;
+        other.m_verbs = nullptr;
+    }
+    ~Command() {
+        while (m_verbs != nullptr) {
+            Command* const gone = m_verbs;
+            m_verbs = gone->m_next;
+            delete gone;
+        }
+    }
+    void swap(Command& other) noexcept {
+        values::swap(m_record, other.m_record);
+        values::swap(m_verbs, other.m_verbs);
+    }
+
+    engine::Command* m_record;
+
+private:
+    template <class T>
+    Handle<T> add(int role, const char* names, const char* description, T initial, bool isDefault,
+                  T* variable = nullptr) {
+        values::Slot<T>* const slot = values::makeSlot<T>(values::shapeOf<T>(), static_cast<T&&>(initial));
+        if (slot != nullptr && variable != nullptr) {
+            slot->target = variable;
+        }
+        Handle<T> handle = declare(role, names, description, slot, isDefault && variable == nullptr);
+        if (isDefault && handle.option() != nullptr) {
+            values::showDefault(handle.option(), slot->initial);
+        }
+        return handle;
+    }
+    template <class T>
+    Handle<T> declare(int role, const char* names, const char* description, values::Slot<T>* slot,
+                      bool isDefault) {
+        const bool isKept = engine::addOption(m_record, role, names, description, slot, isDefault ? 1 : 0);
+        return isKept ? Handle<T>(slot) : Handle<T>();
+    }
+    template <class... Options>
+    Command& rule(int kind, Options... options) {
+        engine::Option* const list[] = {options...};
+        engine::addRule(m_record, kind, sizeof...(options), list);
+        return *this;
+    }
+    static Command& nothing() {
+        static Command command(static_cast<engine::Command*>(nullptr));
+        return command;
+    }
+
+    Command* m_verbs = nullptr;
+    Command* m_next = nullptr;
+    /// @endcond
+};
+
+/// What became of a command line in a test. The texts belong to the program, until its next parse.
+class Outcome {
+public:
+    /// Whether the program goes on: the command line was right, and asked for no help.
+    bool goesOn() const { return m_result.isDone == 0; }
+    /// What `run` would return; 0 when the program goes on.
+    int exitCode() const { return m_result.exitCode; }
+    ///@{
+    /// What `run` would print in a pipe.
+    const char* output() const { return m_result.output; }
+    const char* errors() const { return m_result.errors; }
+    ///@}
+
+    /// @cond
+    explicit Outcome(const engine::Result& result) : m_result(result) {}
+
+private:
+    engine::Result m_result;
+    /// @endcond
+};
+
+/// A command line: what it may hold, what it held, and what is done then. It moves; handles and verbs
+/// go with it.
+///
+/// Where nothing that was declared fits, "--help", "-h" and, with a version, "--version" are known by
+/// themselves, also cut short, and with verbs "help VERB". They answer before any complaint.
+///
+/// What surprises most is mended: a number with a minus is the value of an option that takes numbers; a
+/// lone "-" is a value; "--title=" has an empty value; only lists are split at commas.
+class Program : public Command {
+public:
+    /// The name is the one in messages. A null version is none.
+    explicit Program(const char* name, const char* version = nullptr, const char* description = "")
+        : Command(engine::createProgram(name, version, description)) {}
+    Program(Program&& other) noexcept : Command(static_cast<Command&&>(other)) {}
+    Program& operator=(Program&& other) noexcept {
+        swap(other);
+        return *this;
+    }
+    ~Program() { engine::destroy(m_record); }
+
+    /// One dash means letters only, joined as in "-vl3" and "-in"; "-l=3" stays what it is.
+    Program& joinLetters() {
+        engine::setJoinLetters(m_record);
+        return *this;
+    }
+    /// A file of settings, weaker than the environment, which need not be there. A line is an option as
+    /// on the command line, its dashes left out or not, by its whole name: "max-count=5"; one for a verb
+    /// is "log.max-count=5". Lines that are blank or begin with '#' or ';' are comments. All lines are
+    /// checked.
+    Program& settingsFile(const char* path) {
+        engine::setSettingsFile(m_record, path);
+        return *this;
+    }
+    /// An option that names one more file of settings, stronger than the other, which must be there.
+    template <class T = Text>
+    Handle<T> settingsOption(const char* names, const char* description) {
+        static_assert(values::isText<T>, "tarv: the name of a settings file is a text or a path");
+        Handle<T> made = option<T>(names, description).value("FILE");
+        engine::setSettingsOption(m_record, made.option());
+        return made;
+    }
+
+    /// Parses, prints what there is to say, and does what the command line asks for. Returns the exit
+    /// code: that of the body; 0 for help, 1 when it cannot be written; 2 for a wrong command line.
+    int run(int argc, const char* const* argv) {
+        const engine::Result* const result = drive(argc, argv, engine::purposeRun);
+        const int exitCode = engine::print(m_record);
+        return result->body == nullptr || result->isDone != 0 ? exitCode : result->body->call(result->body);
+    }
+    /// The same, with a body for the program itself.
+    template <class F>
+    int run(int argc, const char* const* argv, F body) {
+        does(static_cast<F&&>(body));
+        return run(argc, argv);
+    }
+
+    /// Parses and does nothing more: for tests of a host. Bodies do not run, nothing is printed.
+    Outcome parse(int argc, const char* const* argv) {
+        return Outcome(*drive(argc, argv, engine::purposeParse));
+    }
+
+    /// What is wrong with the declarations, a line each; "" when nothing is. The first parse tells the
+    /// assertion handler of each line.
+    const char* problems() { return engine::problems(m_record); }
+
+    /// @cond
+private:
+    const engine::Result* drive(int argc, const char* const* argv, int purpose) {
+        engine::begin(m_record, argc, argv, purpose);
+        engine::Step step = {sizeof(engine::Step), 0, nullptr, nullptr, nullptr, 0};
+        for (bool accepted = true; engine::next(m_record, accepted, &step);) {
+            accepted = values::perform(step);
+        }
+        return engine::result(m_record);
+    }
+    /// @endcond
+};
+
+} // namespace v1
+
+} // namespace tarv_3_3::typed

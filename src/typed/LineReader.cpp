@@ -1,0 +1,354 @@
+#include "typed/LineReader.h"
+
+#include <algorithm>
+#include <cstdlib>
+#include <cstring>
+
+#include "description/declarationFacts.h"
+#include "description/terminalText.h"
+#include "description/utf8.h"
+#include "parser/commandLine.h"
+#include "recognition/NameMatcher.h"
+#include "tarv_3_3/description.h"
+#include "typed/lastResort.h"
+#include "typed/messages.h"
+#include "typed/positionals.h"
+
+namespace tarv_3_3::typed::engine {
+
+using internal::terminalText;
+
+namespace {
+
+bool isDigit(char byte) {
+    return '0' <= byte && byte <= '9';
+}
+
+// "-5" and "-.5", with whatever may follow.
+bool looksNegative(const std::string& argument) {
+    return argument.size() > 1 && argument[0] == '-' &&
+           (isDigit(argument[1]) || (argument[1] == '.' && argument.size() > 2 && isDigit(argument[2])));
+}
+
+std::string typedName(const std::string& argument, const ReadArgument& read) {
+    return terminalText(argument.substr(0, read.token.nameEnd));
+}
+
+std::vector<std::string> dashedNames(const std::vector<std::string>& names) {
+    std::vector<std::string> list;
+    for (const std::string& name : names) {
+        list.push_back("'" + dashed(name) + "'");
+    }
+    return list;
+}
+
+std::vector<std::string> quotedNames(const std::vector<std::string>& names) {
+    std::vector<std::string> list;
+    for (const std::string& name : names) {
+        list.push_back("'" + name + "'");
+    }
+    return list;
+}
+
+Abbreviations wantedAbbreviations() {
+    const char* const text = std::getenv("TARV_ABBREVIATIONS");
+    const std::string_view wanted = text != nullptr ? text : "";
+    return wanted == "error"  ? Abbreviations::areRefused
+           : wanted == "warn" ? Abbreviations::areTold
+                              : Abbreviations::areTaken;
+}
+
+bool hasRest(const Command& command) {
+    return std::any_of(command.options.begin(), command.options.end(),
+                       [](const auto& option) { return option->role == roleRest; });
+}
+
+} // namespace
+
+LineReader::LineReader(Command& program, CommandLine& line)
+    : m_program(program), m_line(line), m_end(line.arguments.size()), m_abbreviations(wantedAbbreviations()) {
+    enter(program);
+}
+
+void LineReader::read() {
+    // The switch of the trace is no argument.
+    if (m_end > 1 && m_line.arguments[1] == logSwitch) {
+        ++m_next;
+    }
+    while (m_next < m_end) {
+        readArgument(m_next++);
+    }
+    finish();
+}
+
+void LineReader::readUpToLast() {
+    m_end = m_line.arguments.size() - 1;
+    while (m_next < m_end) {
+        readArgument(m_next++);
+    }
+}
+
+void LineReader::readArgument(std::size_t place) {
+    const std::string& argument = m_line.arguments[place];
+    const std::size_t dash = dashLength(argument);
+    if (m_isBehindMarker || m_isInRest || dash == 0 || argument == "-") {
+        readWord(place);
+    } else if (argument == endMarkerText) {
+        m_isBehindMarker = true;
+    } else if (m_program.joinsLetters && dashLength(argument.substr(dash)) == 0) {
+        readLetters(place, dash);
+    } else {
+        readName(place);
+    }
+}
+
+void LineReader::readWord(std::size_t place) {
+    if (!m_line.chosen->verbs.empty()) {
+        enterVerb(place);
+        return;
+    }
+    m_words.push_back(place);
+    m_isInRest = m_isInRest || hasRest(*m_line.chosen);
+}
+
+void LineReader::readName(std::size_t place) {
+    const std::string* const next =
+        place + 1 < m_line.arguments.size() ? &m_line.arguments[place + 1] : nullptr;
+    const ReadArgument read = m_reader->look(m_line.arguments[place], next);
+    if (read.role == ArgumentRole::named) {
+        readNamed(place, read);
+    } else if (!readRepeatedLetter(place, read)) {
+        readUnfit(place, read);
+    }
+}
+
+void LineReader::readNamed(std::size_t place, const ReadArgument& read) {
+    const std::string& argument = m_line.arguments[place];
+    const Option& option = *m_level.options[read.place];
+    if (read.isAbbreviated) {
+        noteAbbreviation(argument.substr(0, read.token.nameEnd),
+                         argument.substr(0, read.token.nameStart) + read.name);
+        m_front.push_back({place, &option, argument});
+    }
+    if (option.takesValue()) {
+        readValue(place, option, read);
+    } else if (!read.token.valueIn(argument).empty()) {
+        m_line.complain(messages::takesNoValue(terminalText(argument), dashed(read.name)));
+    } else {
+        add(option, place, read.isNegated ? "0" : "1");
+    }
+}
+
+// An empty value behind '=' or a blank is one, and never the next argument.
+void LineReader::readValue(std::size_t place, const Option& option, const ReadArgument& read) {
+    const std::string& argument = m_line.arguments[place];
+    if (read.token.hasValue) {
+        add(option, place, argument.c_str() + read.token.valueStart);
+    } else {
+        takeNextValue(place, option, argument);
+    }
+}
+
+void LineReader::takeNextValue(std::size_t place, const Option& option, const std::string& typed) {
+    if (place + 1 >= m_end) {
+        m_awaiting = &option;
+        m_line.complain(messages::valueIsMissing(terminalText(typed)));
+    } else if (isValueOf(option, m_line.arguments[place + 1])) {
+        add(option, place, m_line.arguments[place + 1].c_str());
+        ++m_next;
+    } else {
+        m_line.complain(messages::valueIsMissing(terminalText(typed)));
+    }
+}
+
+// What begins with a dash is an option, but for a lone one and for numbers.
+bool LineReader::isValueOf(const Option& option, const std::string& argument) const {
+    return !beginsWithHyphen(argument) || argument == "-" ||
+           (option.takesNumbers() && looksNegative(argument));
+}
+
+void LineReader::readUnfit(std::size_t place, const ReadArgument& read) {
+    const std::string& argument = m_line.arguments[place];
+    const std::string typed = typedName(argument, read);
+    if (read.role == ArgumentRole::ambiguous) {
+        NameMatcher matcher;
+        matcher.look(argument, m_level.parser->registry().m_options, nullptr);
+        m_line.complain(messages::ambiguousOption(typed, dashedNames(matcher.bestNames())));
+        return;
+    }
+    const Wish wish = read.token.hasValue ? Wish::none : wishOf(read.token.nameIn(argument), m_program);
+    if (wish == Wish::none) {
+        m_line.complain(messages::unknownOption(typed.empty() ? terminalText(argument) : typed),
+                        suggestionFor(argument));
+    } else if (m_line.wish == Wish::none) {
+        m_line.wish = wish;
+    }
+}
+
+// "-vvv"
+bool LineReader::readRepeatedLetter(std::size_t place, const ReadArgument& read) {
+    const std::string& argument = m_line.arguments[place];
+    const std::string_view letters = read.token.nameIn(argument);
+    const bool isRepeated = read.token.nameStart == dashLength(argument) && letters.size() > 1 &&
+                            letters.find_first_not_of(letters.front()) == std::string_view::npos;
+    const Option* const option =
+        isRepeated && !read.token.hasValue ? m_line.chosen->findOption(letters.substr(0, 1)) : nullptr;
+    if (option == nullptr || !option->isCounter()) {
+        return false;
+    }
+    for (std::size_t i = 0; i < letters.size(); ++i) {
+        add(*option, place, "1");
+    }
+    return true;
+}
+
+void LineReader::readLetters(std::size_t place, std::size_t behindDash) {
+    const std::string& argument = m_line.arguments[place];
+    std::size_t from = behindDash;
+    while (from < argument.size()) {
+        const std::size_t length =
+            std::max<std::size_t>(internal::utf8Length(std::string_view(argument).substr(from)), 1);
+        if (!readLetter(place, from, length)) {
+            return;
+        }
+        from += length;
+    }
+}
+
+// Whether letters may follow.
+bool LineReader::readLetter(std::size_t place, std::size_t from, std::size_t length) {
+    const std::string& argument = m_line.arguments[place];
+    const std::string letter = argument.substr(from, length);
+    const Option* const option = m_line.chosen->findOption(letter);
+    if (option == nullptr) {
+        if (letter == "h") {
+            m_line.wish = m_line.wish == Wish::none ? Wish::help : m_line.wish;
+            return true;
+        }
+        m_line.complain(messages::unknownOption(terminalText("-" + letter)));
+        return false;
+    }
+    if (!option->takesValue()) {
+        add(*option, place, "1");
+        return true;
+    }
+    const char* value = argument.c_str() + from + length;
+    if (*value == '\0') {
+        takeNextValue(place, *option, "-" + letter);
+    } else {
+        // "-l=3" is what it is elsewhere, and "-t=" has the value "=".
+        add(*option, place, value[0] == '=' && value[1] != '\0' ? value + 1 : value);
+    }
+    return false;
+}
+
+void LineReader::add(const Option& option, std::size_t place, const char* text) {
+    Occurrence occurrence;
+    occurrence.option = const_cast<Option*>(&option);
+    occurrence.text = text;
+    occurrence.place = static_cast<int>(place);
+    m_line.occurrences.push_back(occurrence);
+    const char separators[] = {option.separator, '\0'};
+    const bool isEmpty = text[std::strspn(text, separators)] == '\0';
+    if (option.takesValue() && isEmpty && !(option.mayBeEmpty && *text == '\0')) {
+        m_line.complain(shownOccurrence(m_line, occurrence) + ": " + messages::isEmpty);
+    }
+}
+
+// Whoever tests scripts asks for whole names.
+void LineReader::noteAbbreviation(const std::string& typed, const std::string& whole) {
+    if (typed == whole) {
+        return;
+    }
+    if (m_abbreviations == Abbreviations::areRefused) {
+        m_line.complain(messages::mustBeWhole(terminalText(typed), whole));
+    } else if (m_abbreviations == Abbreviations::areTold) {
+        m_line.warnings.push_back(messages::isShortFor(terminalText(typed), whole));
+    }
+}
+
+void LineReader::enter(Command& command) {
+    m_line.chosen = &command;
+    m_level = makeLevelParser(command);
+    m_reader = std::make_unique<Reader>(*m_level.parser);
+}
+
+// A word is a verb as a whole: it is looked up as if it had dashes, which it must not have.
+void LineReader::enterVerb(std::size_t place) {
+    const std::string& word = m_line.arguments[place];
+    if (m_isLost) {
+        return;
+    }
+    const std::unique_ptr<BasicParser> verbs = makeVerbParser(*m_line.chosen);
+    NameMatcher matcher;
+    const std::string argument = "--" + word;
+    NameOutcome outcome = matcher.look(argument, verbs->registry().m_options, &verbs->registry());
+    if (matcher.token().hasValue || dashLength(word) != 0) {
+        outcome = NameOutcome::none;
+    }
+    if (outcome == NameOutcome::found) {
+        Command& verb = *m_line.chosen->verbs[static_cast<std::size_t>(matcher.place())];
+        noteAbbreviation(word, matcher.bestNames().front());
+        enter(verb);
+    } else if (outcome == NameOutcome::ambiguous) {
+        m_isLost = true;
+        m_line.complain(messages::ambiguousVerb(terminalText(word), quotedNames(matcher.bestNames())));
+    } else if (!m_isHelpVerb && m_line.chosen == &m_program && wishOf(word, m_program) == Wish::help) {
+        m_isHelpVerb = true;
+        m_line.wish = m_line.wish == Wish::none ? Wish::help : m_line.wish;
+    } else {
+        m_isLost = true;
+        m_line.complain(messages::unknownVerb(terminalText(word)), verbSuggestionFor(word));
+    }
+}
+
+std::string LineReader::suggestionFor(const std::string& argument) const {
+    LevelParser level = makeLevelParser(*m_line.chosen);
+    for (const char* name : {"help", "version"}) {
+        if (m_line.chosen->findOption(name) == nullptr && (*name == 'h' || m_program.hasVersion)) {
+            level.parser->option(name, "", vtNull, "");
+        }
+    }
+    const char* const sentence = suggest(level.parser.get(), argument.c_str());
+    return sentence != nullptr ? sentence : "";
+}
+
+// Verbs are typed without dashes.
+std::string LineReader::verbSuggestionFor(const std::string& word) const {
+    const std::unique_ptr<BasicParser> verbs = makeVerbParser(*m_line.chosen);
+    const char* const found = suggest(verbs.get(), ("--" + word).c_str());
+    std::string sentence = found != nullptr ? found : "";
+    for (std::size_t at = sentence.find("'--"); at != std::string::npos; at = sentence.find("'--", at)) {
+        sentence.erase(at + 1, 2);
+    }
+    return sentence;
+}
+
+void LineReader::finish() {
+    checkFront();
+    if (m_line.wish != Wish::none) {
+        return;
+    }
+    Command& command = *m_line.chosen;
+    if (!command.verbs.empty() && command.body == nullptr) {
+        m_line.complain(messages::noVerb);
+    }
+    distribute(command, m_words, m_line);
+}
+
+void LineReader::checkFront() {
+    for (const Front& front : m_front) {
+        NameMatcher matcher;
+        const NameOutcome outcome =
+            matcher.look(front.argument, m_level.parser->registry().m_options, &m_level.parser->registry());
+        const std::string typed = terminalText(front.argument.substr(0, matcher.token().nameEnd));
+        if (outcome == NameOutcome::ambiguous) {
+            m_line.complain(messages::ambiguousOption(typed, dashedNames(matcher.bestNames())));
+        } else if (outcome == NameOutcome::found &&
+                   m_level.options[static_cast<std::size_t>(matcher.place())] != front.option) {
+            m_line.complain(messages::belongsBehindVerb(typed, m_line.chosen->name()));
+        }
+    }
+}
+
+} // namespace tarv_3_3::typed::engine

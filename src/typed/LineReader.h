@@ -1,0 +1,83 @@
+#pragma once
+
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "reading/Reader.h"
+#include "typed/CommandLine.h"
+#include "typed/levelParser.h"
+
+namespace tarv_3_3::typed::engine {
+
+/// What is done about names that are cut short: what the variable TARV_ABBREVIATIONS says.
+enum class Abbreviations { areTaken, areTold, areRefused };
+
+/// Reads the arguments of a command line: which option, verb or positional argument each one is. What the
+/// parse would refuse although everybody expects it is mended here. It goes on behind errors, since help
+/// may be asked for behind one.
+class LineReader {
+public:
+    LineReader(Command& program, CommandLine& line);
+
+    void read();
+
+    ///@{
+    /// Where the line has got to, for completion: the option whose value comes next, or null; whether
+    /// names are over; the words that are positional arguments.
+    const Option* awaiting() const { return m_awaiting; }
+    bool isBehindMarker() const { return m_isBehindMarker || m_isInRest; }
+    const std::vector<std::size_t>& words() const { return m_words; }
+    ///@}
+
+    /// Reads all arguments but the last, as far as that depends on them alone.
+    void readUpToLast();
+
+private:
+    void readArgument(std::size_t place);
+    void readWord(std::size_t place);
+    void readName(std::size_t place);
+    void readNamed(std::size_t place, const ReadArgument& read);
+    void readValue(std::size_t place, const Option& option, const ReadArgument& read);
+    void readUnfit(std::size_t place, const ReadArgument& read);
+    bool readRepeatedLetter(std::size_t place, const ReadArgument& read);
+    void readLetters(std::size_t place, std::size_t behindDash);
+    bool readLetter(std::size_t place, std::size_t from, std::size_t length);
+    void takeNextValue(std::size_t place, const Option& option, const std::string& typed);
+    void add(const Option& option, std::size_t place, const char* text);
+    void noteAbbreviation(const std::string& typed, const std::string& whole);
+    void enterVerb(std::size_t place);
+    void enter(Command& verb);
+    bool isValueOf(const Option& option, const std::string& argument) const;
+    std::string suggestionFor(const std::string& argument) const;
+    std::string verbSuggestionFor(const std::string& word) const;
+    void finish();
+    void checkFront();
+
+    /// An option cut short in front of a verb, which must be unique with the options of the verb, too.
+    struct Front {
+        std::size_t place;
+        const Option* option;
+        std::string argument;
+    };
+
+    Command& m_program;
+    CommandLine& m_line;
+    LevelParser m_level;
+    std::unique_ptr<Reader> m_reader;
+    std::vector<std::size_t> m_words;
+    std::vector<Front> m_front;
+    const Option* m_awaiting = nullptr;
+    std::size_t m_end;
+    std::size_t m_next = 1;
+    bool m_isBehindMarker = false;
+    /// Behind the first word of a command with a rest.
+    bool m_isInRest = false;
+    /// Behind "help", words name verbs alone.
+    bool m_isHelpVerb = false;
+    /// Behind a verb that nobody knows.
+    bool m_isLost = false;
+    const Abbreviations m_abbreviations;
+};
+
+} // namespace tarv_3_3::typed::engine

@@ -1,0 +1,86 @@
+#pragma once
+
+#include <deque>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "tarv_3_3/internal/typedEngine.h"
+
+namespace tarv_3_3::typed::engine {
+
+/// The numbers that are accepted, in the member that the kind of the option says; whole numbers that may
+/// be negative in `leastSigned` and `mostSigned`.
+struct Range {
+    bool isSet = false;
+    long long leastSigned = 0;
+    long long mostSigned = 0;
+    unsigned long long leastUnsigned = 0;
+    unsigned long long mostUnsigned = 0;
+    double leastReal = 0;
+    double mostReal = 0;
+};
+
+/// What was declared of an option, an action or a positional argument. Lives as long as its program, in one
+/// place.
+struct Option {
+    ~Option() { state->shape->destroy(state); }
+
+    const Shape& shape() const { return *state->shape; }
+    const std::string& name() const { return names.front(); }
+    bool isPositional() const { return role == rolePositional || role == roleRest; }
+    bool isMany() const { return shape().holds == holdsMany; }
+    /// Whether its name alone says everything, and "no-" in front of it the contrary.
+    bool isSwitch() const { return role == roleOption && shape().kind == kindSwitch && !isMany(); }
+    bool isCounter() const { return shape().kind == kindCounter; }
+    bool takesValue() const { return role != roleAction && !isSwitch() && !isCounter(); }
+    bool takesNumbers() const {
+        const int kind = shape().kind;
+        return kind == kindSigned || kind == kindUnsigned || kind == kindReal || kind == kindSize ||
+               kind == kindDuration;
+    }
+    bool hasName(std::string_view wanted) const;
+    bool isGiven() const { return state->given != 0; }
+
+    State* state = nullptr;
+    Command* owner = nullptr;
+    int role = roleOption;
+    /// The primary one first; never empty.
+    std::vector<std::string> names;
+    std::string text;
+    std::string topic;
+    std::string valueName;
+    std::string environment;
+    std::string completeAs;
+    std::string insteadOfIt;
+    bool isDeprecated = false;
+    bool isRequired = false;
+    bool isHidden = false;
+    bool mayBeEmpty = false;
+    /// Whether a default was given, and how its elements are shown.
+    bool hasDefault = false;
+    std::vector<std::string> defaults;
+    char separator = '\0';
+    unsigned least = 0;
+    /// 0 for any number.
+    unsigned most = 0;
+    Range range;
+    /// What a value may be, as it is typed; of an enumeration, its names.
+    std::vector<std::string> choices;
+    /// What checks ask for; a deque leaves them where they are.
+    std::deque<std::string> musts;
+    std::vector<Option*> needed;
+    std::vector<Option*> actions;
+    /// What is wrong with its refinements.
+    std::vector<std::string> faults;
+
+    ///@{
+    /// Of the parse at hand: the index in `argv` of each occurrence, and the value of the last one.
+    std::vector<int> positions;
+    const char* lastText = "";
+    /// Whether an element was stored, of a list the first one.
+    bool isBegun = false;
+    ///@}
+};
+
+} // namespace tarv_3_3::typed::engine

@@ -1,0 +1,185 @@
+#include "typed/Session.h"
+
+#include <algorithm>
+#include <unordered_map>
+#include <unordered_set>
+
+#include "typed/LineReader.h"
+#include "typed/help.h"
+#include "typed/layers.h"
+#include "typed/messages.h"
+#include "typed/rules.h"
+
+namespace tarv_3_3::typed::engine {
+
+namespace {
+
+// What is given several times on a command line is one number.
+void countCounters(CommandLine& line) {
+    std::unordered_map<const Option*, int> counts;
+    for (Occurrence& occurrence : line.occurrences) {
+        if (occurrence.option->isCounter() && occurrence.source == fromCommandLine) {
+            occurrence.text = line.keep(std::to_string(++counts[occurrence.option]));
+        }
+    }
+}
+
+void warnOfDeprecated(CommandLine& line) {
+    std::unordered_set<const Option*> told;
+    for (const Occurrence& occurrence : line.occurrences) {
+        const Option& option = *occurrence.option;
+        if (option.isDeprecated && !occurrence.isOnlyChecked && told.insert(&option).second) {
+            line.warnings.push_back(messages::isDeprecated(shownName(option), option.insteadOfIt));
+        }
+    }
+}
+
+} // namespace
+
+Session::Session(Command& program, int argc, const char* const* argv, int purpose)
+    : m_program(program), m_purpose(purpose), m_line(program, argc, argv) {
+    forEachOptionBelow(program, [&](Option& option) { m_all.push_back(&option); });
+    m_taking.keptTexts = &program.keptTexts;
+}
+
+void Session::read() {
+    LineReader(m_program, m_line).read();
+    if (m_line.wish == Wish::none && !m_line.hasComplaint) {
+        readEnvironment(*m_line.chosen, m_line);
+        readSettings(m_program, m_line);
+    }
+    warnOfDeprecated(m_line);
+    countCounters(m_line);
+    noteGiven(m_program, m_line);
+    dropExcluded(m_line);
+}
+
+bool Session::next(bool accepted, Step& step) {
+    judge(accepted);
+    if (nextRestore(step) || nextTake(step)) {
+        return true;
+    }
+    finish();
+    return false;
+}
+
+bool Session::nextRestore(Step& step) {
+    if (m_restored == m_all.size()) {
+        return false;
+    }
+    step.kind = stepRestore;
+    step.state = m_all[m_restored++]->state;
+    return true;
+}
+
+bool Session::nextTake(Step& step) {
+    if (m_line.wish != Wish::none || m_line.hasComplaint || !findTake()) {
+        return false;
+    }
+    const Occurrence& occurrence = m_line.occurrences[m_taken];
+    Option& option = *occurrence.option;
+    m_taking.option = &option;
+    m_taking.mayBeCut = occurrence.source == fromCommandLine;
+    m_taking.isRefused = false;
+    m_taking.reason.clear();
+    m_isTaking = true;
+    step.kind = stepTake;
+    step.state = option.state;
+    step.taking = &m_taking;
+    step.text = nextPiece();
+    step.mode = occurrence.isOnlyChecked ? takeCheck : option.isBegun ? takeNext : takeFirst;
+    option.isBegun = option.isBegun || step.mode == takeFirst;
+    return true;
+}
+
+// Whether there is a value left; the occurrence at hand then has it.
+bool Session::findTake() {
+    while (m_taken < m_line.occurrences.size()) {
+        const Occurrence& occurrence = m_line.occurrences[m_taken];
+        const char separator = occurrence.option->isPositional() ? '\0' : occurrence.option->separator;
+        if (!m_isWithin) {
+            m_rest = occurrence.text;
+            m_isWithin = true;
+            if (separator == '\0' || m_rest.empty()) {
+                return true;
+            }
+        }
+        const std::size_t start =
+            separator != '\0' ? m_rest.find_first_not_of(separator) : std::string_view::npos;
+        if (start != std::string_view::npos) {
+            m_rest.remove_prefix(start);
+            return true;
+        }
+        m_isWithin = false;
+        ++m_taken;
+    }
+    return false;
+}
+
+const char* Session::nextPiece() {
+    const Occurrence& occurrence = m_line.occurrences[m_taken];
+    const char separator = occurrence.option->isPositional() ? '\0' : occurrence.option->separator;
+    if (separator == '\0') {
+        m_rest = {};
+        return occurrence.text;
+    }
+    m_piece = m_rest.substr(0, m_rest.find(separator));
+    m_rest.remove_prefix(m_piece.size());
+    return m_piece.c_str();
+}
+
+void Session::judge(bool accepted) {
+    if (!m_isTaking) {
+        return;
+    }
+    m_isTaking = false;
+    if (m_taking.isOutOfMemory) {
+        m_program.isOutOfMemory = true;
+    }
+    if (!accepted || m_taking.isRefused) {
+        const std::string reason = m_taking.reason.empty() ? messages::isNotValid : m_taking.reason;
+        m_line.complain(shownOccurrence(m_line, m_line.occurrences[m_taken]) + ": " + reason);
+    }
+}
+
+void Session::finish() {
+    if (m_isFinished) {
+        return;
+    }
+    m_isFinished = true;
+    if (m_line.wish == Wish::none && !m_line.hasComplaint) {
+        checkRules(m_line);
+    }
+    sayAll();
+}
+
+void Session::sayAll() {
+    if (m_line.wish == Wish::help) {
+        m_output = renderHelp(*m_line.chosen, helpStyle(m_purpose == purposeRun));
+        return;
+    }
+    if (m_line.wish == Wish::version) {
+        m_output = m_program.name() + " " + m_program.version + "\n";
+        return;
+    }
+    for (const std::string& warning : m_line.warnings) {
+        m_errors += m_program.name() + ": " + warning + "\n";
+    }
+    if (m_line.hasComplaint) {
+        m_errors += m_program.name() + ": " + m_line.complaint + "\n";
+        m_errors += m_line.suggestion.empty() ? "" : m_line.suggestion + "\n";
+        m_errors += messages::tryHelp(m_line.chosen->path()) + "\n";
+    }
+}
+
+Result Session::result() {
+    Result result = {};
+    result.isDone = m_line.wish != Wish::none || m_line.hasComplaint ? 1 : 0;
+    result.exitCode = m_line.wish == Wish::none && m_line.hasComplaint ? 2 : 0;
+    result.output = m_output.c_str();
+    result.errors = m_errors.c_str();
+    result.body = result.isDone != 0 ? nullptr : m_line.chosen->body;
+    return result;
+}
+
+} // namespace tarv_3_3::typed::engine

@@ -1,0 +1,129 @@
+#include <memory>
+#include <new>
+
+#include "typed/Session.h"
+#include "typed/enumerators.h"
+#include "typed/guarded.h"
+
+namespace tarv_3_3::typed::engine {
+
+namespace {
+
+// The state goes with the option even where the option cannot be made.
+struct StateOwner {
+    ~StateOwner() {
+        if (state != nullptr) {
+            state->shape->destroy(state);
+        }
+    }
+    State* state;
+};
+
+std::vector<std::string> choicesOf(const Shape& shape) {
+    std::vector<std::string> choices;
+    if (shape.spelling != nullptr) {
+        return enumeratorNames(shape.spelling);
+    }
+    for (int place = 0; shape.choiceAt != nullptr && shape.choiceAt(place) != nullptr; ++place) {
+        choices.emplace_back(shape.choiceAt(place));
+    }
+    return choices;
+}
+
+std::unique_ptr<Option> makeOption(Command& command, int role, const char* names, const char* description,
+                                   const Shape& shape) {
+    auto option = std::make_unique<Option>();
+    option->owner = &command;
+    option->role = role;
+    option->names = namesOf(names);
+    option->text = description != nullptr ? description : "";
+    option->choices = choicesOf(shape);
+    option->separator = role == roleOption && shape.holds == holdsMany ? ',' : '\0';
+    option->most = shape.holds == holdsMany ? 0 : 1;
+    option->completeAs = shape.isPath != 0 ? "file" : "";
+    return option;
+}
+
+} // namespace
+
+Command* createProgram(const char* name, const char* version, const char* description) {
+    try {
+        auto program = std::make_unique<Command>(nullptr, "", description);
+        program->names.front() = name != nullptr ? name : "";
+        program->hasVersion = version != nullptr;
+        program->version = version != nullptr ? version : "";
+        program->outOfMemory = program->name() + ": out of memory\n";
+        return program.release();
+    } catch (const std::exception&) {
+        return nullptr;
+    }
+}
+
+void destroy(Command* program) {
+    delete program;
+}
+
+Command* addVerb(Command* parent, const char* names, const char* description) {
+    Command* added = nullptr;
+    guarded(parent, [&] {
+        parent->verbs.push_back(std::make_unique<Command>(parent, names, description));
+        added = parent->verbs.back().get();
+    });
+    return added;
+}
+
+void setBody(Command* command, Body* body) {
+    if (command == nullptr) {
+        if (body != nullptr) {
+            body->destroy(body);
+        }
+        return;
+    }
+    if (command->body != nullptr) {
+        command->body->destroy(command->body);
+    }
+    command->body = body;
+    if (body == nullptr) {
+        command->program().isOutOfMemory = true;
+    }
+}
+
+bool addOption(Command* command, int role, const char* names, const char* description, State* state,
+               unsigned initialIsDefault) {
+    if (state == nullptr) {
+        guarded(command, [] { throw std::bad_alloc(); });
+        return false;
+    }
+    StateOwner owner{state};
+    guarded(command, [&] {
+        command->options.reserve(command->options.size() + 1);
+        std::unique_ptr<Option> option = makeOption(*command, role, names, description, *state->shape);
+        option->hasDefault = initialIsDefault != 0;
+        option->state = owner.state;
+        owner.state->option = option.get();
+        owner.state = nullptr;
+        command->options.push_back(std::move(option));
+    });
+    return owner.state == nullptr;
+}
+
+void addRule(Command* command, int kind, unsigned count, Option* const* options) {
+    guarded(command, [&] {
+        std::vector<Option*> list(options, options + count);
+        command->rules.push_back({kind, std::move(list)});
+    });
+}
+
+void setJoinLetters(Command* program) {
+    guarded(program, [&] { program->joinsLetters = true; });
+}
+
+void setSettingsFile(Command* program, const char* path) {
+    guarded(program, [&] { program->settingsFile = path != nullptr ? path : ""; });
+}
+
+void setSettingsOption(Command* program, Option* option) {
+    guarded(program, [&] { program->settingsOption = option; });
+}
+
+} // namespace tarv_3_3::typed::engine

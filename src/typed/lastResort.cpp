@@ -1,0 +1,23 @@
+#include "typed/lastResort.h"
+
+#include "recognition/nameMatching.h"
+
+namespace tarv_3_3::typed::engine {
+
+namespace {
+
+bool fits(std::string_view typed, std::string_view name) {
+    const NameScore score = scoreName(typed, name);
+    return score.sameWordCount && score.score > 0;
+}
+
+} // namespace
+
+Wish wishOf(std::string_view name, const Command& program) {
+    return name.empty()                                  ? Wish::none
+           : fits(name, "help")                          ? Wish::help
+           : program.hasVersion && fits(name, "version") ? Wish::version
+                                                         : Wish::none;
+}
+
+} // namespace tarv_3_3::typed::engine

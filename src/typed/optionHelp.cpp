@@ -1,0 +1,114 @@
+#include "typed/optionHelp.h"
+
+#include <string_view>
+
+#include "typed/CommandLine.h"
+#include "typed/ranges.h"
+
+namespace tarv_3_3::typed::engine {
+
+namespace {
+
+const char* kindName(const Option& option) {
+    switch (option.shape().kind) {
+    case kindSigned:
+    case kindUnsigned:
+    case kindReal:
+        return "NUMBER";
+    case kindChoice:
+        return "WORD";
+    case kindByte:
+        return "CHAR";
+    case kindSize:
+        return "SIZE";
+    case kindDuration:
+        return "TIME";
+    case kindText:
+        break;
+    default:
+        return "VALUE";
+    }
+    return option.shape().isPath != 0 ? "FILE" : option.choices.empty() ? "TEXT" : "WORD";
+}
+
+bool isOnByDefault(const Option& option) {
+    return option.isSwitch() && option.hasDefault && option.defaults.front() == "on";
+}
+
+std::string joined(const std::vector<std::string>& words, std::string_view separator) {
+    std::string text;
+    for (const std::string& word : words) {
+        text.append(text.empty() ? "" : separator).append(word);
+    }
+    return text;
+}
+
+void add(std::vector<std::string>& facts, const char* label, const std::string& fact) {
+    if (!fact.empty()) {
+        facts.push_back(label + fact);
+    }
+}
+
+std::vector<std::string> factsOf(const Option& option) {
+    std::vector<std::string> facts;
+    add(facts, option.choices.size() > 1 ? "one of " : "", joined(option.choices, ", "));
+    add(facts, "", hasRange(option) ? rangeText(option) : "");
+    for (const std::string& must : option.musts) {
+        add(facts, "", must);
+    }
+    add(facts, "", option.isRequired && !option.isPositional() ? "required" : "");
+    if (!option.isSwitch()) {
+        const std::string separator(1, option.separator != '\0' ? option.separator : ' ');
+        add(facts, "default: ", joined(option.defaults, separator));
+    }
+    add(facts, "environment: ", option.environment);
+    if (option.isDeprecated) {
+        add(facts, "", "deprecated" + (option.insteadOfIt.empty() ? "" : ", use " + option.insteadOfIt));
+    }
+    return facts;
+}
+
+} // namespace
+
+std::string valueName(const Option& option) {
+    const std::string name = option.valueName.empty() ? kindName(option) : option.valueName;
+    const bool isSplit = option.isMany() && option.separator != '\0';
+    return isSplit ? name + option.separator + "..." : name;
+}
+
+std::string namesSynopsis(const std::vector<std::string>& names) {
+    std::string letters;
+    std::string words;
+    for (const std::string& name : names) {
+        std::string& list = name.size() == 1 ? letters : words;
+        list.append(list.empty() ? "" : ", ").append(dashed(name));
+    }
+    return letters.empty() ? "    " + words : words.empty() ? letters : letters + ", " + words;
+}
+
+std::string optionSynopsis(const Option& option) {
+    std::vector<std::string> names = option.names;
+    if (isOnByDefault(option)) {
+        for (std::string& name : names) {
+            name.insert(0, "no-");
+        }
+    }
+    const std::string synopsis = namesSynopsis(names);
+    return option.takesValue() ? synopsis + "=" + valueName(option) : synopsis;
+}
+
+std::string argumentSynopsis(const Option& option) {
+    const bool isNeeded = option.isRequired || option.least > 0;
+    const std::string name = argumentName(option);
+    return (isNeeded ? name : "[" + name + "]") + (option.isMany() ? "..." : "");
+}
+
+std::string optionText(const Option& option) {
+    const std::string facts = joined(factsOf(option), "; ");
+    if (facts.empty()) {
+        return option.text;
+    }
+    return option.text + (option.text.empty() ? "(" : " (") + facts + ")";
+}
+
+} // namespace tarv_3_3::typed::engine

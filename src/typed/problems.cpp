@@ -1,0 +1,183 @@
+#include "typed/problems.h"
+
+#include <set>
+
+#include "recognition/tokenSyntax.h"
+#include "typed/CommandLine.h"
+#include "typed/Taking.h"
+#include "typed/positionals.h"
+
+namespace tarv_3_3::typed::engine {
+
+namespace {
+
+bool isOneOf(const std::string& text, std::initializer_list<const char*> texts) {
+    for (const char* known : texts) {
+        if (text == known) {
+            return true;
+        }
+    }
+    return false;
+}
+
+/// Looks at a program, verb by verb.
+class ProblemFinder {
+public:
+    void look(Command& command, const std::set<std::string>& namesAbove) {
+        m_where = command.path();
+        std::set<std::string> names = namesAbove;
+        for (const std::unique_ptr<Option>& option : command.options) {
+            lookAtNames(*option, names, namesAbove);
+            lookAtOption(*option);
+        }
+        lookAtPositionals(command);
+        lookAtRules(command);
+        lookAtVerbs(command);
+        for (const std::unique_ptr<Command>& verb : command.verbs) {
+            look(*verb, names);
+        }
+    }
+
+    std::vector<std::string> take() { return std::move(m_problems); }
+
+private:
+    void add(const std::string& name, const std::string& what) {
+        m_problems.push_back(m_where + ": '" + name + "': " + what);
+    }
+
+    // Whether what every name must be holds.
+    void lookAtName(const std::string& name) {
+        if (name.empty()) {
+            add(name, "a name is empty");
+        } else if (dashLength(name) != 0) {
+            add(name, "names are without dashes in front");
+        } else if (name.find_first_of("= \t\n\v\f\r") != std::string::npos) {
+            add(name, "a name has no blank and no '='");
+        }
+    }
+
+    void lookAtNames(const Option& option, std::set<std::string>& names, const std::set<std::string>& above) {
+        for (const std::string& name : option.names) {
+            lookAtName(name);
+            if (option.isPositional()) {
+                continue;
+            }
+            takeName(name, names, above);
+            if (option.isSwitch()) {
+                takeName("no-" + name, names, above);
+            }
+        }
+    }
+
+    void takeName(const std::string& name, std::set<std::string>& names, const std::set<std::string>& above) {
+        if (!names.insert(name).second) {
+            add(name, above.count(name) != 0 ? "the name is taken by an option of the command above"
+                                             : "the name is taken");
+        }
+    }
+
+    void lookAtOption(Option& option) {
+        for (const std::string& fault : option.faults) {
+            add(option.name(), fault);
+        }
+        if (option.isRequired && option.hasDefault) {
+            add(option.name(), "it is required and has a default");
+        }
+        if (!option.isPositional() && option.least + option.most > 1 && option.least != 0) {
+            add(option.name(), "times() is for positional arguments");
+        }
+        if (option.most != 0 && option.least > option.most) {
+            add(option.name(), "it takes fewer arguments at most than at least");
+        }
+        if (!isOneOf(option.completeAs, {"", "file", "directory", "none"})) {
+            add(option.name(), "shells complete \"file\", \"directory\" or \"none\"");
+        }
+        lookAtDefault(option);
+        lookAtOthers(option);
+    }
+
+    void lookAtDefault(Option& option) {
+        if (!option.hasDefault || option.isSwitch()) {
+            return;
+        }
+        for (const std::string& text : option.defaults) {
+            Taking taking;
+            taking.option = &option;
+            const bool isTextAtWill = text.empty() && option.choices.empty();
+            if (option.shape().kind != kindForeign && !isTextAtWill && !isValue(taking, text.c_str())) {
+                add(option.name(), "its default " + text + " " + taking.reason);
+            }
+        }
+    }
+
+    void lookAtOthers(const Option& option) {
+        for (const Option* needed : option.needed) {
+            if (needed == nullptr || !option.owner->isWithin(*needed->owner)) {
+                add(option.name(), "it needs an option that does not go with it");
+            }
+        }
+        for (const Option* action : option.actions) {
+            if (action == nullptr || action->role != roleAction) {
+                add(option.name(), "goesWith() takes actions");
+            }
+        }
+    }
+
+    void lookAtPositionals(const Command& command) {
+        int lists = 0;
+        bool isBehindRest = false;
+        for (const Option* option : positionalsOf(command)) {
+            lists += option->isMany() ? 1 : 0;
+            if (isBehindRest) {
+                add(option->name(), "nothing stands behind a rest");
+            } else if (option->isMany() && lists > 1) {
+                add(option->name(), "a second list of positional arguments");
+            }
+            isBehindRest = isBehindRest || option->role == roleRest;
+            if (!command.verbs.empty()) {
+                add(option->name(), "a command with verbs takes no positional arguments");
+            }
+        }
+    }
+
+    void lookAtRules(const Command& command) {
+        for (const GroupRule& rule : command.rules) {
+            if (rule.options.size() < 2) {
+                add(command.name(), "a rule is over two options or more");
+            }
+            for (const Option* option : rule.options) {
+                if (option == nullptr || !command.isWithin(*option->owner)) {
+                    add(option != nullptr ? option->name() : "", "a rule is over options of another command");
+                }
+            }
+        }
+    }
+
+    void lookAtVerbs(const Command& command) {
+        std::set<std::string> names;
+        for (const std::unique_ptr<Command>& verb : command.verbs) {
+            for (const std::string& name : verb->names) {
+                lookAtName(name);
+                if (!names.insert(name).second) {
+                    add(name, "the name of the verb is taken");
+                }
+            }
+        }
+        if (!command.verbs.empty() && command.hasActions()) {
+            add(command.name(), "a program has verbs or actions, not both");
+        }
+    }
+
+    std::string m_where;
+    std::vector<std::string> m_problems;
+};
+
+} // namespace
+
+std::vector<std::string> findProblems(Command& program) {
+    ProblemFinder finder;
+    finder.look(program, {});
+    return finder.take();
+}
+
+} // namespace tarv_3_3::typed::engine

@@ -1,0 +1,193 @@
+#include <cstdlib>
+#include <filesystem>
+#include <string>
+#include <vector>
+
+#include <gtest/gtest.h>
+
+#include "support/TypedLine.h"
+
+namespace {
+
+namespace tarv = tarv_3_3::typed;
+
+enum class Format { png, jpeg };
+
+std::string helpAt(tarv::Program& program, const char* columns, const std::vector<std::string>& line) {
+    setenv("COLUMNS", columns, 1);
+    const std::string outcome = parseLine(program, line);
+    unsetenv("COLUMNS");
+    return "\n" + outcome;
+}
+
+tarv::Program convert() {
+    tarv::Program program("convert", "2.1", "Converts images. Überall, 日本語でも画像を変換します。");
+    program.option("to,t", "The format to write.", Format::png);
+    program.option("quality,q", "Of lossy formats.", 85).range(1, 100).env("CONVERT_QUALITY");
+    program.option<std::vector<int>>("size,s", "Widths to make.").separator(':');
+    program.option("output", "The folder to write to.", std::filesystem::path(".")).value("FOLDER");
+    program.option("color", "Keep colours.", true);
+    program.flag("secret", "Not shown.").hidden();
+    program.option<std::string>("an-option-with-a-very-long-name", "Its text is on a line of its own.");
+    program.flag("fast", "Hurry.").topic("Speed");
+    program.option<int>("even", "").check("even", [](int value) { return value % 2 == 0; }).required();
+    program.flag("old", "Gone soon.").deprecated("--fast");
+    program.positional<std::vector<std::filesystem::path>>("image", "What to convert.").required();
+    program.positional<std::string>("target", "");
+    return program;
+}
+
+TEST(TypedHelp, IsLaidOutForEightyColumns) {
+    tarv::Program program = convert();
+    EXPECT_EQ(helpAt(program, "", {"--help"}), R"(
+0 Usage: convert [OPTION]... IMAGE... [TARGET]
+Converts images. Überall, 日本語でも画像を変換します。
+
+Arguments:
+  IMAGE...               What to convert.
+
+Options:
+  -t, --to=WORD          The format to write. (one of png, jpeg; default: png)
+  -q, --quality=NUMBER   Of lossy formats. (from 1 to 100; default: 85;
+                         environment: CONVERT_QUALITY)
+  -s, --size=NUMBER:...  Widths to make.
+      --output=FOLDER    The folder to write to. (default: .)
+      --no-color         Keep colours.
+      --an-option-with-a-very-long-name=TEXT
+                         Its text is on a line of its own.
+      --even=NUMBER      (even; required)
+      --old              Gone soon. (deprecated, use --fast)
+  -h, --help             Show this help.
+      --version          Show the version.
+
+Speed:
+      --fast             Hurry.
+)");
+}
+
+TEST(TypedHelp, IsLaidOutForFortyColumns) {
+    tarv::Program program = convert();
+    EXPECT_EQ(helpAt(program, "40", {"--help"}), R"(
+0 Usage: convert [OPTION]... IMAGE...
+       [TARGET]
+Converts images. Überall, 日本語でも画像
+を変換します。
+
+Arguments:
+  IMAGE...              What to convert.
+
+Options:
+  -t, --to=WORD         The format to
+                        write. (one of
+                        png, jpeg;
+                        default: png)
+  -q, --quality=NUMBER  Of lossy
+                        formats. (from 1
+                        to 100; default:
+                        85; environment:
+                        CONVERT_QUALITY)
+  -s, --size=NUMBER:...
+                        Widths to make.
+      --output=FOLDER   The folder to
+                        write to.
+                        (default: .)
+      --no-color        Keep colours.
+      --an-option-with-a-very-long-name=TEXT
+                        Its text is on a
+                        line of its own.
+      --even=NUMBER     (even; required)
+      --old             Gone soon.
+                        (deprecated, use
+                        --fast)
+  -h, --help            Show this help.
+      --version         Show the
+                        version.
+
+Speed:
+      --fast            Hurry.
+)");
+}
+
+TEST(TypedHelp, IsLaidOutForTwoHundredColumns) {
+    tarv::Program program("wide", nullptr, "");
+    program.option<std::string>("text",
+                                "A text that is much longer than a line of eighty columns could ever be, "
+                                "but not so long that two hundred would not be enough for it.");
+    EXPECT_EQ(helpAt(program, "200", {"--help"}), R"(
+0 Usage: wide [OPTION]...
+
+Options:
+      --text=TEXT  A text that is much longer than a line of eighty columns could ever be, but not so long that two hundred would not be enough for it.
+  -h, --help       Show this help.
+)");
+}
+
+TEST(TypedHelp, OfVerbsListsTheirOwnOptionsFirst) {
+    tarv::Program program("vcs", "1.0", "Tracks versions.");
+    program.option<std::string>("host,h", "Where.");
+    tarv::Command& log = program.verb("log", "Show the history.");
+    log.flag("graph", "Draw.");
+    tarv::Command& remote = program.verb("remote,rem", "Others.");
+    remote.verb("add", "One more.").does([] {});
+    EXPECT_EQ(helpAt(program, "80", {"--help"}), R"(
+0 Usage: vcs [OPTION]... VERB [ARGUMENT]...
+Tracks versions.
+
+Verbs:
+  log              Show the history.
+  remote, rem      Others.
+
+Options:
+  -h, --host=TEXT  Where.
+      --help       Show this help.
+      --version    Show the version.
+
+Try 'vcs help VERB' to read more about a verb.
+)");
+    EXPECT_EQ(helpAt(program, "80", {"log", "--help"}), R"(
+0 Usage: vcs log [OPTION]...
+Show the history.
+
+Options:
+      --graph      Draw.
+      --help       Show this help.
+      --version    Show the version.
+
+Options of vcs:
+  -h, --host=TEXT  Where.
+)");
+    EXPECT_EQ(helpAt(program, "80", {"remote", "--help"}), R"(
+0 Usage: vcs remote [OPTION]... VERB [ARGUMENT]...
+Others.
+
+Verbs:
+  add              One more.
+
+Options:
+      --help       Show this help.
+      --version    Show the version.
+
+Options of vcs:
+  -h, --host=TEXT  Where.
+
+Try 'vcs remote VERB --help' to read more about a verb.
+)");
+}
+
+TEST(TypedHelp, ListsActions) {
+    tarv::Program program("tar", nullptr, "");
+    program.action("list,t", "List it.");
+    program.action("extract,x", "Extract it.");
+    EXPECT_EQ(helpAt(program, "80", {"--help"}), R"(
+0 Usage: tar [OPTION]...
+
+Actions:
+  -t, --list     List it.
+  -x, --extract  Extract it.
+
+Options:
+  -h, --help     Show this help.
+)");
+}
+
+} // namespace

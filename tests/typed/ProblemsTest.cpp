@@ -1,0 +1,100 @@
+#include <string>
+#include <vector>
+
+#include <gtest/gtest.h>
+
+#include "support/CapturedAssertions.h"
+#include "support/TypedLine.h"
+
+namespace {
+
+namespace tarv = tarv_3_3::typed;
+
+enum class Paper { a4, letter };
+
+using Texts = std::vector<std::string>;
+
+template <class Declare>
+std::string problemsOf(Declare declare) {
+    tarv::Program program("p");
+    declare(program);
+    return program.problems();
+}
+
+TEST(TypedProblems, AreNamedWithTheirOption) {
+    EXPECT_EQ(problemsOf([](tarv::Program& p) { p.flag("a", "").env("A").topic("T").hidden(); }), "");
+    EXPECT_EQ(problemsOf([](tarv::Program& p) {
+                  p.flag("level", "");
+                  p.option<int>("x,level", "");
+              }),
+              "p: 'level': the name is taken\n");
+    EXPECT_EQ(problemsOf([](tarv::Program& p) {
+                  p.flag("color", "");
+                  p.option<int>("no-color", "");
+              }),
+              "p: 'no-color': the name is taken\n");
+    EXPECT_EQ(problemsOf([](tarv::Program& p) { p.flag("--level", ""); }),
+              "p: '--level': names are without dashes in front\n");
+    EXPECT_EQ(problemsOf([](tarv::Program& p) { p.flag("", ""); }), "p: '': a name is empty\n");
+    EXPECT_EQ(problemsOf([](tarv::Program& p) { p.flag("a b,c=d", ""); }),
+              "p: 'a b': a name has no blank and no '='\np: 'c=d': a name has no blank and no '='\n");
+    EXPECT_EQ(problemsOf([](tarv::Program& p) { p.option("x", "", 1).required(); }),
+              "p: 'x': it is required and has a default\n");
+    EXPECT_EQ(problemsOf([](tarv::Program& p) { p.option("x", "", 0).range(1, 9); }),
+              "p: 'x': its default 0 must be from 1 to 9\n");
+    EXPECT_EQ(problemsOf([](tarv::Program& p) { p.option("x", "", "grey").oneOf("red", "blue"); }),
+              "p: 'x': its default grey must be one of red or blue\n");
+    EXPECT_EQ(problemsOf([](tarv::Program& p) { p.option("x", "", static_cast<Paper>(7)); }),
+              "p: 'x': its default has no name\np: 'x': its default  must be one of a4 or letter\n");
+    EXPECT_EQ(problemsOf([](tarv::Program& p) { p.option<int>("x", "").range(9, 1); }),
+              "p: 'x': the least number of the range is over the greatest one\n");
+    volatile int low = -1;
+    EXPECT_EQ(problemsOf([&](tarv::Program& p) {
+                  p.option<unsigned char>("x", "").range(static_cast<int>(low), 9);
+              }),
+              "p: 'x': a bound of the range is outside of its type\n");
+    EXPECT_EQ(problemsOf([](tarv::Program& p) {
+                  p.positional<Texts>("a", "");
+                  p.positional<Texts>("b", "");
+              }),
+              "p: 'b': a second list of positional arguments\n");
+    EXPECT_EQ(problemsOf([](tarv::Program& p) {
+                  p.rest<Texts>("a", "");
+                  p.positional<int>("b", "");
+              }),
+              "p: 'b': nothing stands behind a rest\n");
+    EXPECT_EQ(problemsOf([](tarv::Program& p) {
+                  p.action("list", "");
+                  p.verb("log", "");
+              }),
+              "p: 'p': a program has verbs or actions, not both\n");
+}
+
+TEST(TypedProblems, OfVerbsAreFoundWhateverTheCommandLine) {
+    tarv::Program program("p");
+    const auto level = program.option<int>("level", "");
+    tarv::Command& log = program.verb("log", "");
+    log.option<int>("level", "");
+    const auto graph = log.flag("graph", "");
+    tarv::Command& init = program.verb("init,log", "");
+    init.flag("x", "").needs(graph);
+    init.atMostOne(level, graph);
+    program.positional<int>("file", "");
+    EXPECT_STREQ(program.problems(), "p: 'file': a command with verbs takes no positional arguments\n"
+                                     "p: 'log': the name of the verb is taken\n"
+                                     "p log: 'level': the name is taken by an option of the command above\n"
+                                     "p init: 'x': it needs an option that does not go with it\n"
+                                     "p init: 'graph': a rule is over options of another command\n");
+}
+
+TEST(TypedProblems, AreToldTheAssertionHandlerOnce) {
+    const CapturedAssertions assertions;
+    tarv::Program program("p");
+    program.flag("--x", "");
+    parseLine(program, {});
+    EXPECT_EQ(assertions.expressions(), "p: '--x': names are without dashes in front");
+    parseLine(program, {});
+    EXPECT_EQ(assertions.expressions(), "p: '--x': names are without dashes in front");
+}
+
+} // namespace

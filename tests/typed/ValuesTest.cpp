@@ -1,0 +1,265 @@
+#include <chrono>
+#include <filesystem>
+#include <limits>
+#include <list>
+#include <optional>
+#include <set>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include <gtest/gtest.h>
+
+#include "support/TypedLine.h"
+
+namespace {
+
+namespace tarv = tarv_3_3::typed;
+
+enum class Paper { a4, us_letter, default_ };
+enum Level : short { low, high };
+enum class Sparse { one = 1, minus = -7 };
+
+struct Point {
+    int x;
+    int y;
+};
+
+bool fromText(const char* text, Point& point) {
+    return std::sscanf(text, "%d:%d", &point.x, &point.y) == 2;
+}
+
+} // namespace
+
+template <>
+struct tarv_3_3::typed::Names<Sparse> {
+    static constexpr Choice<Sparse> list[] = {{"one", Sparse::one}, {"minus-seven", Sparse::minus}};
+};
+
+namespace {
+
+/// What a program with one option of type T says to "--x=TEXT".
+template <class T>
+std::string take(const std::string& text, T& value) {
+    tarv::Program program("p");
+    const auto option = program.option<T>("x", "");
+    const std::string outcome = parseLine(program, {"--x=" + text});
+    value = *option;
+    return outcome;
+}
+
+std::string refusal(const std::string& text, const std::string& reason) {
+    return "2 p: --x=" + text + ": " + reason + "\nTry 'p --help'.\n";
+}
+
+template <class T>
+void expectValue(const std::string& text, const T& expected) {
+    SCOPED_TRACE(text);
+    T value{};
+    EXPECT_EQ(take<T>(text, value), "ok");
+    EXPECT_EQ(value, expected);
+}
+
+template <class T>
+void expectRefusal(const std::string& text, const std::string& reason) {
+    SCOPED_TRACE(text);
+    T value{};
+    EXPECT_EQ(take<T>(text, value), refusal(text, reason));
+}
+
+TEST(TypedValues, IntegersAreReadToTheirBounds) {
+    expectValue<signed char>("-128", -128);
+    expectValue<unsigned char>("255", 255);
+    expectValue<short>("+32767", 32767);
+    expectValue<unsigned short>("0xFFFF", 65535);
+    expectValue<int>("-2147483648", std::numeric_limits<int>::min());
+    expectValue<unsigned>("4294967295", 4294967295U);
+    expectValue<long>("-9223372036854775808", std::numeric_limits<long>::min());
+    expectValue<unsigned long long>("18446744073709551615", 18446744073709551615ULL);
+    expectValue<long long>("0x10", 16);
+    expectValue<unsigned>("-0", 0);
+}
+
+TEST(TypedValues, WhatIsNoWholeNumberIsRefused) {
+    for (const char* text : {"x", "1x", "1.5", " 1", "1 ", "--1", "+-1", "0x", "-", "1e3", "0x1g"}) {
+        expectRefusal<int>(text, "must be a whole number");
+    }
+    for (const char* text : {"x", "10k", "1.5", "--1"}) {
+        expectRefusal<unsigned>(text, "must be a whole number");
+    }
+}
+
+TEST(TypedValues, IntegersOutsideTheirTypeAreRefused) {
+    expectRefusal<signed char>("128", "must be from -128 to 127");
+    expectRefusal<signed char>("-129", "must be from -128 to 127");
+    expectRefusal<unsigned char>("256", "must be from 0 to 255");
+    expectRefusal<unsigned>("-1", "must be from 0 to 4294967295");
+    expectRefusal<long long>("9223372036854775808",
+                             "must be from -9223372036854775808 to 9223372036854775807");
+    expectRefusal<long long>("-99999999999999999999",
+                             "must be from -9223372036854775808 to 9223372036854775807");
+    expectRefusal<unsigned long long>("18446744073709551616", "must be from 0 to 18446744073709551615");
+}
+
+TEST(TypedValues, RealNumbersAreReadWhole) {
+    expectValue<double>("-1.5e3", -1500.0);
+    expectValue<double>("+.5", 0.5);
+    expectValue<float>("0.25", 0.25F);
+    for (const char* text : {"x", "1,5", "inf", "nan", "1.5x", "+-1", " 1"}) {
+        expectRefusal<double>(text, "must be a number");
+    }
+    expectRefusal<double>("1e999", "is too large");
+    expectRefusal<float>("1e39", "is too large");
+}
+
+TEST(TypedValues, TextsAreTakenAsTheyAre) {
+    expectValue<std::string>("a,b =c ", "a,b =c ");
+    expectValue<std::filesystem::path>("a/b", "a/b");
+    expectValue<tarv::Text>("x", "x");
+}
+
+TEST(TypedValues, ViewsAreKeptByTheProgram) {
+    tarv::Program program("p");
+    const auto view = program.option<std::string_view>("x", "");
+    const auto text = program.option("y", "", "none");
+    EXPECT_TRUE(*text == "none");
+    {
+        const std::vector<std::string> line = {"--x=a view that is too long to be short", "--y=some text"};
+        EXPECT_EQ(parseLine(program, line), "ok");
+    }
+    EXPECT_EQ(*view, "a view that is too long to be short");
+    EXPECT_EQ(*text, tarv::Text("some text"));
+}
+
+TEST(TypedValues, ACharacterIsOneByte) {
+    expectValue<char>("x", 'x');
+    expectRefusal<char>("xy", "must be one character");
+}
+
+TEST(TypedValues, EnumeratorsAreNamedByTheCompiler) {
+    expectValue<Paper>("a4", Paper::a4);
+    expectValue<Paper>("us-letter", Paper::us_letter);
+    expectValue<Paper>("default", Paper::default_);
+    expectValue<Paper>("us", Paper::us_letter);
+    expectValue<Level>("high", high);
+    expectValue<Sparse>("minus-seven", Sparse::minus);
+    expectRefusal<Paper>("a5", "must be one of a4, us-letter or default");
+    expectRefusal<Sparse>("two", "must be one of one or minus-seven");
+}
+
+TEST(TypedValues, SizesHaveUnitsOfTwoKinds) {
+    const struct {
+        const char* text;
+        unsigned long long bytes;
+    } rows[] = {{"0", 0},
+                {"4096", 4096},
+                {"4k", 4000},
+                {"4kB", 4000},
+                {"4Ki", 4096},
+                {"4KiB", 4096},
+                {"4MiB", 4194304},
+                {"1.5k", 1500},
+                {"12B", 12},
+                {"2G", 2000000000},
+                {"15E", 15000000000000000000ULL}};
+    for (const auto& row : rows) {
+        expectValue<tarv::Size>(row.text, tarv::Size(row.bytes));
+    }
+    for (const char* text : {"x", "4K", "4ki", "1.5", "-4", "4kk", "k", ".", "4 k", "0.0001k"}) {
+        expectRefusal<tarv::Size>(text, "must be a number of bytes, such as 4096 or 4MiB");
+    }
+    expectRefusal<tarv::Size>("99E", "must be from 0 to 18446744073709551615");
+}
+
+TEST(TypedValues, DurationsNeedAUnitAndAreExact) {
+    expectValue<std::chrono::seconds>("3min", std::chrono::minutes(3));
+    expectValue<std::chrono::milliseconds>("1.5s", std::chrono::milliseconds(1500));
+    expectValue<std::chrono::milliseconds>("-2s", std::chrono::seconds(-2));
+    expectValue<std::chrono::nanoseconds>("2d", std::chrono::hours(48));
+    expectValue<std::chrono::duration<double>>("1500ms", std::chrono::duration<double>(1.5));
+    expectRefusal<std::chrono::seconds>("3", "needs a unit: ns, us, ms, s, min, h or d");
+    expectRefusal<std::chrono::seconds>("3x", "must be a duration, such as 1.5s or 3min");
+    expectRefusal<std::chrono::seconds>("1ms", "must be a multiple of 1s");
+    expectRefusal<std::chrono::minutes>("90s", "must be a multiple of 1min");
+    expectRefusal<std::chrono::nanoseconds>("999999999d",
+                                            "must be from -9223372036854775808ns to 9223372036854775807ns");
+}
+
+TEST(TypedValues, AHostReadsItsOwnType) {
+    tarv::Program program("p");
+    const auto where = program.option<Point>("x", "");
+    EXPECT_EQ(parseLine(program, {"--x", "3:4"}), "ok");
+    EXPECT_EQ(where->y, 4);
+    EXPECT_EQ(parseLine(program, {"--x", "3"}), "2 p: --x 3: is not valid\nTry 'p --help'.\n");
+}
+
+TEST(TypedValues, AnOptionalIsEmptyUntilItIsGiven) {
+    tarv::Program program("p");
+    const auto number = program.option<std::optional<int>>("x", "");
+    const auto text = program.option<std::optional<std::string>>("t", "");
+    const auto flag = program.option<std::optional<bool>>("f", "");
+    EXPECT_EQ(parseLine(program, {}), "ok");
+    EXPECT_FALSE(number->has_value() || text->has_value() || flag->has_value());
+    EXPECT_EQ(parseLine(program, {"--x=3", "-t=y", "--no-f"}), "ok");
+    EXPECT_EQ(*number, 3);
+    EXPECT_EQ(*text, "y");
+    EXPECT_EQ(*flag, false);
+}
+
+TEST(TypedValues, ContainersTakeEachPiece) {
+    expectValue<std::vector<int>>("3,1,2", {3, 1, 2});
+    expectValue<std::vector<int>>(",3,,1,", {3, 1});
+    expectValue<std::set<std::string>>("b,a,b", {"a", "b"});
+    expectValue<std::list<Paper>>("a4,us", {Paper::a4, Paper::us_letter});
+    expectValue<std::vector<bool>>("yes,0", {true, false});
+    expectRefusal<std::vector<int>>("3,x", "must be a whole number");
+    expectRefusal<std::vector<int>>(",", "the value is empty");
+    expectRefusal<std::vector<bool>>("maybe", "must be one of 1, true, yes, on, 0, false, no, off");
+}
+
+TEST(TypedValues, WhatIsGivenReplacesTheInitialList) {
+    tarv::Program program("p");
+    const auto list = program.option("x", "", std::vector<int>{1, 2});
+    EXPECT_EQ(parseLine(program, {}), "ok");
+    EXPECT_EQ(*list, (std::vector<int>{1, 2}));
+    EXPECT_EQ(parseLine(program, {"--x=3", "--x=4"}), "ok");
+    EXPECT_EQ(*list, (std::vector<int>{3, 4}));
+    EXPECT_EQ(parseLine(program, {}), "ok");
+    EXPECT_EQ(*list, (std::vector<int>{1, 2}));
+}
+
+TEST(TypedValues, ABoundVariableIsRestoredByEveryParse) {
+    int level = 2;
+    std::vector<std::string> names = {"x"};
+    tarv::Program program("p");
+    program.bind("level", level, "").range(0, 9);
+    program.bind("name", names, "");
+    EXPECT_EQ(parseLine(program, {"--level=3", "--name=a,b"}), "ok");
+    EXPECT_EQ(level, 3);
+    EXPECT_EQ(names, (std::vector<std::string>{"a", "b"}));
+    EXPECT_EQ(parseLine(program, {}), "ok");
+    EXPECT_EQ(level, 2);
+    EXPECT_EQ(names, (std::vector<std::string>{"x"}));
+}
+
+TEST(TypedValues, ADefaultConstructedHandleHoldsAnInitialValue) {
+    const tarv::Handle<int> number;
+    const tarv::Handle<std::string> text;
+    EXPECT_EQ(*number, 0);
+    EXPECT_EQ(*text, "");
+    EXPECT_FALSE(number.given());
+    EXPECT_EQ(number.count(), 0);
+    EXPECT_EQ(number.position(), -1);
+    EXPECT_EQ(number.source(), tarv::Source::initial);
+    number.required().env("X").hidden().range(1, 2);
+}
+
+TEST(TypedValues, TextsCompareByContent) {
+    const std::string copy = "some text";
+    EXPECT_TRUE(tarv::Text("some text") == copy.c_str());
+    EXPECT_FALSE(tarv::Text("some text") == "some tex");
+    EXPECT_TRUE(tarv::Text("a") != "b");
+    EXPECT_TRUE(tarv::Text(nullptr).isEmpty());
+}
+
+} // namespace
