@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include <string>
+#include <vector>
 
 #include "parser/BasicParser.h"
 #include "tarv_3_3/description.h"
@@ -25,121 +26,112 @@ void declare(BasicParser& parser) {
     parser.action("rebuild-index", "", vtNull, "");
 }
 
-TEST(Suggest, NamesWhatIsNear) {
-    BasicParser parser(0);
-    declare(parser);
-    const struct {
-        const char* argument;
-        const char* sentence;
-    } rows[] = {
-        {"--m-cuont", "Did you mean '--max-count'?"},
-        {"--m-cuont=3", "Did you mean '--max-count'?"},
-        {"--m-cuont 3", "Did you mean '--max-count'?"},
-        {"-m-cuont", "Did you mean '--max-count'?"},
-        {"\xE2\x80\x93\xE2\x80\x93m-cuont", "Did you mean '--max-count'?"},
-        {"--count", "Did you mean '--max-count'?"},
-        {"--levle", "Did you mean '--level'?"},
-        {"--no-verbsoe", "Did you mean '--no-verbose'?"},
-        {"--vrebose", "Did you mean '--verbose'?"},
-        {"--no-qeit", "(null)"},
-        {"--rebuild-idnex", "Did you mean '--rebuild-index'?"},
-        {"---level", "Did you mean '--level'?"},
-        {"--lvl", "(null)"},
-        {"--lvel", "Did you mean '--level'?"},
-        // Nothing is near.
-        {"--something-else", "(null)"},
-        {"--lx", "(null)"},
-        {"--x", "(null)"},
-        {"--", "(null)"},
-        {"-", "(null)"},
-        {"--=level", "(null)"},
-        {"level", "(null)"},
-        {"levle", "(null)"},
-        {"", "(null)"},
-        // What names an option as it is.
-        {"--level", "(null)"},
-        {"--lev=x", "(null)"},
-        {"-l", "(null)"},
-        {"--max-c", "(null)"},
-        {"--secret", "(null)"},
-        {"--pattern", "(null)"},
-        // Hidden and positional options.
-        {"--secrte", "(null)"},
-        {"--pattren", "(null)"},
-    };
-    for (const auto& row : rows) {
+struct Row {
+    const char* argument;
+    const char* sentence;
+};
+
+void expectSentences(BasicParser& parser, const std::vector<Row>& rows) {
+    for (const Row& row : rows) {
         SCOPED_TRACE(row.argument);
         EXPECT_EQ(suggested(parser, row.argument), row.sentence);
     }
+}
+
+TEST(Suggest, NamesWhatIsNear) {
+    BasicParser parser(0);
+    declare(parser);
+    expectSentences(parser, {
+                                {"--m-cuont", "Did you mean '--max-count'?"},
+                                {"--m-cuont=3", "Did you mean '--max-count'?"},
+                                {"--m-cuont 3", "Did you mean '--max-count'?"},
+                                {"-m-cuont", "Did you mean '--max-count'?"},
+                                {"\xE2\x80\x93\xE2\x80\x93m-cuont", "Did you mean '--max-count'?"},
+                                {"--count", "Did you mean '--max-count'?"},
+                                {"--levle", "Did you mean '--level'?"},
+                                {"--no-verbsoe", "Did you mean '--no-verbose'?"},
+                                {"--vrebose", "Did you mean '--verbose'?"},
+                                {"--no-qeit", "(null)"},
+                                {"--rebuild-idnex", "Did you mean '--rebuild-index'?"},
+                                {"---level", "Did you mean '--level'?"},
+                                {"--lvl", "(null)"},
+                                {"--lvel", "Did you mean '--level'?"},
+                                // Nothing is near.
+                                {"--something-else", "(null)"},
+                                {"--lx", "(null)"},
+                                {"--x", "(null)"},
+                                {"--", "(null)"},
+                                {"-", "(null)"},
+                                {"--=level", "(null)"},
+                                {"level", "(null)"},
+                                {"levle", "(null)"},
+                                {"", "(null)"},
+                                // What names an option as it is.
+                                {"--level", "(null)"},
+                                {"--lev=x", "(null)"},
+                                {"-l", "(null)"},
+                                {"--max-c", "(null)"},
+                                {"--secret", "(null)"},
+                                {"--pattern", "(null)"},
+                                // Hidden and positional options.
+                                {"--secrte", "(null)"},
+                                {"--pattren", "(null)"},
+                            });
 }
 
 TEST(Suggest, TakesJoinedLettersApart) {
     BasicParser parser(0);
     declare(parser);
+    expectSentences(parser, {
+                                {"-vl3", "Did you mean '-v -l=3'?"},
+                                {"-l3", "Did you mean '-l=3'?"},
+                                {"-l=3", "(null)"},
+                                {"-vl=3", "Did you mean '-v -l=3'?"},
+                                {"-vl 3", "Did you mean '-v -l=3'?"},
+                                {"-vl", "Did you mean '-v -l'?"},
+                                {"-vqv", "Did you mean '-v -q -v'?"},
+                                {"-vvvv", "Did you mean '-v -v -v -v'?"},
+                                {"\xE2\x80\x93vl3", "Did you mean '-v -l=3'?"},
+                                {"-ofile", "Did you mean '-o=file'?"},
+                                {"-ofile=x", "Did you mean '-o=file=x'?"},
+                                {"-vq=3", "(null)"},
+                                {"-lx", "(null)"},
+                                {"-vx", "(null)"},
+                                {"--vl3", "(null)"},
+                                {"-vs", "(null)"},
+                                {"-vpx", "(null)"},
+                                // A name that is near comes first, unless there are only few letters.
+                                {"-ouptut", "Did you mean '--output' or '-o=uptut'?"},
+                                {"-lvel", "Did you mean '--level'?"},
+                                {"-oup", "Did you mean '-o=up'?"},
+                            });
+}
+
+TEST(Suggest, ChoosesAmongTheNamesThatAreDeclared) {
     const struct {
-        const char* argument;
-        const char* sentence;
-    } rows[] = {
-        {"-vl3", "Did you mean '-v -l=3'?"},
-        {"-l3", "Did you mean '-l=3'?"},
-        {"-l=3", "(null)"},
-        {"-vl=3", "Did you mean '-v -l=3'?"},
-        {"-vl 3", "Did you mean '-v -l=3'?"},
-        {"-vl", "Did you mean '-v -l'?"},
-        {"-vqv", "Did you mean '-v -q -v'?"},
-        {"-vvvv", "Did you mean '-v -v -v -v'?"},
-        {"\xE2\x80\x93vl3", "Did you mean '-v -l=3'?"},
-        {"-ofile", "Did you mean '-o=file'?"},
-        {"-ofile=x", "Did you mean '-o=file=x'?"},
-        {"-vq=3", "(null)"},
-        {"-lx", "(null)"},
-        {"-vx", "(null)"},
-        {"--vl3", "(null)"},
-        {"-vs", "(null)"},
-        {"-vpx", "(null)"},
-        // A name that is near comes first, unless there are only few letters.
-        {"-ouptut", "Did you mean '--output' or '-o=uptut'?"},
-        {"-lvel", "Did you mean '--level'?"},
-        {"-oup", "Did you mean '-o=up'?"},
+        std::vector<const char*> options;
+        std::vector<Row> rows;
+    } cases[] = {
+        // Up to three that are equally near.
+        {{"color", "colon"}, {{"--colox", "Did you mean '--color' or '--colon'?"}}},
+        {{"color", "colon", "colossal"}, {{"--colox", "Did you mean '--color', '--colon' or '--colossal'?"}}},
+        {{"color", "colon", "colossal", "colony"}, {{"--colox", "(null)"}}},
+        // The name that is cut least comes first.
+        {{"colossal", "color"}, {{"--colox", "Did you mean '--color' or '--colossal'?"}}},
+        // One name of an option.
+        {{"color,colour"}, {{"--clour", "Did you mean '--colour'?"}, {"--clor", "Did you mean '--color'?"}}},
+        // Names of two letters, and no shorter ones.
+        {{"io,i"},
+         {{"--iox", "Did you mean '--io'?"}, {"--xi", "(null)"}, {"--ixx", "(null)"}, {"--xyx", "(null)"}}},
     };
-    for (const auto& row : rows) {
-        SCOPED_TRACE(row.argument);
-        EXPECT_EQ(suggested(parser, row.argument), row.sentence);
+    for (const auto& [options, rows] : cases) {
+        SCOPED_TRACE(testing::PrintToString(options));
+        BasicParser parser(0);
+        for (const char* const names : options) {
+            parser.option(names, "", vtString, "");
+        }
+        expectSentences(parser, rows);
     }
-}
-
-TEST(Suggest, NamesUpToThreeThatAreEquallyNear) {
-    BasicParser parser(0);
-    parser.option("color", "", vtString, "");
-    parser.option("colon", "", vtString, "");
-    EXPECT_EQ(suggested(parser, "--colox"), "Did you mean '--color' or '--colon'?");
-    parser.option("colossal", "", vtString, "");
-    EXPECT_EQ(suggested(parser, "--colox"), "Did you mean '--color', '--colon' or '--colossal'?");
-    parser.option("colony", "", vtString, "");
-    EXPECT_EQ(suggested(parser, "--colox"), "(null)");
-}
-
-TEST(Suggest, PutsTheNameThatWasCutLeastFirst) {
-    BasicParser parser(0);
-    parser.option("colossal", "", vtString, "");
-    parser.option("color", "", vtString, "");
-    EXPECT_EQ(suggested(parser, "--colox"), "Did you mean '--color' or '--colossal'?");
-}
-
-TEST(Suggest, NamesOneNameOfAnOption) {
-    BasicParser parser(0);
-    parser.option("color", "", vtString, "").synonym("colour");
-    EXPECT_EQ(suggested(parser, "--clour"), "Did you mean '--colour'?");
-    EXPECT_EQ(suggested(parser, "--clor"), "Did you mean '--color'?");
-}
-
-TEST(Suggest, NamesNamesOfTwoLettersAndNoShorterOnes) {
-    BasicParser parser(0);
-    parser.option("io,i", "", vtString, "");
-    EXPECT_EQ(suggested(parser, "--iox"), "Did you mean '--io'?");
-    EXPECT_EQ(suggested(parser, "--xi"), "(null)");
-    EXPECT_EQ(suggested(parser, "--ixx"), "(null)");
-    EXPECT_EQ(suggested(parser, "--xyx"), "(null)");
 }
 
 TEST(Suggest, EscapesWhatItRepeats) {
