@@ -117,6 +117,10 @@ std::string nonsense(Misspeller& misspeller, const Tool&, const std::string&) {
     return misspeller.nonsense(4, 12);
 }
 
+std::string anyNonsense(Misspeller& misspeller, const Tool&, const std::string&) {
+    return misspeller.nonsense(2, 12);
+}
+
 std::string threeLetters(Misspeller& misspeller, const Tool&, const std::string&) {
     return misspeller.nonsense(3, 3);
 }
@@ -154,6 +158,7 @@ const Row rows[] = {{"one-edit", oneEdit, true},
                     {"word-left-out", wordLeftOut, true},
                     {"last-word-left-out", lastWordLeftOut, true},
                     {"nonsense", nonsense, false},
+                    {"two-to-twelve-letters-of-nonsense", anyNonsense, false},
                     {"three-letters-of-nonsense", threeLetters, false}};
 
 using Rule = std::function<std::vector<std::string>(const Word&)>;
