@@ -40,6 +40,22 @@ class Command;
 /// Where a value comes from, the weakest first.
 enum class Source { initial, file, environment, commandLine };
 
+/// Takes what a completer offers.
+class Candidates {
+public:
+    /// Offers a value, if it begins with the word asked for; both texts are copied.
+    void add(const char* value, const char* description = "") const {
+        engine::offer(m_taking, value, description);
+    }
+
+    /// @cond
+    explicit Candidates(engine::Taking* taking) : m_taking(taking) {}
+
+private:
+    engine::Taking* m_taking;
+    /// @endcond
+};
+
 /// An option that was declared: reads its value, and refines it as long as nothing was parsed. A pointer,
 /// good as long as the program; a default-constructed one holds a `T()` that nobody gives.
 ///
@@ -137,6 +153,17 @@ public:
     Handle deprecated(const char* instead) const { return refine(engine::refineDeprecated, instead); }
     /// What help calls the value, as "FILE".
     Handle value(const char* name) const { return refine(engine::refineValueName, name); }
+    /// What shells complete: "file", "directory" or "none".
+    Handle completeAs(const char* what) const { return refine(engine::refineCompleteAs, what); }
+    /// Offers the values that `completer` adds: a `void(const char* word, Candidates&)`, of which the
+    /// word is what was typed of the value so far. It is called when a shell asks.
+    template <class F>
+    Handle completeWith(F completer) const {
+        static_assert(std::is_invocable_v<const F&, const char*, Candidates&>,
+                      "tarv: a completer takes a const char* and a Candidates&");
+        values::setCompleter<Candidates>(m_slot, static_cast<F&&>(completer));
+        return *this;
+    }
     /// How many arguments a positional list takes; `most` 0 for any number.
     Handle times(unsigned least, unsigned most = 0) const {
         static_assert(values::isList<T>, "tarv: times() is for lists");
@@ -345,6 +372,9 @@ private:
 /// Where nothing that was declared fits, "--help", "-h" and, with a version, "--version" are known by
 /// themselves, also cut short, and with verbs "help VERB". They answer before any complaint.
 ///
+/// Requests of shells are answered, too: "tarvoption=completion=bash" and the others of
+/// `tarv_3_3/completion.h`.
+///
 /// What surprises most is mended: a number with a minus is the value of an option that takes numbers; a
 /// lone "-" is a value; "--title=" has an empty value; only lists are split at commas.
 class Program : public Command {
@@ -376,7 +406,7 @@ public:
     template <class T = Text>
     Handle<T> settingsOption(const char* names, const char* description) {
         static_assert(values::isText<T>, "tarv: the name of a settings file is a text or a path");
-        Handle<T> made = option<T>(names, description).value("FILE");
+        Handle<T> made = option<T>(names, description).value("FILE").completeAs("file");
         engine::setSettingsOption(m_record, made.option());
         return made;
     }

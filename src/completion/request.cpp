@@ -38,9 +38,7 @@ void print(std::string_view text) {
 void printScript(Shell shell, const char* path) {
     const std::string script = makeScript(shell, path);
     if (script.empty()) {
-        std::fputs("There are completion scripts for bash, zsh and fish, and for programs whose names have "
-                   "only letters, digits, '_', '.', '+' and '-'.\n",
-                   stderr);
+        std::fputs(noScript, stderr);
     }
     print(script);
 }

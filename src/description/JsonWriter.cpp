@@ -76,6 +76,11 @@ void JsonWriter::memberTrue(std::string_view name) {
     m_json += "true";
 }
 
+void JsonWriter::memberNumber(std::string_view name, std::size_t number) {
+    beginMember(name);
+    m_json += std::to_string(number);
+}
+
 void JsonWriter::element(std::string_view text) {
     separate();
     appendJsonText(m_json, text);

@@ -23,6 +23,7 @@ public:
     /// A member of the object that is open.
     void member(std::string_view name, std::string_view text);
     void memberTrue(std::string_view name);
+    void memberNumber(std::string_view name, std::size_t number);
     ///@}
 
     /// An element of the list that is open.

@@ -2,6 +2,7 @@
 
 #include "description/JsonWriter.h"
 #include "description/declarationFacts.h"
+#include "description/jsonMembers.h"
 #include "parser/BasicParser.h"
 #include "parser/Remarks.h"
 #include "recognition/PositionalOptionsParser.h"
@@ -12,84 +13,12 @@ namespace tarv_3_3 {
 namespace {
 
 using internal::JsonWriter;
-
-// A member is only ever added here with its place in share/tarv/description.schema.json, and a higher
-// number behind the point. A change that would mislead a reader takes a higher number in front of it.
-constexpr char formatName[] = "tarv-description";
-constexpr char formatVersion[] = "1.0";
-
-const char* kindName(das_variant_type_t kind) {
-    switch (kind) {
-    case vtBool:
-        return "switch";
-    case vtInt32:
-        return "int32";
-    case vtUInt32:
-        return "uint32";
-    case vtInt64:
-        return "int64";
-    case vtUInt64:
-        return "uint64";
-    case vtDouble:
-        return "double";
-    case vtString:
-        return "string";
-    case vtNull:
-        break;
-    }
-    return "none";
-}
-
-const char* ruleName(int kind) {
-    static const char* const names[] = {"required",   "atMostOne", "atLeastOne",
-                                        "exactlyOne", "allOrNone", "needs"};
-    return names[kind];
-}
-
-template <class Elements, class TextOf>
-void writeList(JsonWriter& json, const char* name, const Elements& elements, TextOf textOf) {
-    if (elements.empty()) {
-        return;
-    }
-    json.open('[', name);
-    for (const auto& element : elements) {
-        json.element(textOf(element));
-    }
-    json.close(']');
-}
+using internal::writeList;
+using internal::writeText;
+using internal::writeTrue;
 
 const std::string& itself(const std::string& text) {
     return text;
-}
-
-void writeTrue(JsonWriter& json, const char* name, bool isTrue) {
-    if (isTrue) {
-        json.memberTrue(name);
-    }
-}
-
-void writeText(JsonWriter& json, const char* name, std::string_view text) {
-    if (!text.empty()) {
-        json.member(name, text);
-    }
-}
-
-void writeFlags(JsonWriter& json, int flags) {
-    const struct {
-        int flag;
-        const char* name;
-    } known[] = {{flagRejectUnknown, "rejectUnknown"},
-                 {flagPlainArePositional, "plainArePositional"},
-                 {flagDashIsNotPositional, "dashIsNotPositional"},
-                 {flagPositionalTakesRest, "positionalTakesRest"},
-                 {flagNoLists, "noLists"}};
-    json.open('[', "flags");
-    for (const auto& row : known) {
-        if ((flags & row.flag) != 0) {
-            json.element(row.name);
-        }
-    }
-    json.close(']');
 }
 
 void writeTopics(JsonWriter& json, const std::vector<Topic>& topics) {
@@ -126,7 +55,7 @@ void writeDeclaration(JsonWriter& json, const OptionDescription& option, bool is
     json.breakLine();
     json.open('{');
     json.member("role", option.m_kind == Action ? "action" : "option");
-    json.member("kind", kindName(option.m_type));
+    json.member("kind", internal::kindName(option.m_type));
     writeList(json, "names", option.m_names, itself);
     writeText(json, "text", option.m_description);
     writeText(json, "topic", option.m_topic.first);
@@ -164,7 +93,7 @@ void writeRules(JsonWriter& json, const std::vector<Remarks::Rule>& rules,
     for (const Remarks::Rule& rule : rules) {
         json.breakLine();
         json.open('{');
-        json.member("kind", ruleName(rule.kind));
+        json.member("kind", internal::ruleName(rule.kind));
         writeList(json, "names", rule.places,
                   [&](std::size_t place) { return options[place].primaryName(); });
         json.close('}');
@@ -190,10 +119,10 @@ std::string write(const BasicParser& parser) {
     const RegisteredOptionStorage& registry = parser.registry();
     JsonWriter json;
     json.open('{');
-    json.member("format", formatName);
-    json.member("version", formatVersion);
+    json.member("format", internal::formatName);
+    json.member("version", internal::formatVersion);
     json.breakLine();
-    writeFlags(json, parser.flags());
+    internal::writeFlags(json, parser.flags());
     writeTrue(json, "optionFiles", parser.readsOptionFiles());
     json.breakLine();
     writeTopics(json, registry.m_topics);

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "typed/Session.h"
+#include "typed/Work.h"
 
 namespace tarv_3_3::typed::engine {
 

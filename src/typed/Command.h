@@ -14,7 +14,7 @@ class BasicParser;
 
 namespace typed::engine {
 
-class Session;
+class Work;
 
 /// The names in a list with commas; one empty name where there are none.
 std::vector<std::string> namesOf(const char* names);
@@ -35,6 +35,7 @@ struct Command {
 
     const std::string& name() const { return names.front(); }
     Command& program() { return parent != nullptr ? parent->program() : *this; }
+    const Command& program() const { return parent != nullptr ? parent->program() : *this; }
     /// The names of all commands down to this one, as in "vcs log".
     std::string path() const;
     bool isWithin(const Command& other) const {
@@ -63,8 +64,11 @@ struct Command {
     /// What values without memory of their own point to; a deque leaves its elements where they are.
     std::deque<std::string> keptTexts;
     bool joinsLetters = false;
+    /// Whether something could not be declared.
     bool isOutOfMemory = false;
-    std::unique_ptr<Session> session;
+    /// Whether the parse at hand could not be done.
+    bool hasParseFailed = false;
+    std::unique_ptr<Work> work;
     std::string problems;
     bool isProblemTold = false;
     /// Ready before there is no memory to make it.

@@ -4,15 +4,13 @@
 #include <cstdlib>
 #include <cstring>
 
-#include "description/declarationFacts.h"
 #include "description/terminalText.h"
-#include "description/utf8.h"
 #include "parser/commandLine.h"
 #include "recognition/NameMatcher.h"
-#include "tarv_3_3/description.h"
 #include "typed/lastResort.h"
 #include "typed/messages.h"
 #include "typed/positionals.h"
+#include "typed/suggestions.h"
 
 namespace tarv_3_3::typed::engine {
 
@@ -179,67 +177,10 @@ void LineReader::readUnfit(std::size_t place, const ReadArgument& read) {
     const Wish wish = read.token.hasValue ? Wish::none : wishOf(read.token.nameIn(argument), m_program);
     if (wish == Wish::none) {
         m_line.complain(messages::unknownOption(typed.empty() ? terminalText(argument) : typed),
-                        suggestionFor(argument));
+                        suggestOption(*m_line.chosen, argument));
     } else if (m_line.wish == Wish::none) {
         m_line.wish = wish;
     }
-}
-
-// "-vvv"
-bool LineReader::readRepeatedLetter(std::size_t place, const ReadArgument& read) {
-    const std::string& argument = m_line.arguments[place];
-    const std::string_view letters = read.token.nameIn(argument);
-    const bool isRepeated = read.token.nameStart == dashLength(argument) && letters.size() > 1 &&
-                            letters.find_first_not_of(letters.front()) == std::string_view::npos;
-    const Option* const option =
-        isRepeated && !read.token.hasValue ? m_line.chosen->findOption(letters.substr(0, 1)) : nullptr;
-    if (option == nullptr || !option->isCounter()) {
-        return false;
-    }
-    for (std::size_t i = 0; i < letters.size(); ++i) {
-        add(*option, place, "1");
-    }
-    return true;
-}
-
-void LineReader::readLetters(std::size_t place, std::size_t behindDash) {
-    const std::string& argument = m_line.arguments[place];
-    std::size_t from = behindDash;
-    while (from < argument.size()) {
-        const std::size_t length =
-            std::max<std::size_t>(internal::utf8Length(std::string_view(argument).substr(from)), 1);
-        if (!readLetter(place, from, length)) {
-            return;
-        }
-        from += length;
-    }
-}
-
-// Whether letters may follow.
-bool LineReader::readLetter(std::size_t place, std::size_t from, std::size_t length) {
-    const std::string& argument = m_line.arguments[place];
-    const std::string letter = argument.substr(from, length);
-    const Option* const option = m_line.chosen->findOption(letter);
-    if (option == nullptr) {
-        if (letter == "h") {
-            m_line.wish = m_line.wish == Wish::none ? Wish::help : m_line.wish;
-            return true;
-        }
-        m_line.complain(messages::unknownOption(terminalText("-" + letter)));
-        return false;
-    }
-    if (!option->takesValue()) {
-        add(*option, place, "1");
-        return true;
-    }
-    const char* value = argument.c_str() + from + length;
-    if (*value == '\0') {
-        takeNextValue(place, *option, "-" + letter);
-    } else {
-        // "-l=3" is what it is elsewhere, and "-t=" has the value "=".
-        add(*option, place, value[0] == '=' && value[1] != '\0' ? value + 1 : value);
-    }
-    return false;
 }
 
 void LineReader::add(const Option& option, std::size_t place, const char* text) {
@@ -298,30 +239,8 @@ void LineReader::enterVerb(std::size_t place) {
         m_line.wish = m_line.wish == Wish::none ? Wish::help : m_line.wish;
     } else {
         m_isLost = true;
-        m_line.complain(messages::unknownVerb(terminalText(word)), verbSuggestionFor(word));
+        m_line.complain(messages::unknownVerb(terminalText(word)), suggestVerb(*m_line.chosen, word));
     }
-}
-
-std::string LineReader::suggestionFor(const std::string& argument) const {
-    LevelParser level = makeLevelParser(*m_line.chosen);
-    for (const char* name : {"help", "version"}) {
-        if (m_line.chosen->findOption(name) == nullptr && (*name == 'h' || m_program.hasVersion)) {
-            level.parser->option(name, "", vtNull, "");
-        }
-    }
-    const char* const sentence = suggest(level.parser.get(), argument.c_str());
-    return sentence != nullptr ? sentence : "";
-}
-
-// Verbs are typed without dashes.
-std::string LineReader::verbSuggestionFor(const std::string& word) const {
-    const std::unique_ptr<BasicParser> verbs = makeVerbParser(*m_line.chosen);
-    const char* const found = suggest(verbs.get(), ("--" + word).c_str());
-    std::string sentence = found != nullptr ? found : "";
-    for (std::size_t at = sentence.find("'--"); at != std::string::npos; at = sentence.find("'--", at)) {
-        sentence.erase(at + 1, 2);
-    }
-    return sentence;
 }
 
 void LineReader::finish() {

@@ -49,8 +49,6 @@ private:
     void enterVerb(std::size_t place);
     void enter(Command& verb);
     bool isValueOf(const Option& option, const std::string& argument) const;
-    std::string suggestionFor(const std::string& argument) const;
-    std::string verbSuggestionFor(const std::string& word) const;
     void finish();
     void checkFront();
 

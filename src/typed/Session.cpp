@@ -134,7 +134,7 @@ void Session::judge(bool accepted) {
     }
     m_isTaking = false;
     if (m_taking.isOutOfMemory) {
-        m_program.isOutOfMemory = true;
+        m_program.hasParseFailed = true;
     }
     if (!accepted || m_taking.isRefused) {
         const std::string reason = m_taking.reason.empty() ? messages::isNotValid : m_taking.reason;

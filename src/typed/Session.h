@@ -6,24 +6,22 @@
 
 #include "typed/CommandLine.h"
 #include "typed/Taking.h"
+#include "typed/Work.h"
 
 namespace tarv_3_3::typed::engine {
 
 /// One parse: what is read of the command line, what the host's code has to do, and what is said in the
 /// end.
-class Session {
+class Session : public Work {
 public:
     Session(Command& program, int argc, const char* const* argv, int purpose);
 
     /// Reads the line, the environment and the settings.
     void read();
 
-    /// What the host's code does next; false when nothing is left. `accepted` is what the last step
-    /// returned.
-    bool next(bool accepted, Step& step);
+    bool next(bool accepted, Step& step) override;
 
-    /// Valid when no step is left.
-    Result result();
+    Result result() override;
 
 private:
     bool nextRestore(Step& step);

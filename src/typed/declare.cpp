@@ -1,7 +1,7 @@
 #include <memory>
 #include <new>
 
-#include "typed/Session.h"
+#include "typed/Work.h"
 #include "typed/enumerators.h"
 #include "typed/guarded.h"
 

@@ -134,11 +134,7 @@ private:
         if (!names.empty()) {
             section("Options").rows.push_back({namesSynopsis(names), "Show this help."});
         }
-        const Command* program = &m_command;
-        while (program->parent != nullptr) {
-            program = program->parent;
-        }
-        if (program->hasVersion && m_command.findOption("version") == nullptr) {
+        if (m_command.program().hasVersion && m_command.findOption("version") == nullptr) {
             section("Options").rows.push_back({namesSynopsis({"version"}), "Show the version."});
         }
     }

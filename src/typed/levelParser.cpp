@@ -64,6 +64,15 @@ LevelParser makeLevelParser(const Command& command) {
     return level;
 }
 
+void declareLastResort(IParser& parser, const Command& command) {
+    if (command.findOption("help") == nullptr) {
+        parser.option("help", "Show this help.", vtNull, "");
+    }
+    if (command.program().hasVersion && command.findOption("version") == nullptr) {
+        parser.option("version", "Show the version.", vtNull, "");
+    }
+}
+
 std::unique_ptr<BasicParser> makeVerbParser(const Command& command) {
     auto parser = std::make_unique<BasicParser>(levelFlags);
     for (const std::unique_ptr<Command>& verb : command.verbs) {

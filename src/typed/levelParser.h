@@ -23,6 +23,9 @@ bool declareNames(IParser& parser, const Option& option, const char* description
 
 LevelParser makeLevelParser(const Command& command);
 
+/// Declares "help" and, with a version, "version", as far as the command leaves them.
+void declareLastResort(IParser& parser, const Command& command);
+
 /// A parser that knows the verbs of a command as options without a value.
 std::unique_ptr<BasicParser> makeVerbParser(const Command& command);
 

@@ -1,9 +1,10 @@
 #include <cstdio>
+#include <exception>
 #include <memory>
 
 #include "mero_2_16/assertion.h"
+#include "typed/Answer.h"
 #include "typed/Session.h"
-#include "typed/guarded.h"
 #include "typed/messages.h"
 #include "typed/problems.h"
 
@@ -27,22 +28,45 @@ void tellProblems(Command& program) {
     }
 }
 
+// What cannot be done without memory leaves the program as it was declared.
+template <class Act>
+void attempt(Command* program, Act act) {
+    if (program == nullptr || program->isOutOfMemory || program->hasParseFailed) {
+        return;
+    }
+    try {
+        act();
+    } catch (const std::exception&) {
+        program->hasParseFailed = true;
+    }
+}
+
+std::unique_ptr<Work> makeWork(Command& program, int argc, const char* const* argv, int purpose) {
+    const Request request = recognizeRequest(argc, argv);
+    if (request.kind != Request::Kind::none) {
+        return std::make_unique<Answer>(program, request, argv[0]);
+    }
+    auto session = std::make_unique<Session>(program, argc, argv, purpose);
+    session->read();
+    return session;
+}
+
 } // namespace
 
 void begin(Command* program, int argc, const char* const* argv, int purpose) {
-    guarded(program, [&] {
+    if (program != nullptr) {
+        program->hasParseFailed = false;
+        program->work.reset();
+    }
+    attempt(program, [&] {
         tellProblems(*program);
-        program->session = std::make_unique<Session>(*program, argc, argv, purpose);
-        program->session->read();
+        program->work = makeWork(*program, argc, argv, purpose);
     });
 }
 
 bool next(Command* program, bool accepted, Step* step) {
     bool isLeft = false;
-    guarded(program, [&] {
-        isLeft =
-            !program->isOutOfMemory && program->session != nullptr && program->session->next(accepted, *step);
-    });
+    attempt(program, [&] { isLeft = program->work->next(accepted, *step); });
     return isLeft;
 }
 
@@ -52,11 +76,7 @@ const Result* result(Command* program) {
     }
     program->result = noMemory;
     program->result.errors = program->outOfMemory.c_str();
-    guarded(program, [&] {
-        if (!program->isOutOfMemory && program->session != nullptr) {
-            program->result = program->session->result();
-        }
-    });
+    attempt(program, [&] { program->result = program->work->result(); });
     return &program->result;
 }
 
@@ -71,7 +91,7 @@ int print(Command* program) {
 }
 
 const char* problems(Command* program) {
-    guarded(program, [&] {
+    attempt(program, [&] {
         program->problems.clear();
         for (const std::string& problem : findProblems(*program)) {
             program->problems += problem + "\n";

@@ -70,6 +70,20 @@ class Written(unittest.TestCase):
                          ["required", "atMostOne", "atLeastOne", "exactlyOne", "allOrNone", "needs"])
         self.assertEqual(description["checks"], [{"opaque": True, "by": "handlers"}])
 
+    def test_holds_verbs_one_inside_the_other(self):
+        description = json.loads(OUTPUT[-1][0])
+        self.assertEqual(bytes_of(description["program"]["name"]), b"vcs\xff")
+        self.assertEqual(description["settings"], [{"file": "/etc/vcs"}, {"option": "config"}])
+        self.assertIn("joinedLetters", description["mends"])
+        self.assertEqual([verb["names"] for verb in description["verbs"]], [["print", "p"], ["run"]])
+        page, paper, file = description["verbs"][0]["declarations"]
+        self.assertEqual(page["notes"], {"range": "1..9"})
+        self.assertEqual(page["checks"], [{"opaque": True, "by": "host", "text": "must be even"}])
+        self.assertEqual(paper["allowed"], ["a4", "letter"])
+        self.assertEqual(file["count"], {"least": 1, "most": 3})
+        self.assertEqual(description["verbs"][0]["rules"], [{"kind": "needs", "names": ["page", "user"]}])
+        self.assertIn("positionalTakesRest", description["verbs"][1]["flags"])
+
     def test_has_no_control_characters(self):
         for text, _ in OUTPUT:
             self.assertIsNone(re.search("[\x00-\x1f\x7f-\x9f]", text))
@@ -82,7 +96,7 @@ class Schema(unittest.TestCase):
     def test_is_a_schema(self):
         jsonschema.Draft202012Validator.check_schema(SCHEMA)
 
-    def test_has_room_for_what_is_reserved(self):
+    def test_has_room_for_what_programs_add(self):
         verb = copy.deepcopy(self.description)
         del verb["format"], verb["version"]
         verb.update(names=["log", "history"], text="Shows.")

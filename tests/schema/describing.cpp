@@ -8,6 +8,7 @@
 
 #include "tarv_3_3/description.h"
 #include "tarv_3_3/tarv.h"
+#include "tarv_3_3/typed.h"
 
 namespace tarv = tarv_3_3;
 
@@ -19,8 +20,7 @@ void printHexadecimal(const std::string& text) {
     }
 }
 
-void print(tarv::IParser& parser, const std::vector<std::string>& texts) {
-    const char* const json = tarv::describeAsJson(&parser);
+void print(const char* json, const std::vector<std::string>& texts) {
     for (const char* byte = json; *byte != '\0'; ++byte) {
         std::putchar(*byte == '\n' ? ' ' : *byte);
     }
@@ -30,6 +30,10 @@ void print(tarv::IParser& parser, const std::vector<std::string>& texts) {
         std::printf(" ");
     }
     std::printf("\n");
+}
+
+void print(tarv::IParser& parser, const std::vector<std::string>& texts) {
+    print(tarv::describeAsJson(&parser), texts);
 }
 
 /// Every byte but zero, then pieces from which broken characters and look-alikes of the escape are made.
@@ -102,11 +106,32 @@ void printNothing() {
     parser->destroy();
 }
 
+enum class Paper { a4, letter };
+
+/// A program with all that descriptions of programs have and those of parsers have not.
+void printProgram() {
+    namespace typed = tarv::typed;
+    typed::Program program("vcs\xFF", "1.0", "Tracks.");
+    const auto user = program.option<std::string>("user", "User.").env("VCS_USER").mayBeEmpty();
+    program.joinLetters().settingsFile("/etc/vcs").settingsOption("config", "Settings.");
+    typed::Command& printing = program.verb("print,p", "Prints.");
+    printing.option<std::vector<int>>("page", "")
+        .range(1, 9)
+        .check("even", [](int) { return true; })
+        .needs(user);
+    printing.option("paper", "", Paper::a4).topic("Looks").deprecated("");
+    printing.positional<std::vector<std::string>>("file", "").times(1, 3);
+    program.verb("run", "").rest<std::vector<std::string>>("command", "");
+    const char* const argv[] = {"vcs", "tarvoption=describe"};
+    print(program.parse(2, argv).output(), {"User.", "Settings."});
+}
+
 } // namespace
 
 int main() {
     printNothing();
     printEverything();
     printTexts();
+    printProgram();
     return 0;
 }
