@@ -199,61 +199,54 @@ public:
     /// An option without a default: it holds a `T()` until it is given. A `bool` makes a switch.
     template <class T>
     Handle<T> option(const char* names, const char* description) {
-        return add<T>(engine::roleOption, names, description, T(), false);
+        return add<T>(engine::roleOption, names, description);
     }
     /// An option with a default, which is of its type.
     template <class T, class Held = values::HeldFor<T>>
     Handle<Held> option(const char* names, const char* description, T initial) {
-        return add<Held>(engine::roleOption, names, description, Held(static_cast<T&&>(initial)), true);
+        return add<Held>(engine::roleOption, names, description, Held(static_cast<T&&>(initial)));
     }
     /// A switch, which is turned off by "no-" in front of its name.
     Handle<bool> flag(const char* names, const char* description) { return option<bool>(names, description); }
     /// Counts how often it is given: "-vvv" is three times.
     Handle<int> counter(const char* names, const char* description) {
-        return declare(engine::roleOption, names, description,
-                       values::makeSlot<int>(values::counterShape(), 0), false);
+        auto* const slot = new (std::nothrow) values::Slot<int>(values::shapeForCounter);
+        return declare(engine::roleOption, names, description, slot, false);
     }
     /// An option whose values go into `variable`, which outlives the program. What it holds now is what
     /// it holds again at the beginning of every parse.
     template <class T>
     Handle<T> bind(const char* names, T& variable, const char* description) {
-        return add<T>(engine::roleOption, names, description, variable, true, &variable);
+        return add<T>(engine::roleOption, names, description, variable, &variable);
     }
     /// An argument without a name. Several are filled in their order, required ones first; one of them
     /// may be a list, which takes what the others leave: "cp SOURCE... DEST".
     template <class T>
     Handle<T> positional(const char* name, const char* description) {
-        return add<T>(engine::rolePositional, name, description, T(), false);
+        return add<T>(engine::rolePositional, name, description);
     }
     template <class T, class Held = values::HeldFor<T>>
     Handle<Held> positional(const char* name, const char* description, T initial) {
-        return add<Held>(engine::rolePositional, name, description, Held(static_cast<T&&>(initial)), true);
+        return add<Held>(engine::rolePositional, name, description, Held(static_cast<T&&>(initial)));
     }
     /// Everything from the first argument without a name on, whatever it looks like: for programs that
     /// run others.
     template <class T>
     Handle<T> rest(const char* name, const char* description) {
         static_assert(values::isList<T>, "tarv: rest() is for lists");
-        return add<T>(engine::roleRest, name, description, T(), false);
+        return add<T>(engine::roleRest, name, description);
     }
     /// One of several things that the command does, of which a command line names one: "tar --list". It
     /// is a program of actions or of verbs, not of both.
     Handle<bool> action(const char* names, const char* description) {
-        return add<bool>(engine::roleAction, names, description, false, false);
+        return add<bool>(engine::roleAction, names, description);
     }
 
     /// A verb, as "log" of "vcs log": the first argument without a name, which may be cut short. It has
     /// options of its own, and all of those above it, which may stand in front of it as well.
     Command& verb(const char* names, const char* description) {
         engine::Command* const record = engine::addVerb(m_record, names, description);
-        Command* const made = record != nullptr ? new (std::nothrow) Command(record) : nullptr;
-        if (made == nullptr) {
-            engine::addOption(m_record, engine::roleOption, "", "", nullptr, 0);
-            return nothing();
-        }
-        made->m_next = m_verbs;
-        m_verbs = made;
-        return *made;
+        return record != nullptr ? *new (engine::faceOf(record)) Command(record) : nothing();
     }
 
     /// What `Program::run` does when the command line names this command: returns the exit code, or
@@ -291,34 +284,26 @@ public:
     /// @cond
 protected:
     explicit Command(engine::Command* record) : m_record(record) {}
-    Command(Command&& other) noexcept : m_record(other.m_record), m_verbs(other.m_verbs) {
-        other.m_record = nullptr;
-        other.m_verbs = nullptr;
-    }
-    ~Command() {
-        while (m_verbs != nullptr) {
-            Command* const gone = m_verbs;
-            m_verbs = gone->m_next;
-            delete gone;
-        }
-    }
-    void swap(Command& other) noexcept {
-        values::swap(m_record, other.m_record);
-        values::swap(m_verbs, other.m_verbs);
-    }
+    ~Command() = default;
 
     engine::Command* m_record;
 
 private:
     template <class T>
-    Handle<T> add(int role, const char* names, const char* description, T initial, bool isDefault,
-                  T* variable = nullptr) {
-        values::Slot<T>* const slot = values::makeSlot<T>(values::shapeOf<T>(), static_cast<T&&>(initial));
+    [[gnu::cold]] Handle<T> add(int role, const char* names, const char* description) {
+        auto* const slot = new (std::nothrow) values::Slot<T>(values::shapeFor<T, false>);
+        return declare(role, names, description, slot, false);
+    }
+    template <class T>
+    [[gnu::cold]] Handle<T> add(int role, const char* names, const char* description, T initial,
+                                T* variable = nullptr) {
+        auto* const slot =
+            new (std::nothrow) values::InitialSlot<T>(values::shapeFor<T, true>, static_cast<T&&>(initial));
         if (slot != nullptr && variable != nullptr) {
             slot->target = variable;
         }
-        Handle<T> handle = declare(role, names, description, slot, isDefault && variable == nullptr);
-        if (isDefault && handle.option() != nullptr) {
+        const Handle<T> handle = declare<T>(role, names, description, slot, variable == nullptr);
+        if (handle.option() != nullptr) {
             values::showDefault(handle.option(), slot->initial);
         }
         return handle;
@@ -339,9 +324,6 @@ private:
         static Command command(static_cast<engine::Command*>(nullptr));
         return command;
     }
-
-    Command* m_verbs = nullptr;
-    Command* m_next = nullptr;
     /// @endcond
 };
 
@@ -382,9 +364,11 @@ public:
     /// The name is the one in messages. A null version is none.
     explicit Program(const char* name, const char* version = nullptr, const char* description = "")
         : Command(engine::createProgram(name, version, description)) {}
-    Program(Program&& other) noexcept : Command(static_cast<Command&&>(other)) {}
+    Program(Program&& other) noexcept : Command(other.m_record) { other.m_record = nullptr; }
     Program& operator=(Program&& other) noexcept {
-        swap(other);
+        engine::Command* const record = m_record;
+        m_record = other.m_record;
+        other.m_record = record;
         return *this;
     }
     ~Program() { engine::destroy(m_record); }

@@ -6,6 +6,21 @@
 
 namespace tarv_3_3::typed::engine {
 
+Option::~Option() {
+    if (state == nullptr) {
+        return;
+    }
+    for (Owned* check = state->checks; check != nullptr;) {
+        Owned* const next = check->next;
+        check->destroy(check);
+        check = next;
+    }
+    if (state->completer != nullptr) {
+        state->completer->destroy(state->completer);
+    }
+    state->shape->destroy(state);
+}
+
 bool Option::hasName(std::string_view wanted) const {
     return std::find(names.begin(), names.end(), wanted) != names.end();
 }

@@ -54,6 +54,8 @@ struct Command {
     std::vector<std::unique_ptr<Option>> options;
     std::vector<GroupRule> rules;
     Body* body = nullptr;
+    /// What stands for it in the host.
+    void* face = nullptr;
 
     ///@{
     /// Of the program alone.

@@ -24,7 +24,10 @@ struct Range {
 /// What was declared of an option, an action or a positional argument. Lives as long as its program, in one
 /// place.
 struct Option {
-    ~Option() { state->shape->destroy(state); }
+    Option() = default;
+    Option(const Option&) = delete;
+    Option& operator=(const Option&) = delete;
+    ~Option();
 
     const Shape& shape() const { return *state->shape; }
     const std::string& name() const { return names.front(); }

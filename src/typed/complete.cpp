@@ -175,7 +175,7 @@ bool ProgramCompleter::completeValue(const char* name, const char* word, Candida
         offerVerbs(word, sink);
         return true;
     }
-    if (known->second->state->complete == nullptr) {
+    if (known->second->state->completer == nullptr) {
         return false;
     }
     for (const auto& [value, description] : m_candidates) {

@@ -72,6 +72,10 @@ Command* addVerb(Command* parent, const char* names, const char* description) {
     return added;
 }
 
+void* faceOf(Command* command) {
+    return &command->face;
+}
+
 void setBody(Command* command, Body* body) {
     if (command == nullptr) {
         if (body != nullptr) {

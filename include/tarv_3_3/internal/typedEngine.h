@@ -70,13 +70,20 @@ struct Shape {
     ///@}
 };
 
+/// Code of the host's that an option keeps: a check or a completer. The library ends it.
+struct Owned {
+    Owned* next;
+    void (*destroy)(Owned*);
+};
+
 /// What a handle points to. The library writes all but the first fields.
 struct State {
     const Shape* shape;
     /// Null when there was no memory for it.
     Option* option;
-    /// Calls the host's completer, null when there is none.
-    void (*complete)(State*, Taking*, const char* word);
+    /// The checks in their order, and the completer; null where there are none.
+    Owned* checks;
+    Owned* completer;
     int given;
     int count;
     int source;
@@ -118,6 +125,8 @@ enum Purpose : int { purposeParse = 0, purposeRun = 1 };
 TARV_API Command* createProgram(const char* name, const char* version, const char* description);
 TARV_API void destroy(Command* program);
 TARV_API Command* addVerb(Command* parent, const char* names, const char* description);
+/// Room for a pointer, which lives as long as the command: what stands for it in the host.
+TARV_API void* faceOf(Command* command);
 /// Takes `body` over, also where it cannot be kept; null stands for one that there was no memory for.
 TARV_API void setBody(Command* command, Body* body);
 /// Takes `state` over, and ends it with `Shape::destroy`; false when it had to be ended at once. Null stands

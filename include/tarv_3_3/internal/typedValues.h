@@ -59,13 +59,6 @@ namespace values {
 template <class>
 inline constexpr bool never = false;
 
-template <class T>
-void swap(T*& left, T*& right) {
-    T* const kept = left;
-    left = right;
-    right = kept;
-}
-
 // ---- What a type is -------------------------------------------------------------------------------
 
 template <class T, class = void>
@@ -329,16 +322,13 @@ E valueAt(int place) {
 // ---- Records --------------------------------------------------------------------------------------
 
 template <class Element>
-struct Check {
-    Check* next;
+struct Check : engine::Owned {
     const char* must;
     bool (*accepts)(const Check*, const Element&);
-    void (*destroy)(Check*);
 };
 
-struct Completer {
+struct Completer : engine::Owned {
     void (*call)(const Completer*, engine::Taking*, const char* word);
-    void (*destroy)(Completer*);
 };
 
 /// What a handle points to.
@@ -346,31 +336,28 @@ template <class T>
 struct Slot : engine::State {
     using Element = typename ElementOf<T>::Type;
 
-    Slot(const engine::Shape& itsShape, T&& value)
-        : engine::State{&itsShape, nullptr, nullptr, 0, 0, 0, nullptr}, initial(static_cast<T&&>(value)),
-          own(initial) {}
+    Slot(const engine::Shape& itsShape, const T& value)
+        : engine::State{&itsShape, nullptr, nullptr, nullptr, 0, 0, 0, nullptr}, own(value) {}
+    Slot(const engine::Shape& itsShape)
+        : engine::State{&itsShape, nullptr, nullptr, nullptr, 0, 0, 0, nullptr}, own() {}
     Slot(const Slot&) = delete;
     Slot& operator=(const Slot&) = delete;
-    ~Slot() {
-        while (checks != nullptr) {
-            Check<Element>* const gone = checks;
-            checks = gone->next;
-            gone->destroy(gone);
-        }
-        if (completer != nullptr) {
-            completer->destroy(completer);
-        }
-    }
 
-    T initial;
     T own;
     T* target = &own;
-    Check<Element>* checks = nullptr;
-    Completer* completer = nullptr;
+};
+
+/// One with an initial value of its own.
+template <class T>
+struct InitialSlot : Slot<T> {
+    InitialSlot(const engine::Shape& itsShape, T&& value)
+        : Slot<T>(itsShape, value), initial(static_cast<T&&>(value)) {}
+
+    T initial;
 };
 
 template <class N>
-bool readNumber(engine::Taking* taking, const char* text, N& number) {
+[[gnu::cold]] bool readNumber(engine::Taking* taking, const char* text, N& number) {
     if constexpr (std::is_floating_point_v<N>) {
         double value = 0;
         const bool isRead = engine::readReal(taking, text, &value);
@@ -391,7 +378,7 @@ bool readNumber(engine::Taking* taking, const char* text, N& number) {
 
 /// Reads one element; false when the text is none, which the library notes.
 template <class E>
-bool read(engine::Taking* taking, const char* text, E& element) {
+[[gnu::cold]] bool read(engine::Taking* taking, const char* text, E& element) {
     if constexpr (isForeign<E>) {
         return fromText(text, element) || engine::refuse(taking, nullptr);
     } else if constexpr (std::is_same_v<E, bool>) {
@@ -425,18 +412,28 @@ bool read(engine::Taking* taking, const char* text, E& element) {
     }
 }
 
-template <class T>
-bool take(engine::State* state, engine::Taking* taking, const char* text, int mode) {
-    auto& slot = static_cast<Slot<T>&>(*state);
-    using Element = typename ElementOf<T>::Type;
-    Element element{};
+/// Reads one element and asks the checks.
+template <class E>
+[[gnu::cold]] bool readChecked(const engine::State* state, engine::Taking* taking, const char* text,
+                               E& element) {
     if (!read(taking, text, element)) {
         return false;
     }
-    for (const Check<Element>* check = slot.checks; check != nullptr; check = check->next) {
+    for (const engine::Owned* owned = state->checks; owned != nullptr; owned = owned->next) {
+        const auto* const check = static_cast<const Check<E>*>(owned);
         if (!check->accepts(check, element)) {
             return engine::refuse(taking, check->must);
         }
+    }
+    return true;
+}
+
+template <class T>
+[[gnu::cold]] bool take(engine::State* state, engine::Taking* taking, const char* text, int mode) {
+    auto& slot = static_cast<Slot<T>&>(*state);
+    typename ElementOf<T>::Type element{};
+    if (!readChecked(state, taking, text, element)) {
+        return false;
     }
     if (mode == engine::takeCheck) {
         return true;
@@ -446,25 +443,29 @@ bool take(engine::State* state, engine::Taking* taking, const char* text, int mo
             *slot.target = T();
         }
         if constexpr (hasPushBack<T>) {
-            slot.target->push_back(static_cast<Element&&>(element));
+            slot.target->push_back(static_cast<decltype(element)&&>(element));
         } else {
-            slot.target->insert(static_cast<Element&&>(element));
+            slot.target->insert(static_cast<decltype(element)&&>(element));
         }
     } else {
-        *slot.target = static_cast<Element&&>(element);
+        *slot.target = static_cast<decltype(element)&&>(element);
     }
     return true;
 }
 
-template <class T>
-void restore(engine::State* state) {
-    auto& slot = static_cast<Slot<T>&>(*state);
-    *slot.target = slot.initial;
+template <class T, bool hasInitial>
+[[gnu::cold]] void restore(engine::State* state) {
+    if constexpr (hasInitial) {
+        auto& slot = static_cast<InitialSlot<T>&>(*state);
+        *slot.target = slot.initial;
+    } else {
+        *static_cast<Slot<T>&>(*state).target = T();
+    }
 }
 
-template <class T>
-void destroy(engine::State* state) {
-    delete static_cast<Slot<T>*>(state);
+template <class Made>
+[[gnu::cold]] void destroy(engine::State* state) {
+    delete static_cast<Made*>(state);
 }
 
 template <class N>
@@ -478,7 +479,7 @@ constexpr engine::Shape withLimits(engine::Shape shape) {
     return shape;
 }
 
-template <class T>
+template <class T, bool hasInitial>
 constexpr engine::Shape makeShape(int kind) {
     using Element = typename ElementOf<T>::Type;
     engine::Shape shape = {};
@@ -487,9 +488,9 @@ constexpr engine::Shape makeShape(int kind) {
     shape.holds = isList<T> ? engine::holdsMany : isOptional<T> ? engine::holdsOptional : engine::holdsOne;
     shape.isFloat = std::is_same_v<Element, float>;
     shape.isPath = isPath<Element>;
-    shape.restore = restore<T>;
+    shape.restore = restore<T, hasInitial>;
     shape.take = take<T>;
-    shape.destroy = destroy<T>;
+    shape.destroy = destroy<std::conditional_t<hasInitial, InitialSlot<T>, Slot<T>>>;
     if constexpr (std::is_enum_v<Element> && !isForeign<Element>) {
         shape.spelling = spellingOf<Element>();
         shape.choiceAt = isNamed<Element> ? choiceAt<Element> : nullptr;
@@ -504,27 +505,14 @@ constexpr engine::Shape makeShape(int kind) {
     return withLimits<Element>(shape);
 }
 
-template <class T>
-inline constexpr engine::Shape shapeFor = makeShape<T>(kindOf<typename ElementOf<T>::Type>());
-inline constexpr engine::Shape shapeForCounter = makeShape<int>(engine::kindCounter);
-
-template <class T>
-constexpr const engine::Shape& shapeOf() {
-    return shapeFor<T>;
-}
-inline const engine::Shape& counterShape() {
-    return shapeForCounter;
-}
-
-template <class T>
-Slot<T>* makeSlot(const engine::Shape& shape, T initial) {
-    return new (std::nothrow) Slot<T>(shape, static_cast<T&&>(initial));
-}
+template <class T, bool hasInitial>
+inline constexpr engine::Shape shapeFor = makeShape<T, hasInitial>(kindOf<typename ElementOf<T>::Type>());
+inline constexpr engine::Shape shapeForCounter = makeShape<int, false>(engine::kindCounter);
 
 // ---- What a declaration says ----------------------------------------------------------------------
 
 template <class T>
-void showDefault(engine::Option* option, const T& value) {
+[[gnu::cold]] void showDefault(engine::Option* option, const T& value) {
     if constexpr (isForeign<T>) {
     } else if constexpr (isOptional<T>) {
         if (value.has_value()) {
@@ -560,9 +548,9 @@ constexpr bool isOutside(Bound bound) {
     if constexpr (!std::is_integral_v<N>) {
         return false;
     } else if (bound < Bound()) {
-        return !std::is_signed_v<N> || static_cast<long long>(bound) < shapeFor<N>.least;
+        return !std::is_signed_v<N> || static_cast<long long>(bound) < withLimits<N>({}).least;
     } else {
-        return static_cast<unsigned long long>(bound) > shapeFor<N>.most;
+        return static_cast<unsigned long long>(bound) > withLimits<N>({}).most;
     }
 }
 
@@ -619,19 +607,18 @@ void addChoice(engine::Option* option, const C& choice) {
 }
 
 template <class T, class F>
-void addCheck(Slot<T>* slot, const char* must, F accepts) {
+[[gnu::cold]] void addCheck(Slot<T>* slot, const char* must, F accepts) {
     using Element = typename Slot<T>::Element;
     struct With : Check<Element> {
         explicit With(F&& function) : Check<Element>{}, test(static_cast<F&&>(function)) {}
         F test;
     };
-    if (slot == nullptr) {
+    const char* const kept = engine::addCheck(slot != nullptr ? slot->option : nullptr, must);
+    if (kept == nullptr) {
         return;
     }
-    const char* const kept = engine::addCheck(slot->option, must);
     With* const made = new (std::nothrow) With(static_cast<F&&>(accepts));
-    if (kept == nullptr || made == nullptr) {
-        delete made;
+    if (made == nullptr) {
         engine::failMemory(slot->option);
         return;
     }
@@ -639,42 +626,41 @@ void addCheck(Slot<T>* slot, const char* must, F accepts) {
     made->accepts = [](const Check<Element>* check, const Element& element) -> bool {
         return static_cast<const With*>(check)->test(element);
     };
-    made->destroy = [](Check<Element>* check) { delete static_cast<With*>(check); };
-    Check<Element>** end = &slot->checks;
+    made->destroy = [](engine::Owned* check) { delete static_cast<With*>(check); };
+    engine::Owned** end = &slot->checks;
     while (*end != nullptr) {
         end = &(*end)->next;
     }
     *end = made;
 }
 
-template <class Candidates, class T, class F>
-void setCompleter(Slot<T>* slot, F function) {
+template <class Candidates, class F>
+[[gnu::cold]] void setCompleter(engine::State* state, F function) {
     struct With : Completer {
         explicit With(F&& completer) : Completer{}, completes(static_cast<F&&>(completer)) {}
         F completes;
     };
-    With* const made = slot != nullptr ? new (std::nothrow) With(static_cast<F&&>(function)) : nullptr;
+    if (state == nullptr) {
+        return;
+    }
+    With* const made = new (std::nothrow) With(static_cast<F&&>(function));
     if (made == nullptr) {
-        engine::failMemory(slot != nullptr ? slot->option : nullptr);
+        engine::failMemory(state->option);
         return;
     }
     made->call = [](const Completer* completer, engine::Taking* taking, const char* word) {
         Candidates candidates(taking);
         static_cast<const With*>(completer)->completes(word, candidates);
     };
-    made->destroy = [](Completer* completer) { delete static_cast<With*>(completer); };
-    if (slot->completer != nullptr) {
-        slot->completer->destroy(slot->completer);
+    made->destroy = [](engine::Owned* completer) { delete static_cast<With*>(completer); };
+    if (state->completer != nullptr) {
+        state->completer->destroy(state->completer);
     }
-    slot->completer = made;
-    slot->complete = [](engine::State* state, engine::Taking* taking, const char* word) {
-        const Completer* const completer = static_cast<Slot<T>*>(state)->completer;
-        completer->call(completer, taking, word);
-    };
+    state->completer = made;
 }
 
 template <class F>
-engine::Body* makeBody(F function) {
+[[gnu::cold]] engine::Body* makeBody(F function) {
     struct With : engine::Body {
         explicit With(F&& body) : engine::Body{}, runs(static_cast<F&&>(body)) {}
         F runs;
@@ -694,7 +680,7 @@ engine::Body* makeBody(F function) {
     return made;
 }
 
-inline bool perform(const engine::Step& step) {
+[[gnu::cold]] inline bool perform(const engine::Step& step) {
     switch (step.kind) {
     case engine::stepRestore:
         step.state->shape->restore(step.state);
@@ -702,7 +688,8 @@ inline bool perform(const engine::Step& step) {
     case engine::stepTake:
         return step.state->shape->take(step.state, step.taking, step.text, step.mode);
     default:
-        step.state->complete(step.state, step.taking, step.text);
+        static_cast<const Completer*>(step.state->completer)
+            ->call(static_cast<const Completer*>(step.state->completer), step.taking, step.text);
         return true;
     }
 }
