@@ -1,9 +1,6 @@
 #include "explain/explainLine.h"
 
 #include <algorithm>
-#include <deque>
-#include <memory>
-#include <new>
 #include <set>
 
 #include <tarv_3_3/explain.h>
@@ -11,7 +8,7 @@
 #include "compare/LineQuestion.h"
 #include "compare/Side.h"
 #include "compare/ValueQuestion.h"
-#include "model/verbs.h"
+#include "explain/levels.h"
 #include "text/shellQuoted.h"
 
 namespace tarv_program {
@@ -53,30 +50,10 @@ std::string sourceOf(int source) {
 /// Explains arguments by the parser of one level: the program, or one of its verbs.
 class Level {
 public:
-    Level(const CommandLine& line, const std::vector<std::string>& arguments)
-        : m_side(line), m_arguments(arguments) {
-        std::vector<const char*> argv(1, "");
-        for (const std::string& argument : arguments) {
-            argv.push_back(argument.c_str());
-        }
-        m_explanation.reset(explain(&m_side.parser(), static_cast<int>(argv.size()), argv.data()));
-        if (m_explanation == nullptr) {
-            throw std::bad_alloc();
-        }
-    }
+    explicit Level(const LevelPart& part) : m_part(part), m_side(part.side), m_arguments(part.arguments) {}
 
-    /// The first argument that is no option's; the number of arguments when there is none.
-    std::size_t firstNameless() const {
-        std::size_t place = 0;
-        while (place < m_arguments.size() && role(place) != explainedPositional &&
-               role(place) != explainedUnknown) {
-            ++place;
-        }
-        return place;
-    }
-
-    void add(ExplainedLine& line, std::size_t count) {
-        for (std::size_t i = 0; i < count; ++i) {
+    void add(ExplainedLine& line) {
+        for (std::size_t i = 0; i < m_part.count; ++i) {
             line.words.push_back(word(i));
         }
     }
@@ -103,17 +80,8 @@ public:
     }
 
 private:
-    struct Release {
-        void operator()(const Explanation* explanation) const { release(explanation); }
-    };
-
-    const ExplainedArgument& at(std::size_t place) const {
-        return explainedAt(*m_explanation, static_cast<unsigned>(place));
-    }
-    int role(std::size_t place) const { return at(place).role; }
-
     ExplainedWord word(std::size_t place) {
-        const ExplainedArgument& found = at(place);
+        const ExplainedArgument& found = m_part.at(place);
         ExplainedWord word;
         word.argument = shellQuoted(m_arguments[place]);
         if (found.place >= 0) {
@@ -207,52 +175,42 @@ private:
         return name.empty() ? "positional" : shellQuoted(name);
     }
 
-    const Side m_side;
-    const std::vector<std::string> m_arguments;
-    std::unique_ptr<const Explanation, Release> m_explanation;
+    const LevelPart& m_part;
+    const Side& m_side;
+    const std::vector<std::string>& m_arguments;
     std::set<std::size_t> m_given;
     std::string m_refusedValue;
 };
+
+const CommandLine& verbOf(const LevelPart& part) {
+    return part.side.line().verbs[part.verb.place];
+}
 
 } // namespace
 
 ExplainedLine explainLine(const CommandLine& program, const std::vector<std::string>& arguments) {
     ExplainedLine explained;
-    // Each verb is a command line of its own, which outlives its level.
-    std::deque<CommandLine> lines = {withRequiredAsRules(program)};
-    std::vector<std::string> left = arguments;
-    for (;;) {
-        const CommandLine& line = lines.back();
-        Level level(line, left);
-        const std::size_t verbPlace = level.firstNameless();
-        if (line.verbs.empty() || verbPlace == left.size()) {
-            level.add(explained, left.size());
+    forEachLevel(program, arguments, [&](const LevelPart& part) {
+        Level level(part);
+        level.add(explained);
+        if (!part.isVerbNext) {
             level.addNotGiven(explained);
             level.judge(explained);
-            return explained;
+            return;
         }
-        level.add(explained, verbPlace);
-        const std::string typed = left[verbPlace];
-        const CommandLine names = verbsAsOptions(line);
-        const Meaning meaning = Side(names).meaningOf(typed);
-        if (meaning.kind != Meaning::one) {
-            const std::string remark = meaning.kind == Meaning::several
-                                           ? "ambiguous: " + joined(meaning.candidates)
-                                           : std::string("no verb");
-            explained.words.push_back({shellQuoted(typed), "?", "", visible(remark)});
-            explained.message = "'" + typed + "' is " +
-                                (meaning.kind == Meaning::several ? "short for several verbs" : "no verb");
-            return explained;
+        const std::string& typed = part.arguments[part.count];
+        const bool isAmbiguous = part.verb.kind == Meaning::several;
+        if (part.verb.kind == Meaning::one) {
+            explained.words.push_back({shellQuoted(typed), "verb " + shellQuoted(verbOf(part).names.front()),
+                                       "", part.verb.name == typed ? "" : "abbreviated"});
+        } else {
+            explained.words.push_back(
+                {shellQuoted(typed), "?", "",
+                 isAmbiguous ? "ambiguous: " + visible(joined(part.verb.candidates)) : "no verb"});
+            explained.message = "'" + typed + "' is " + (isAmbiguous ? "short for several verbs" : "no verb");
         }
-        const CommandLine& verb = line.verbs[meaning.place];
-        explained.words.push_back({shellQuoted(typed), "verb " + shellQuoted(verb.names.front()), "",
-                                   meaning.name == typed ? "" : "abbreviated"});
-        // What stands in front of the verb goes with it.
-        std::vector<std::string> behind(left.begin() + static_cast<std::ptrdiff_t>(verbPlace) + 1,
-                                        left.end());
-        left = std::move(behind);
-        lines.push_back(within(line, verb));
-    }
+    });
+    return explained;
 }
 
 std::string table(const ExplainedLine& line) {

@@ -1,3 +1,6 @@
+#include <algorithm>
+#include <cstdio>
+
 #include <tarv_3_3/completion.h>
 #include <tarv_3_3/description.h>
 
@@ -6,8 +9,10 @@
 #include "explain/explainLine.h"
 #include "front/Verb.h"
 #include "front/files.h"
+#include "lint/lintScript.h"
 #include "model/loadDescription.h"
 #include "pages/Page.h"
+#include "text/shellQuoted.h"
 
 namespace tarv_program {
 
@@ -74,6 +79,54 @@ int runExplain(const Arguments& arguments) {
     const ExplainedLine line = explainLine(loadDescription(programOf(arguments)), arguments.plain());
     print(table(line));
     return line.isAccepted ? 0 : 1;
+}
+
+void declareLint(IParser& parser) {
+    declarePositional(parser, "SCRIPT");
+    declareFile(parser, "with", "The program whose calls are looked at, or its description.");
+    annotate(&parser, "with", "value", "PROGRAM");
+    addRule(&parser, ruleRequired, "with");
+    parser.option("name", "Another name that the scripts call it by.", vtString).tokenize(0);
+    annotate(&parser, "name", "complete", "none");
+    parser.option("fix", "Write whole names into the scripts, and say what is left.", vtNull);
+    parser.option("diff", "Print what --fix would change.", vtNull);
+    addRule(&parser, ruleAtMostOne, "fix,diff");
+}
+
+// Whether something is left to be mended by hand.
+bool lintOne(LintedScript script, const Arguments& arguments) {
+    if (arguments.isGiven("diff")) {
+        print(differenceOf(script));
+        return !script.diagnostics.empty();
+    }
+    if (arguments.isGiven("fix")) {
+        replaceScript(script);
+        auto& found = script.diagnostics;
+        found.erase(std::remove_if(found.begin(), found.end(),
+                                   [](const Diagnostic& diagnostic) { return diagnostic.fix.has_value(); }),
+                    found.end());
+    }
+    print(reportOf(script));
+    return !script.diagnostics.empty();
+}
+
+int runLint(const Arguments& arguments) {
+    const CommandLine program = loadDescription(*arguments.value("with"));
+    std::vector<std::string> names = arguments.values("name");
+    names.push_back(program.names.front());
+    int exitCode = 0;
+    for (const std::string& path : arguments.values("SCRIPT")) {
+        // One script that cannot be read does not keep the others from being looked at.
+        try {
+            if (lintOne(lintScript(program, names, path), arguments) && exitCode == 0) {
+                exitCode = 1;
+            }
+        } catch (const Failure& failure) {
+            std::fprintf(stderr, "tarv: %s\n", visible(failure.what()).c_str());
+            exitCode = 2;
+        }
+    }
+    return exitCode;
 }
 
 void declarePages(IParser& parser) {
@@ -153,6 +206,9 @@ const std::vector<Verb>& allVerbs() {
         {"explain", "PROGRAM -- ARGUMENT...", 1, 1,
          "Show how a program understands arguments, without running it.",
          flagRejectUnknown | flagDashIsNotPositional, declareProgram, runExplain},
+        {"lint", "--with=PROGRAM SCRIPT...", 1, Verb::anyNumber,
+         "Find abbreviated, unknown and deprecated names in the calls of a program.", filesEverywhere,
+         declareLint, runLint},
         {"man", "PROGRAM", 1, 1, "Write a manual page.", filesEverywhere, declareManual, runManual},
         {"markdown", "PROGRAM", 1, 1, "Write the same as Markdown.", filesEverywhere, declarePages,
          runMarkdown},

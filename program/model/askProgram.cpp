@@ -31,7 +31,11 @@ public:
         close(ends[1]);
         if (status != 0) {
             close(m_output);
-            throw Failure(m_name + ": " + std::strerror(status));
+            const std::string reason = m_name + ": " + std::strerror(status);
+            if (status == ENOENT) {
+                throw NotFound(reason);
+            }
+            throw Failure(reason);
         }
     }
     Child(const Child&) = delete;

@@ -5,6 +5,8 @@
 #include <string>
 #include <vector>
 
+#include "model/CommandLine.h"
+
 namespace tarv_program {
 
 /// How long another program may run, and how much it may print.
@@ -13,10 +15,16 @@ struct Limits {
     std::size_t bytes = 16 * 1024 * 1024;
 };
 
+/// There is no such program.
+class NotFound : public Failure {
+public:
+    using Failure::Failure;
+};
+
 /// Runs a program, by its path or found in PATH, without input and without its standard error, and returns
 /// what it prints. `input` is a file for its standard input, "" for none.
-/// Throws `Failure` when it cannot be started, does not end with exit code 0, or goes beyond the limits; then
-/// it was killed, with what it had started in its process group.
+/// Throws `NotFound` when there is none, `Failure` when it cannot be started, does not end with exit code 0,
+/// or goes beyond the limits; then it was killed, with what it had started in its process group.
 std::string outputOf(const std::vector<std::string>& command, const Limits& limits,
                      const std::string& input = "");
 

@@ -1,0 +1,170 @@
+#include <gtest/gtest.h>
+
+#include <filesystem>
+
+#include <sys/stat.h>
+#include <tarv_3_3/description.h>
+
+#include "Described.h"
+#include "lint/lintScript.h"
+#include "support/TemporaryDirectory.h"
+
+using namespace tarv_3_3;
+
+namespace tarv_program {
+namespace {
+
+Word known(const std::string& text) {
+    Word word;
+    word.text = text;
+    return word;
+}
+
+TEST(ProgramPlace, IsBehindCommandsThatRunOthers) {
+    const struct {
+        std::vector<const char*> words;
+        std::size_t expected;
+    } rows[] = {
+        {{"pack", "x"}, 0},
+        {{"/usr/bin/pack", "x"}, 0},
+        {{"packer", "x"}, 2},
+        {{"echo", "pack"}, 2},
+        {{"sudo", "pack"}, 1},
+        {{"sudo", "-n", "-u", "me", "LANG=C", "pack"}, 5},
+        {{"sudo", "-nu", "pack", "pack"}, 3},
+        {{"sudo", "--user", "me", "--", "pack"}, 4},
+        {{"sudo", "apt", "install", "pack"}, 4},
+        {{"env", "-i", "A=b", "pack"}, 3},
+        {{"xargs", "-0", "-n1", "-P", "4", "pack"}, 5},
+        {{"xargs", "-I{}", "pack", "{}"}, 2},
+        {{"timeout", "-k", "1", "60", "pack"}, 4},
+        {{"nice", "nohup", "time", "-o", "f", "exec", "-a", "n", "pack"}, 8},
+        {{"timeout"}, 1},
+        {{"sudo", "-u"}, 2},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(testing::PrintToString(row.words));
+        Call call;
+        for (const char* const text : row.words) {
+            call.push_back(known(text));
+        }
+        EXPECT_EQ(programPlace(call, "pack"), row.expected);
+    }
+}
+
+TEST(ReadCalls, RefusesWhatIsNoSyntaxTree) {
+    for (const char* const tree :
+         {"", "{", "[]", "null", R"({"Type": "CallExpr"})", R"({"Type": 1})",
+          R"({"Type": "File", "Cmd": {"Type": "CallExpr", "Args": 1}})",
+          R"({"Type": "File", "Cmd": {"Type": "CallExpr", "Args": [1]}})",
+          R"({"Type": "File", "Cmd": {"Type": "CallExpr", "Args": [{"Pos": {"Offset": -1}}]}})",
+          R"({"Type": "File", "Cmd": {"Type": "CallExpr", "Args": [
+              {"Pos": {"Offset": 0, "Line": 1, "Col": 1}, "Parts": [{"Type": "Lit", "Value": 1}]}]}})"}) {
+        SCOPED_TRACE(tree);
+        EXPECT_THROW(readCalls(tree, "script"), Failure);
+    }
+}
+
+TEST(ReadCalls, TrustsNoOffsetThatDoesNotFitTheScript) {
+    const char tree[] = R"({"Type": "File", "Stmts": [{"Cmd": {"Type": "CallExpr", "Args": [
+        {"Pos": {"Offset": 99999999999, "Line": 1, "Col": 1}, "Parts": [
+            {"Type": "Lit", "Value": "pack", "ValuePos": {"Offset": 99999999999, "Line": 1, "Col": 1}}]}]}}]})";
+    const std::vector<Call> calls = readCalls(tree, "pack");
+    ASSERT_EQ(calls.size(), 1U);
+    EXPECT_EQ(calls[0][0].text, "pack");
+    EXPECT_FALSE(calls[0][0].isContiguous(0, 4));
+}
+
+TEST(ReadCalls, ReadsATreeThatIsDeeperThanAnyStack) {
+    constexpr int depth = 300000;
+    std::string tree = R"({"Type": "File", "Stmts": )";
+    for (int i = 0; i < depth; ++i) {
+        tree += "[";
+    }
+    tree.append(depth, ']').append("}");
+    EXPECT_EQ(readCalls(tree, "").size(), 0U);
+}
+
+class ReplaceScriptTest : public testing::Test {
+protected:
+    ReplaceScriptTest() {
+        script.path = directory.write("script.sh", script.contents);
+        Diagnostic found = {false, 1, 6, "", Replacement{5, 5, "--output"}};
+        script.diagnostics = {found};
+    }
+
+    std::string left() const {
+        std::string names;
+        for (const auto& entry : std::filesystem::directory_iterator(directory.pathOf(""))) {
+            names += entry.path().filename().string() + " ";
+        }
+        return names;
+    }
+
+    TemporaryDirectory directory;
+    LintedScript script = {"", "pack --out=x\n", {}};
+};
+
+TEST_F(ReplaceScriptTest, WritesWhatIsMendedAndKeepsTheMode) {
+    chmod(script.path.c_str(), 0741);
+    replaceScript(script);
+    struct stat file = {};
+    stat(script.path.c_str(), &file);
+    EXPECT_EQ(file.st_mode & 07777U, 0741U);
+    EXPECT_EQ(left(), "script.sh ");
+    std::string contents;
+    {
+        std::ifstream stream(script.path);
+        std::getline(stream, contents);
+    }
+    EXPECT_EQ(contents, "pack --output=x");
+}
+
+TEST_F(ReplaceScriptTest, LeavesAScriptAloneThatWasChangedMeanwhile) {
+    directory.write("script.sh", "pack --out=y\n");
+    EXPECT_THROW(replaceScript(script), Failure);
+    EXPECT_EQ(left(), "script.sh ");
+    std::ifstream stream(script.path);
+    std::string contents;
+    std::getline(stream, contents);
+    EXPECT_EQ(contents, "pack --out=y");
+}
+
+TEST_F(ReplaceScriptTest, WritesNothingWhereNothingIsToBeMended) {
+    script.diagnostics.clear();
+    struct stat before = {};
+    stat(script.path.c_str(), &before);
+    replaceScript(script);
+    struct stat now = {};
+    stat(script.path.c_str(), &now);
+    EXPECT_EQ(now.st_ino, before.st_ino);
+}
+
+TEST_F(ReplaceScriptTest, SaysThatAScriptIsGone) {
+    std::filesystem::remove(script.path);
+    EXPECT_THROW(replaceScript(script), Failure);
+    EXPECT_EQ(left(), "");
+}
+
+TEST(Mended, ChangesAPlaceOnce) {
+    LintedScript script = {"s", "abcdef", {}};
+    script.diagnostics = {{false, 1, 1, "", Replacement{3, 1, "DD"}},
+                          {false, 1, 1, "", std::nullopt},
+                          {false, 1, 1, "", Replacement{0, 2, "A"}},
+                          {false, 1, 1, "", Replacement{1, 2, "no"}}};
+    EXPECT_EQ(mended(script), "AcDDef");
+}
+
+TEST(Difference, ShowsEndsWithoutALineFeedAndChangesApart) {
+    LintedScript script = {"s", "1\n2\n3\n4\n5\n6\n7\n8\n9\n10\n11\n12", {}};
+    script.diagnostics = {{false, 1, 1, "", Replacement{0, 1, "one"}},
+                          {false, 1, 1, "", Replacement{script.contents.size() - 2, 2, "twelve"}}};
+    EXPECT_EQ(differenceOf(script), "--- s\n+++ s\n"
+                                    "@@ -1,4 +1,4 @@\n-1\n+one\n 2\n 3\n 4\n"
+                                    "@@ -9,4 +9,4 @@\n 9\n 10\n 11\n"
+                                    "-12\n\\ No newline at end of file\n"
+                                    "+twelve\n\\ No newline at end of file\n");
+}
+
+} // namespace
+} // namespace tarv_program
