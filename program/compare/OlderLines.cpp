@@ -12,8 +12,12 @@ using namespace tarv_3_3;
 
 OlderLines::OlderLines(const Side& side, Examples& examples) : m_side(side), m_examples(examples) {
     for (std::size_t place = 0; place < side.line().options.size(); ++place) {
-        if (side.option(place).isAction) {
+        const Option& option = side.option(place);
+        if (option.isAction) {
             m_actions.push_back(place);
+        }
+        if (option.positional == Positional::filled && option.count && option.count->least > 0) {
+            m_neededPositionals.push_back(place);
         }
     }
     for (const Rule& rule : side.line().rules) {
@@ -25,6 +29,7 @@ OlderLines::OlderLines(const Side& side, Examples& examples) : m_side(side), m_e
 }
 
 std::optional<std::vector<std::string>> OlderLines::with(std::set<std::size_t> places) {
+    places.insert(m_neededPositionals.begin(), m_neededPositionals.end());
     addWhatIsNeeded(places);
     std::vector<std::string> arguments = argumentsOf(places);
     if (askLine(m_side, arguments).isAccepted) {

@@ -28,6 +28,7 @@ private:
     const Side& m_side;
     Examples& m_examples;
     std::vector<std::size_t> m_actions;
+    std::vector<std::size_t> m_neededPositionals;
     /// The places that each rule names.
     std::vector<std::vector<std::size_t>> m_rules;
 };

@@ -1,5 +1,6 @@
 #include "compare/Side.h"
 
+#include <algorithm>
 #include <new>
 
 #include <tarv_3_3/explain.h>
@@ -11,8 +12,7 @@ using namespace tarv_3_3;
 Side::Side(const CommandLine& line) : m_line(line), m_parser(rebuild(line)) {
     for (std::size_t place = 0; place < line.options.size(); ++place) {
         for (const std::string& name : line.options[place].names) {
-            // The first that has a name is the one that exact questions find.
-            m_places.emplace(name, place);
+            m_places[name].push_back(place);
         }
     }
 }
@@ -43,12 +43,18 @@ Meaning Side::meaningOf(const std::string& typed) const {
 
 std::size_t Side::placeOf(const std::vector<std::string>& names) const {
     for (const std::string& name : names) {
-        const auto found = m_places.find(name);
-        if (found != m_places.end()) {
-            return found->second;
+        // The first that has a name is the one that exact questions find.
+        if (!placesOf(name).empty()) {
+            return placesOf(name).front();
         }
     }
     return nowhere;
+}
+
+const std::vector<std::size_t>& Side::placesOf(const std::string& name) const {
+    static const std::vector<std::size_t> none;
+    const auto found = m_places.find(name);
+    return found != m_places.end() ? found->second : none;
 }
 
 std::size_t Side::filledPlace() const {
@@ -63,12 +69,22 @@ std::size_t Side::filledPlace() const {
 Sides::Sides(const CommandLine& olderLine, const CommandLine& newerLine)
     : older(olderLine), newer(newerLine) {
     for (std::size_t place = 0; place < olderLine.options.size(); ++place) {
-        std::size_t found = newer.placeOf(older.option(place).names);
-        if (found == Side::nowhere && place == older.filledPlace()) {
-            found = newer.filledPlace();
-        }
-        m_twins.push_back(found);
+        m_twins.push_back(findTwin(place));
     }
+}
+
+// Of several with the same name, the first is the first one's twin, and so on.
+std::size_t Sides::findTwin(std::size_t place) const {
+    for (const std::string& name : older.option(place).names) {
+        const std::vector<std::size_t>& before = older.placesOf(name);
+        const std::vector<std::size_t>& now = newer.placesOf(name);
+        if (!now.empty()) {
+            const auto rank =
+                static_cast<std::size_t>(std::find(before.begin(), before.end(), place) - before.begin());
+            return now[std::min(rank, now.size() - 1)];
+        }
+    }
+    return place == older.filledPlace() ? newer.filledPlace() : Side::nowhere;
 }
 
 } // namespace tarv_program

@@ -37,13 +37,16 @@ public:
     /// The option that has exactly one of these names; the first names count most.
     std::size_t placeOf(const std::vector<std::string>& names) const;
 
+    /// The options that have exactly this name, in their order: synonyms may repeat one.
+    const std::vector<std::size_t>& placesOf(const std::string& name) const;
+
     /// The option that positional arguments fill.
     std::size_t filledPlace() const;
 
 private:
     const CommandLine& m_line;
     Parser m_parser;
-    std::unordered_map<std::string, std::size_t> m_places;
+    std::unordered_map<std::string, std::vector<std::size_t>> m_places;
 };
 
 /// An older and a newer side, and which options are the same ones.
@@ -58,6 +61,8 @@ public:
     const Side newer;
 
 private:
+    std::size_t findTwin(std::size_t place) const;
+
     std::vector<std::size_t> m_twins;
 };
 

@@ -9,6 +9,7 @@
 #include "compare/Side.h"
 #include "compare/ValueQuestion.h"
 #include "explain/levels.h"
+#include "explain/mends.h"
 #include "text/shellQuoted.h"
 
 namespace tarv_program {
@@ -75,6 +76,7 @@ public:
 
     void judge(ExplainedLine& line) const {
         const LineAnswer answer = askLine(m_side, m_arguments);
+        line.isMended = m_isMended;
         line.isAccepted = answer.isAccepted && m_refusedValue.empty();
         line.message = answer.isAccepted ? m_refusedValue : answer.message;
     }
@@ -109,17 +111,22 @@ private:
             break;
         }
         default:
-            explainOthers(word, found);
+            explainOthers(word, found, place);
         }
         return word;
     }
 
-    void explainOthers(ExplainedWord& word, const ExplainedArgument& found) const {
+    void explainOthers(ExplainedWord& word, const ExplainedArgument& found, std::size_t place) {
         static const char* const meanings[] = {
             "switches the trace on",     "", "",        "", "the end of options",
             "behind the end of options", "", "no name", ""};
         word.means = meanings[found.role];
-        if (found.role == explainedUnknown) {
+        const std::string mend = mendOf(m_side.line(), m_arguments[place]);
+        if (found.role == explainedUnknown && !mend.empty()) {
+            word.means = mend == "help" || mend == "version" ? "--" + mend : "?";
+            word.remark = word.means == "?" ? "the program mends it: " + mend : "";
+            m_isMended = m_isMended || word.means == "?";
+        } else if (found.role == explainedUnknown) {
             word.means = "?";
             word.remark = found.isRefused != 0 ? "unknown" : "unknown, and passed over";
         } else if (found.role == explainedPlain && found.place >= 0) {
@@ -180,6 +187,7 @@ private:
     const std::vector<std::string>& m_arguments;
     std::set<std::size_t> m_given;
     std::string m_refusedValue;
+    bool m_isMended = false;
 };
 
 const CommandLine& verbOf(const LevelPart& part) {
@@ -234,6 +242,9 @@ std::string table(const ExplainedLine& line) {
     }
     for (const std::string& sentence : line.notGiven) {
         text += "Not given: " + sentence + ".\n";
+    }
+    if (line.isMended) {
+        return text + "The program mends this before it is parsed; whether it is accepted cannot be told.\n";
     }
     return text + (line.isAccepted ? "Accepted.\n" : "Refused: " + visible(line.message) + "\n");
 }

@@ -58,6 +58,8 @@ void forEachLevel(const CommandLine& program, const std::vector<std::string>& ar
         const OwnedExplanation explanation = explained(side, left);
         const std::size_t count = line.verbs.empty() ? left.size() : firstNameless(*explanation, left);
         LevelPart part = {side, left, *explanation, first, count, count < left.size(), Meaning()};
+        // Programs of that kind have the verb help.
+        part.isVerbNext = part.isVerbNext && (program.mends.empty() || left[count] != "help");
         if (part.isVerbNext) {
             const CommandLine names = verbsAsOptions(line);
             part.verb = Side(names).meaningOf(left[count]);
@@ -68,6 +70,7 @@ void forEachLevel(const CommandLine& program, const std::vector<std::string>& ar
         }
         first += count + 1;
         lines.push_back(within(line, line.verbs[part.verb.place]));
+        lines.back().mends = program.mends;
     }
 }
 

@@ -4,6 +4,7 @@
 
 #include "compare/ValueQuestion.h"
 #include "explain/levels.h"
+#include "explain/mends.h"
 #include "text/shellQuoted.h"
 
 namespace tarv_program {
@@ -62,6 +63,9 @@ private:
 
     void checkArgument(const LevelPart& part, std::size_t place) {
         const ExplainedArgument& found = part.at(place);
+        if (found.role != explainedNamed && !mendOf(part.side.line(), part.arguments[place]).empty()) {
+            return;
+        }
         const Word& word = wordAt(part, place);
         const std::string dashes = word.text.substr(0, found.nameStart);
         const std::string typed = word.text.substr(0, found.nameEnd);

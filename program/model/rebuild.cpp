@@ -118,12 +118,18 @@ private:
             made.allowValue(value(option, text));
         }
         made.tokenize(option.separator);
-        if (option.defaultText) {
+        if (option.defaultText && !isListDefault(option)) {
             made.defaultValue(value(option, *option.defaultText));
         }
         if (option.positional != Positional::no) {
             made.positional();
         }
+    }
+
+    // Programs with lists of values have lists as defaults, which no parser knows.
+    static bool isListDefault(const Option& option) {
+        return option.separator != 0 && option.defaultText->find(option.separator) != std::string::npos &&
+               option.kind != vtString;
     }
 
     variant_t value(const Option& option, const std::string& text) const {
