@@ -20,8 +20,8 @@ Character firstOf(std::string_view text) {
     if (length != 0) {
         return {length, internal::isControl(text.substr(0, length))};
     }
-    const auto byte = static_cast<unsigned char>(text.front());
-    return {1, 0x80U <= byte && byte < 0xA0U};
+    // No byte of ASCII gets here.
+    return {1, static_cast<unsigned char>(text.front()) < 0xA0U};
 }
 
 } // namespace

@@ -150,6 +150,40 @@ TEST(Complete, HeedsRules) {
                            {{"--gold", "--"}, "--red --green "}});
 }
 
+TEST(Complete, ExcludesWhatSeveralRulesExclude) {
+    const Parser parser = makeParser();
+    parser->option("red", "", vtNull);
+    parser->option("green", "", vtNull);
+    parser->option("blue", "", vtNull);
+    addRule(parser.get(), ruleAtMostOne, "red,green");
+    addRule(parser.get(), ruleAtMostOne, "blue,green");
+    addRule(parser.get(), ruleAllOrNone, "red,blue");
+    expectOffers(*parser, {{{"--red", "--"}, "--blue | --blue"}, {{"--red", "--blue", "--g"}, ""}});
+}
+
+TEST(Complete, OffersNoValueThatWouldBeAnother) {
+    const Parser parser = makeParser();
+    parser->option("which", "", vtString).allowValue("--which=x").allowValue("y").tokenize(0).positional();
+    parser->option("title", "", vtString).allowValue(" x").allowValue("y").tokenize(0);
+    parser->option("sizes", "", vtInt32).allowValue(8).allowValue(16);
+    expectOffers(*parser, {{{""}, "y | y"},
+                           {{"--title="}, "--title= x --title=y "},
+                           {{"--title "}, "--title y | --title y"},
+                           {{"--sizes=8,8,"}, "--sizes=8,8,16 | --sizes=8,8,16"}});
+}
+
+TEST(Complete, HeedsNotesAboutFiles) {
+    const Parser parser = makeParser();
+    parser->option("input", "", vtString);
+    parser->option("count", "", vtInt32);
+    parser->option("output", "", vtString);
+    annotate(parser.get(), "input", "value", "NAME");
+    annotate(parser.get(), "count", "complete", "file");
+    expectOffers(
+        *parser,
+        {{{"--input="}, "files from 8"}, {{"--count="}, "files from 8"}, {{"--output="}, "files from 9"}});
+}
+
 TEST(Complete, OffersValues) {
     const Parser parser = makeParser(flagDashIsNotPositional | flagPlainArePositional);
     parser->option("color", "", vtString)

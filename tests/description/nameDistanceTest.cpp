@@ -36,6 +36,11 @@ TEST(NameDistance, CountsEditsAndLettersCut) {
         {"max-co-unt", "max-count", 1, 0},
         {"ma-xcount", "max-count", 1, 0},
         {"maco", "max-count", 1, 4},
+        // Words without a letter.
+        {"a--b", "a--b", 0, 0},
+        {"a-", "a-", 0, 0},
+        {"a-b", "a--b", 1, 0},
+        {"a--b", "a-x-b-c", 3, 0},
         // Words left out: in order, each fitting.
         {"count", "max-count", 1, 0},
         {"max", "max-count", 1, 0},

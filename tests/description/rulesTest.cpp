@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "parser/Parsing.h"
+#include "result/StoredOptions.h"
 #include "tarv_3_3/description.h"
 
 using namespace tarv_3_3;
@@ -220,6 +221,16 @@ TEST(AddRule, RefusesNamesThatItCannotUse) {
         EXPECT_EQ(description->ruleCount, row.status == 0 ? 1U : 0U);
         release(description);
     }
+}
+
+// As when memory ran out between the two.
+TEST(CheckRules, TakesASwitchWithoutAValueForGiven) {
+    Parsing parsing;
+    declare(parsing.parser);
+    addRule(&parsing.parser, ruleRequired, "berry");
+    EXPECT_EQ(checkRules(&parsing.parser, &parsing.result), parseFailed);
+    parsing.result.store(parsing.parser.registry().m_options[1], occurrences({1}));
+    EXPECT_EQ(checkRules(&parsing.parser, &parsing.result), parseOk);
 }
 
 } // namespace

@@ -158,6 +158,12 @@ TEST(Suggest, LooksAtNamesOfUpToAHundredBytes) {
     EXPECT_EQ(suggested(parser, "--" + std::string(1000000, 'a')), "(null)");
 }
 
+TEST(Suggest, SaysNothingToNoArgument) {
+    BasicParser parser(0);
+    declare(parser);
+    EXPECT_EQ(suggest(&parser, nullptr), nullptr);
+}
+
 TEST(Suggest, IsKeptByTheParser) {
     BasicParser parser(0);
     declare(parser);

@@ -379,5 +379,24 @@ TEST_F(OptionFiles, DecideForThemselvesWhetherToTrace) {
     EXPECT_FALSE(internal::tarvLogEnabled);
 }
 
+/// Has no memory for a second value.
+class ExhaustedResult final : public ParseResult {
+public:
+    Value next(const char*) override {
+        Value exhausted;
+        exhausted.status = valueException;
+        return exhausted;
+    }
+};
+
+TEST_F(OptionFiles, AreNotAtTheirEndWhenAQueryFails) {
+    ExhaustedResult result;
+    const std::string argument = "--option-file=" + directory.write("options", "--name=a");
+    const char* const argv[] = {"program", argument.c_str()};
+    EXPECT_EQ(parsing.parser.parseArgsVector(2, argv, &result), 4);
+    EXPECT_EQ(parsing.error(), "Unidentified problem detected.");
+    EXPECT_STREQ(result.get("name", 0, noPosition).text, "a");
+}
+
 } // namespace
 } // namespace tarv_3_3

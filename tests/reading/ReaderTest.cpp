@@ -139,10 +139,15 @@ TEST(Reader, ReadsANameThatComesAgainLikeTheFirst) {
     const std::string longest(Reader::longestRemembered - 2, 'y');
     const std::string tooLong = longest + "y";
     parser.option((longest + "z," + tooLong + "zz").c_str(), "", vtNull, nullptr);
+    const std::string longName(Reader::longestRemembered + 1, 'q');
+    parser.option(longName.c_str(), "", vtNull, nullptr);
     const struct {
         std::vector<std::string> arguments;
         std::string expected;
     } cases[] = {
+        {{"--qq", "--qq=1"},
+         "named 6 " + longName + ", cut short, no value; named 6 " + longName +
+             ", cut short, unwanted, refused; "},
         {{"--lev=3", "--lev=4", "-lev=5", "--lev"},
          "named 0 level, cut short, same argument; named 0 level, cut short, same argument; "
          "named 0 level, cut short, same argument; named 0 level, cut short, missing, refused; "},

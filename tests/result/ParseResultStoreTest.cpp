@@ -268,5 +268,21 @@ TEST_F(ParseResultStore, RecordsAnEmptyDefaultForAKindThatDoesNotExist) {
     EXPECT_FALSE(result.present("odd", 0, 2147483647));
 }
 
+TEST_F(ParseResultStore, KnowsWhetherAllIsFromOneParser) {
+    ParseResult ofOne;
+    ofOne.noteParser(5);
+    ofOne.noteParser(5);
+    EXPECT_TRUE(ofOne.isOnlyFrom(5));
+    EXPECT_FALSE(ofOne.isOnlyFrom(6));
+    ofOne.noteParser(6);
+    EXPECT_FALSE(ofOne.isOnlyFrom(5));
+    EXPECT_FALSE(ofOne.isOnlyFrom(6));
+
+    ParseResult ofNobody;
+    ofNobody.store(optionNamed({"x"}), nextOccurrence());
+    ofNobody.noteParser(5);
+    EXPECT_FALSE(ofNobody.isOnlyFrom(5));
+}
+
 } // namespace
 } // namespace tarv_3_3

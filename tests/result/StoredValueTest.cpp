@@ -8,6 +8,12 @@
 namespace tarv_3_3 {
 namespace {
 
+TEST(TextOf, IsEmptyForAValueOfAnotherKindWithoutAText) {
+    EXPECT_STREQ(textOf({"", variant_t(5), 1}), "");
+    EXPECT_STREQ(textOf({"", variant_t("five"), 1}), "five");
+    EXPECT_STREQ(textOf({"5", variant_t(5), 1}), "5");
+}
+
 TEST(StoredValue, HasTheTextWhateverItsLength) {
     internal::ArenaWithRoom<64> memory;
     std::vector<StoredValue> values;
