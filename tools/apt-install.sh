@@ -12,8 +12,8 @@ set -euo pipefail
 declare -A groups=(
     [build]="g++ cmake ninja-build nlohmann-json3-dev"
     [test]="abigail-tools bash-completion clang doxygen fish googletest libboost-program-options-dev
-        libclang-rt-14-dev libcli11-dev libgtest-dev man-db mandoc pkg-config python3 python3-jsonschema
-        shfmt zsh"
+        libclang-rt-14-dev libcli11-dev libcxxopts-dev libgtest-dev man-db mandoc pkg-config python3
+        python3-jsonschema shfmt zsh"
     [ci]="ccache clang-format clang-tidy cppcheck dpkg-dev file lintian shellcheck"
     [coverage]="gcovr"
     [memcheck]="valgrind"

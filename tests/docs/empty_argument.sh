@@ -12,6 +12,9 @@ set -u
 expected='
 readme 2 Unknown option: |
 seek 2 seek: No action defined.|Try '"'seek --help'"'.|
+vcs 2 vcs: ambiguous verb '"''"', could be '"'init', 'add', 'commit', 'ci', 'log' or 'push'"'|Try '"'vcs --help'"'.|
+convert 0 to png, linear, quality 85, gamma 1, 1 jobs, 268435456 bytes|in '"'.', title ''"', widths|file '"''"'|
+sort_lines 0 order text|buffer 0, batch 16, parallel 1|
 pages/backup 0 writing to '"'backup'"' at level 6|
 pages/manual 0 level 2|
 pages/photo 0 image: []|
@@ -44,7 +47,7 @@ cookbook/wrapper 2 wrapper: Unknown option: |
 cd "$1" || exit 1
 failures=0
 programs=0
-for path in readme seek pages/* migration/with_tarv cookbook/*; do
+for path in readme seek vcs convert sort_lines pages/* migration/with_tarv cookbook/*; do
     [[ -f $path && -x $path ]] || continue
     programs=$((programs + 1))
     printed=$(LC_ALL=C ./"$path" "" </dev/null 2>&1 | tr '\n' '|'; exit "${PIPESTATUS[0]}")
@@ -57,4 +60,4 @@ for path in readme seek pages/* migration/with_tarv cookbook/*; do
 done
 
 echo "$programs programs, $failures failures"
-[[ $failures == 0 && $programs -ge 28 ]]
+[[ $failures == 0 && $programs -ge 31 ]]
