@@ -1,0 +1,16 @@
+#include <cstdio>
+
+#include "tasks.h"
+
+int main(int argc, char** argv) {
+    Tasks tasks;
+    tasks.add.does([&] {
+        std::printf("add '%s' to %s", tasks.title->c_str(), tasks.file->c_str());
+        for (const std::string& tag : *tasks.tags) {
+            std::printf(", %s", tag.c_str());
+        }
+        std::puts(*tasks.priority == Priority::high ? ", at once" : "");
+    });
+    tasks.list.does([&] { std::printf("list %d of %s\n", *tasks.count, tasks.file->c_str()); });
+    return tasks.program.run(argc, argv);
+}
