@@ -1,32 +1,19 @@
-#include <tarv_3_3/tarv.h>
-
+#include <cstdint>
 #include <cstdio>
+#include <optional>
+#include <tarv_3_3/typed.h>
 
-namespace tarv = tarv_3_3;
+namespace tarv = tarv_3_3::typed;
 
 int main(int argc, char** argv) {
-    const int flags = tarv::flagRejectUnknown | tarv::flagPlainArePositional;
-    tarv::IParser* parser = nullptr;
-    if (tarv::createParser(&parser, flags) != tarv::parseOk) {
-        return 1;
-    }
-    parser->option("offset,o", "Added to every number.", tarv::vtInt32).defaultValue(0);
-    parser->option("number", "", tarv::vtInt32).positional();
-    tarv::IParseResult* result = nullptr;
-    parser->createResult(&result);
-
-    int exitCode = 0;
-    if (parser->parseArgsVector(argc, argv, result) == tarv::parseOk) {
-        const int offset = tarv::getLastValue(result, "offset").value.get<int>();
-        for (tarv::Value number = result->get("number"); number.text != nullptr;
-             number = result->next("number")) {
-            std::printf("%d\n", number.value.get<int>() + offset);
-        }
-    } else {
-        std::fprintf(stderr, "negative: %s\n", parser->getErrorDesc());
-        exitCode = 2;
-    }
-    result->destroy();
-    parser->destroy();
-    return exitCode;
+    tarv::Program tool("negative");
+    auto offset = tool.option("offset", "How far to move.", 0);
+    auto scale = tool.option("scale", "How much to grow.", 1.0).range(-10, 10);
+    auto port = tool.option<std::optional<std::uint16_t>>("port", "Where to listen.");
+    auto even = tool.option("even", "An even number.", 2).check("even", [](int n) { return n % 2 == 0; });
+    auto width = tool.option("width", "Bits.", 32).oneOf(8, 16, 32, 64);
+    return tool.run(argc, argv, [=] {
+        std::printf("offset %d, scale %g, port %d, even %d, width %d\n", *offset, *scale,
+                    port->has_value() ? **port : -1, *even, *width);
+    });
 }

@@ -1,31 +1,20 @@
-#include <tarv_3_3/tarv.h>
-
+#include <chrono>
 #include <cstdio>
+#include <string>
+#include <tarv_3_3/typed.h>
+#include <vector>
 
-namespace tarv = tarv_3_3;
+namespace tarv = tarv_3_3::typed;
 
 int main(int argc, char** argv) {
-    tarv::IParser* parser = nullptr;
-    if (tarv::createParser(&parser, tarv::flagRejectUnknown) != tarv::parseOk) {
-        return 1;
-    }
-    parser->option("limit", "Seconds the command may take.", tarv::vtUInt32).defaultValue(10U);
-    tarv::IParseResult* result = nullptr;
-    parser->createResult(&result);
-
-    const int status = parser->parseArgsVector(argc, argv, result);
-    if (status == tarv::parseOk) {
-        std::printf("within %s seconds:", tarv::getLastValue(result, "limit").text);
-        const char* argument = nullptr;
-        for (int found = result->getFirstArgument(&argument); found == tarv::valueFound;
-             found = result->getNextArgument(&argument)) {
-            std::printf(" %s", argument);
+    tarv::Program tool("wrapper", "1.0", "Runs a command for some time.");
+    auto limit = tool.option("limit", "How long it may take.", std::chrono::seconds(10));
+    auto command = tool.rest<std::vector<std::string>>("command", "What to run.").required();
+    return tool.run(argc, argv, [=] {
+        std::printf("%lld seconds:", static_cast<long long>(limit->count()));
+        for (const std::string& word : *command) {
+            std::printf(" %s", word.c_str());
         }
-        std::printf("\n");
-    } else {
-        std::fprintf(stderr, "wrapper: %s\n", parser->getErrorDesc());
-    }
-    result->destroy();
-    parser->destroy();
-    return status;
+        std::puts("");
+    });
 }
