@@ -94,7 +94,8 @@ public:
 
     /// Numbers, sizes and durations from `low` to `high`, both included; each element of a list.
     template <class Low, class High>
-    [[gnu::always_inline]] Handle range(Low low, High high) const {
+    [[gnu::always_inline]] Handle range(Low low, High high) const
+        TARV_REFUSE_BOUNDS_IF((values::areOutside<Element>(low, high))) {
         static_assert(values::isNumber<Element>, "tarv: range() is for numbers, sizes and durations");
         values::setRange<Element>(option(), low, high);
         return *this;

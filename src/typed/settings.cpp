@@ -1,8 +1,9 @@
 #include <cerrno>
-#include <cstdio>
 #include <optional>
 #include <string_view>
 #include <unordered_set>
+
+#include <unistd.h>
 
 #include "description/terminalText.h"
 #include "parser/BasicParser.h"
@@ -139,12 +140,7 @@ private:
 };
 
 bool isMissing(const std::string& path) {
-    std::FILE* const file = std::fopen(path.c_str(), "r");
-    if (file != nullptr) {
-        std::fclose(file);
-        return false;
-    }
-    return errno == ENOENT;
+    return access(path.c_str(), F_OK) != 0 && errno == ENOENT;
 }
 
 std::optional<std::string> namedFile(const Command& program, const CommandLine& line) {

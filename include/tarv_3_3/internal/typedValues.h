@@ -541,7 +541,15 @@ template <class T>
     }
 }
 
-[[gnu::error("tarv: a bound of range() is outside of the option's type")]] void boundIsOutsideOfType();
+#define TARV_BOUND_IS_OUTSIDE "tarv: a bound of range() is outside of the option's type"
+// Each compiler knows constant bounds in its own way.
+#if defined(__clang__)
+#define TARV_REFUSE_BOUNDS_IF(condition)                                                                     \
+    __attribute__((diagnose_if(condition, TARV_BOUND_IS_OUTSIDE, "error")))
+#else
+#define TARV_REFUSE_BOUNDS_IF(condition)
+[[gnu::error(TARV_BOUND_IS_OUTSIDE)]] void boundIsOutsideOfType();
+#endif
 
 template <class N, class Bound>
 constexpr bool isOutside(Bound bound) {
@@ -551,6 +559,16 @@ constexpr bool isOutside(Bound bound) {
         return !std::is_signed_v<N> || static_cast<long long>(bound) < withLimits<N>({}).least;
     } else {
         return static_cast<unsigned long long>(bound) > withLimits<N>({}).most;
+    }
+}
+
+/// Whether one of the bounds is no value of the type N, as far as both are whole numbers.
+template <class N, class Low, class High>
+constexpr bool areOutside(Low low, High high) {
+    if constexpr (std::is_integral_v<N> && std::is_integral_v<Low> && std::is_integral_v<High>) {
+        return isOutside<N>(low) || isOutside<N>(high);
+    } else {
+        return false;
     }
 }
 
@@ -564,10 +582,12 @@ template <class N, class Low, class High>
         static_assert(
             std::is_integral_v<Low> && std::is_integral_v<High>,
             "tarv: the bounds of range() are outside of the option's type, which is a whole number");
-        const bool isWrong = isOutside<N>(low) || isOutside<N>(high);
+#if !defined(__clang__)
+        const bool isWrong = areOutside<N>(low, high);
         if (__builtin_constant_p(isWrong) && isWrong) {
             boundIsOutsideOfType();
         }
+#endif
         if (low < Low() || high < High()) {
             engine::setRangeSigned(option, static_cast<long long>(low), static_cast<long long>(high));
         } else {
