@@ -37,6 +37,7 @@ Command::~Command() {
 std::vector<std::string> namesOf(const char* names) {
     std::string_view rest = names != nullptr ? names : "";
     std::vector<std::string> list;
+    list.reserve(static_cast<std::size_t>(std::count(rest.begin(), rest.end(), ',')) + 1);
     for (std::size_t comma = rest.find(','); comma != std::string_view::npos; comma = rest.find(',')) {
         list.emplace_back(rest.substr(0, comma));
         rest.remove_prefix(comma + 1);

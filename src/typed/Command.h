@@ -1,6 +1,6 @@
 #pragma once
 
-#include <deque>
+#include <list>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -63,8 +63,8 @@ struct Command {
     std::string version;
     std::string settingsFile;
     Option* settingsOption = nullptr;
-    /// What values without memory of their own point to; a deque leaves its elements where they are.
-    std::deque<std::string> keptTexts;
+    /// What values without memory of their own point to; a list leaves its elements where they are.
+    std::list<std::string> keptTexts;
     bool joinsLetters = false;
     /// Whether something could not be declared.
     bool isOutOfMemory = false;

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <deque>
+#include <list>
 #include <string>
 #include <vector>
 
@@ -54,8 +54,8 @@ struct CommandLine {
     /// What the user may have meant.
     std::string suggestion;
     std::vector<std::string> warnings;
-    std::deque<SettingsLine> settings;
-    std::deque<std::string> texts;
+    std::list<SettingsLine> settings;
+    std::list<std::string> texts;
 };
 
 /// A name as it is typed: with two dashes, or with one where it is a letter.

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <deque>
+#include <list>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -70,8 +70,8 @@ struct Option {
     Range range;
     /// What a value may be, as it is typed; of an enumeration, its names.
     std::vector<std::string> choices;
-    /// What checks ask for; a deque leaves them where they are.
-    std::deque<std::string> musts;
+    /// What checks ask for; a list leaves them where they are.
+    std::list<std::string> musts;
     std::vector<Option*> needed;
     std::vector<Option*> actions;
     /// What is wrong with its refinements.

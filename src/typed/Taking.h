@@ -1,6 +1,6 @@
 #pragma once
 
-#include <deque>
+#include <list>
 #include <string>
 #include <utility>
 #include <vector>
@@ -15,7 +15,7 @@ struct Taking {
     /// Whether a value may be cut short, which it may on the command line alone.
     bool mayBeCut = false;
     /// Where texts are kept that outlive the parse.
-    std::deque<std::string>* keptTexts = nullptr;
+    std::list<std::string>* keptTexts = nullptr;
     bool isRefused = false;
     /// Why; empty when there is no more to say than that.
     std::string reason;

@@ -1,6 +1,8 @@
 #include "typed/problems.h"
 
-#include <set>
+#include <algorithm>
+#include <string_view>
+#include <unordered_set>
 
 #include "recognition/tokenSyntax.h"
 #include "typed/CommandLine.h"
@@ -11,6 +13,10 @@ namespace tarv_3_3::typed::engine {
 
 namespace {
 
+bool endsName(char byte) {
+    return byte == '=' || byte == ' ' || ('\t' <= byte && byte <= '\r');
+}
+
 bool isOneOf(const std::string& text, std::initializer_list<const char*> texts) {
     for (const char* known : texts) {
         if (text == known) {
@@ -20,21 +26,51 @@ bool isOneOf(const std::string& text, std::initializer_list<const char*> texts) 
     return false;
 }
 
+/// The names of a command, which those of the commands above may not be.
+class TakenNames {
+public:
+    explicit TakenNames(const TakenNames* above) : m_above(above) {}
+
+    /// Whether the name was free.
+    bool take(std::string_view name, bool isSwitch) {
+        const bool isFree = !isTaken(name) && !(isSwitch && isTaken("no-" + std::string(name)));
+        m_names.insert(name);
+        if (isSwitch) {
+            m_switches.insert(name);
+        }
+        return isFree;
+    }
+
+    bool isTaken(std::string_view name) const { return isOwn(name) || isTakenAbove(name); }
+    bool isTakenAbove(std::string_view name) const { return m_above != nullptr && m_above->isTaken(name); }
+
+private:
+    bool isOwn(std::string_view name) const {
+        constexpr std::string_view negation = "no-";
+        const bool isNegated = name.substr(0, negation.size()) == negation;
+        return m_names.count(name) != 0 || (isNegated && m_switches.count(name.substr(negation.size())) != 0);
+    }
+
+    const TakenNames* m_above;
+    std::unordered_set<std::string_view> m_names;
+    std::unordered_set<std::string_view> m_switches;
+};
+
 /// Looks at a program, verb by verb.
 class ProblemFinder {
 public:
-    void look(Command& command, const std::set<std::string>& namesAbove) {
+    void look(Command& command, const TakenNames* above) {
         m_where = command.path();
-        std::set<std::string> names = namesAbove;
+        TakenNames names(above);
         for (const std::unique_ptr<Option>& option : command.options) {
-            lookAtNames(*option, names, namesAbove);
+            lookAtNames(*option, names);
             lookAtOption(*option);
         }
         lookAtPositionals(command);
         lookAtRules(command);
         lookAtVerbs(command);
         for (const std::unique_ptr<Command>& verb : command.verbs) {
-            look(*verb, names);
+            look(*verb, &names);
         }
     }
 
@@ -51,28 +87,22 @@ private:
             add(name, "a name is empty");
         } else if (dashLength(name) != 0) {
             add(name, "names are without dashes in front");
-        } else if (name.find_first_of("= \t\n\v\f\r") != std::string::npos) {
+        } else if (std::any_of(name.begin(), name.end(), endsName)) {
             add(name, "a name has no blank and no '='");
         }
     }
 
-    void lookAtNames(const Option& option, std::set<std::string>& names, const std::set<std::string>& above) {
+    void lookAtNames(const Option& option, TakenNames& names) {
         for (const std::string& name : option.names) {
             lookAtName(name);
             if (option.isPositional()) {
                 continue;
             }
-            takeName(name, names, above);
-            if (option.isSwitch()) {
-                takeName("no-" + name, names, above);
+            const bool isAbove = names.isTakenAbove(name);
+            if (!names.take(name, option.isSwitch())) {
+                add(name,
+                    isAbove ? "the name is taken by an option of the command above" : "the name is taken");
             }
-        }
-    }
-
-    void takeName(const std::string& name, std::set<std::string>& names, const std::set<std::string>& above) {
-        if (!names.insert(name).second) {
-            add(name, above.count(name) != 0 ? "the name is taken by an option of the command above"
-                                             : "the name is taken");
         }
     }
 
@@ -154,7 +184,7 @@ private:
     }
 
     void lookAtVerbs(const Command& command) {
-        std::set<std::string> names;
+        std::unordered_set<std::string_view> names;
         for (const std::unique_ptr<Command>& verb : command.verbs) {
             for (const std::string& name : verb->names) {
                 lookAtName(name);
@@ -176,7 +206,7 @@ private:
 
 std::vector<std::string> findProblems(Command& program) {
     ProblemFinder finder;
-    finder.look(program, {});
+    finder.look(program, nullptr);
     return finder.take();
 }
 

@@ -61,8 +61,7 @@ struct Row {
 };
 
 const Row rows[] = {
-    {{"p", "--c-o-e-p=3", "--t-o-t-d=a title that is longer than a short text", "pr", "--even=4", "a"},
-     ""},
+    {{"p", "--c-o-e-p=3", "--t-o-t-d=a title that is longer than a short text", "pr", "--even=4", "a"}, ""},
     {{"p", "-vvv", "print-all-pages", "--fast", "a-file-with-a-name-that-is-long-enough"}, ""},
     {{"p", "--paper-siez=a4", "print"}, "Did you mean '--paper-size'?\n"},
     {{"p", "prnt-all-pages"}, "Did you mean 'print-all-pages'?\n"},

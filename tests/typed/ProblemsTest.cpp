@@ -33,6 +33,11 @@ TEST(TypedProblems, AreNamedWithTheirOption) {
                   p.option<int>("no-color", "");
               }),
               "p: 'no-color': the name is taken\n");
+    EXPECT_EQ(problemsOf([](tarv::Program& p) {
+                  p.option<int>("no-color", "");
+                  p.flag("color", "");
+              }),
+              "p: 'color': the name is taken\n");
     EXPECT_EQ(problemsOf([](tarv::Program& p) { p.flag("--level", ""); }),
               "p: '--level': names are without dashes in front\n");
     EXPECT_EQ(problemsOf([](tarv::Program& p) { p.flag("", ""); }), "p: '': a name is empty\n");

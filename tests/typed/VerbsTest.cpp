@@ -106,6 +106,15 @@ TEST(TypedVerbs, InFrontAnAbbreviationIsUniqueWithTheVerbsOptionsToo) {
     EXPECT_FALSE(deep.given());
 }
 
+TEST(TypedVerbs, AnOptionOfTheVerbBelongsBehindIt) {
+    tarv::Program program("vcs");
+    program.option<int>("depth", "");
+    program.verb("log", "").does([] {}).option<int>("dep", "");
+    EXPECT_EQ(parseLine(program, {"--dep=1", "log"}),
+              wrong("option '--dep' belongs behind 'log'", "vcs log"));
+    EXPECT_EQ(parseLine(program, {"log", "--dep=1"}), "ok");
+}
+
 TEST(TypedVerbs, AProgramWithABodyNeedsNoVerb) {
     tarv::Program program("vcs");
     program.verb("log", "").does([] {});
