@@ -18,6 +18,14 @@ install(CODE "execute_process(COMMAND ${TARV_STRIP} --strip-unneeded --remove-se
     \$ENV{DESTDIR}\${CMAKE_INSTALL_PREFIX}/${CMAKE_INSTALL_LIBDIR}/$<TARGET_FILE_NAME:tarv>
     COMMAND_ERROR_IS_FATAL ANY)"
     COMPONENT runtime)
+if(TARV_BUILD_PROGRAM)
+    install(CODE "execute_process(COMMAND ${TARV_STRIP} --remove-section=.comment
+        \$ENV{DESTDIR}\${CMAKE_INSTALL_PREFIX}/${CMAKE_INSTALL_BINDIR}/$<TARGET_FILE_NAME:tarv_program>
+        COMMAND_ERROR_IS_FATAL ANY)"
+        COMPONENT development)
+    # The program needs the library of the other package, which lies here.
+    set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS_PRIVATE_DIRS ${PROJECT_BINARY_DIR}/src)
+endif()
 
 set(CPACK_GENERATOR DEB)
 set(CPACK_PACKAGE_NAME tarv)
@@ -49,8 +57,11 @@ lists of values, and writes the help text.")
 set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_NAME ${development_package})
 set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_SECTION libdevel)
 set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_DEPENDS "${runtime_package} (= ${PROJECT_VERSION})")
+# It reads the scripts that the program looks at.
+set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_SUGGESTS shfmt)
 set(CPACK_COMPONENT_DEVELOPMENT_DESCRIPTION "command-line parsing library, development files
-Headers, CMake package and pkg-config file for programs that use tarv.
+Headers, CMake package and pkg-config file for programs that use tarv, and the
+program tarv, which compares, explains and documents their command lines.
 It reads command lines with abbreviated options, actions with modifiers and
 lists of values, and writes the help text.")
 

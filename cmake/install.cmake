@@ -12,6 +12,9 @@ install(TARGETS tarv
     FILE_SET HEADERS
         DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}
         COMPONENT development)
+if(TARV_BUILD_PROGRAM)
+    install(TARGETS tarv_program EXPORT tarvTargets RUNTIME COMPONENT development)
+endif()
 install(EXPORT tarvTargets NAMESPACE tarv:: DESTINATION ${tarv_config_dir} COMPONENT development)
 if(TARV_STATIC)
     install(TARGETS tarv_static
@@ -27,6 +30,7 @@ configure_package_config_file(cmake/tarvConfig.cmake.in ${PROJECT_BINARY_DIR}/ta
 write_basic_package_version_file(${PROJECT_BINARY_DIR}/tarvConfigVersion.cmake
     COMPATIBILITY SameMinorVersion)
 install(FILES ${PROJECT_BINARY_DIR}/tarvConfig.cmake ${PROJECT_BINARY_DIR}/tarvConfigVersion.cmake
+    cmake/tarvGenerate.cmake
     DESTINATION ${tarv_config_dir}
     COMPONENT development)
 

@@ -2,7 +2,7 @@
 
 namespace tarv_program {
 
-const std::string* Option::note(const std::string& key) const {
+const std::string* Option::note(std::string_view key) const {
     for (const Note& note : notes) {
         if (note.first == key) {
             return &note.second;

@@ -3,6 +3,7 @@
 #include <optional>
 #include <stdexcept>
 #include <string>
+#include <string_view>
 #include <utility>
 #include <vector>
 
@@ -30,7 +31,7 @@ struct Count {
 /// An option or an action, as a description has it.
 struct Option {
     /// The text of a note; null when nothing was said.
-    const std::string* note(const std::string& key) const;
+    const std::string* note(std::string_view key) const;
     /// "" for a positional option without a name.
     std::string primaryName() const { return names.empty() ? "" : names.front(); }
     bool isSwitch() const { return kind == tarv_3_3::vtBool; }

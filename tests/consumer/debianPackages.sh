@@ -26,11 +26,20 @@ expect() {
 }
 
 home=$(sed -n 's/^ *HOMEPAGE_URL //p' CMakeLists.txt)
-for package in "${packages[@]}"; do
-    expect "Fields of $package" $'Multi-Arch: same\nHomepage: '"$home" \
-        "$(dpkg-deb --field "$package" Multi-Arch Homepage)"
-done
 runtime=(build/deb/libtarv3.3_*.deb)
+development=(build/deb/libtarv-dev_*.deb)
+expect "Fields of ${runtime[0]}" $'Multi-Arch: same\nHomepage: '"$home" \
+    "$(dpkg-deb --field "${runtime[0]}" Multi-Arch Homepage)"
+# It holds a program, of which there can be only one.
+expect "Fields of ${development[0]}" $'Homepage: '"$home" \
+    "$(dpkg-deb --field "${development[0]}" Multi-Arch Homepage)"
+expect "Files of the program in ${development[0]}" $'./usr/bin/tarv
+./usr/share/bash-completion/completions/tarv
+./usr/share/fish/vendor_completions.d/tarv.fish
+./usr/share/man/man1/tarv.1.gz
+./usr/share/zsh/vendor-completions/_tarv' \
+    "$(dpkg-deb --fsys-tarfile "${development[0]}" | tar --list |
+        grep -E '/(bin|man1|completions|vendor[^/]*)/.' | LC_ALL=C sort)"
 expect "Control files of ${runtime[0]}" $'control\nmd5sums\nshlibs\nsymbols\ntriggers' \
     "$(dpkg-deb --ctrl-tarfile "${runtime[0]}" | tar --list | sed 's|^\./||' | sed '/^$/d' | LC_ALL=C sort)"
 expect "Symbols of ${runtime[0]}" "$(<abi/debian.symbols)" "$(dpkg-deb --info "${runtime[0]}" symbols)"
@@ -55,6 +64,8 @@ expect "Flags of pkg-config" "-ltarv" "$(pkg-config --cflags --libs tarv | sed '
 g++ -std=c++17 tests/consumer/host.cpp $(pkg-config --cflags --libs "tarv >= 3.3") -o "$work/host"
 expect "Output of the host" $'Hello, World!\nHello, World!\n2 values' \
     "$("$work/host" --name=World --times=2)"
+
+expect "Version of the program" "tarv 3.3.0" "$(tarv --version)"
 
 # What a package of the host would depend on.
 mkdir "$work/debian"
