@@ -1,60 +1,44 @@
 // The program that stands for any host in docs/syntax.md: it says what it was told.
-#include <tarv_3_3/tarv.h>
-
 #include <cstdio>
-#include <initializer_list>
+#include <filesystem>
+#include <vector>
 
-namespace tarv = tarv_3_3;
+#include <tarv_3_3/typed.h>
 
-namespace {
+namespace tarv = tarv_3_3::typed;
 
-void declare(tarv::IParser& parser) {
-    parser.option("output-name,o", "The file to write.", tarv::vtString).tokenize(0);
-    parser.option("level,l", "How hard to try.", tarv::vtInt32);
-    parser.option("size,s", "Sizes to make, separated by commas.", tarv::vtUInt32);
-    parser.option("format,f", "The format to write.", tarv::vtString)
-        .allowValue("jpeg")
-        .allowValue("png")
-        .allowValue("pnm");
-    parser.option("verbose,v", "Say what is done.", tarv::vtBool);
-    parser.option("version", "Show the version.", tarv::vtNull);
-    parser.option("image", "", tarv::vtString).tokenize(0).positional();
-    parser.addOptionFileOption("Read more arguments from this file.");
-}
-
-void print(tarv::IParseResult& result, const char* name) {
-    if (!result.present(name)) {
-        return;
-    }
-    std::printf("%s:", name);
-    tarv::Value value = result.next(name);
-    for (; value.status == tarv::valueFound; value = result.next(name)) {
-        std::printf(" [%s]", value.text != nullptr ? value.text : "");
-    }
-    std::printf("\n");
-}
-
-} // namespace
+enum class Format { jpeg, png, pnm };
 
 int main(int argc, char** argv) {
-    tarv::IParser* parser = nullptr;
-    const int flags = tarv::flagRejectUnknown | tarv::flagDashIsNotPositional | tarv::flagPlainArePositional;
-    if (tarv::createParser(&parser, flags) != tarv::parseOk) {
-        return 1;
-    }
-    declare(*parser);
-    tarv::IParseResult* result = nullptr;
-    parser->createResult(&result);
-
-    const int status = parser->parseArgsVector(argc, argv, result);
-    if (status == tarv::parseOk) {
-        for (const char* name : {"output-name", "level", "size", "format", "verbose", "version", "image"}) {
-            print(*result, name);
+    using Paths = std::vector<std::filesystem::path>;
+    tarv::Program tool("photo", "1.0", "Says what it was told.");
+    tool.settingsOption("settings", "Read this file of settings.");
+    auto output = tool.option<tarv::Text>("output-name,o", "The file to write.");
+    auto level = tool.option<int>("level,l", "How hard to try.").env("PHOTO_LEVEL");
+    auto sizes = tool.option<std::vector<unsigned>>("size,s", "Sizes to make.");
+    auto format = tool.option<Format>("format,f", "The format to write.");
+    auto verbose = tool.flag("verbose,v", "Say what is done.");
+    auto verify = tool.flag("verify", "Read again what was written.");
+    auto images = tool.positional<Paths>("image", "What to convert.");
+    return tool.run(argc, argv, [=] {
+        if (output.given()) {
+            std::printf("output-name [%s]\n", output->c_str());
         }
-    } else {
-        std::fprintf(stderr, "photo: %s\n", parser->getErrorDesc());
-    }
-    result->destroy();
-    parser->destroy();
-    return status;
+        if (level.given()) {
+            std::printf("level [%d]\n", *level);
+        }
+        for (const unsigned size : *sizes) {
+            std::printf("size [%u]\n", size);
+        }
+        if (format.given()) {
+            static const char* const names[] = {"jpeg", "png", "pnm"};
+            std::printf("format [%s]\n", names[static_cast<int>(*format)]);
+        }
+        if (verbose.given() || verify.given()) {
+            std::printf("verbose [%d], verify [%d]\n", *verbose ? 1 : 0, *verify ? 1 : 0);
+        }
+        for (const std::filesystem::path& image : *images) {
+            std::printf("image [%s]\n", image.c_str());
+        }
+    });
 }

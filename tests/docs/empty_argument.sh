@@ -18,7 +18,7 @@ convert 0 to png, linear, quality 85, gamma 1, 1 jobs, 268435456 bytes|in '"'.',
 sort_lines 0 order text|buffer 0, batch 16, parallel 1|
 plain/backup 0 writing to '"'backup'"' at level 6|
 pages/manual 0 level 2|
-pages/photo 0 image: []|
+pages/photo 0 image []|
 pages/tryout 2 tryout: Unknown option: |
 pages/backup 0 writing to '"'"'backup'"'"' at level 6|  .tar|
 migration/with_tarv 0 level 2, quiet, output a.out|file |
