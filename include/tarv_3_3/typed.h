@@ -92,6 +92,10 @@ public:
     /// It must be given, and cannot have a default.
     Handle required() const { return refine(engine::refineRequired); }
 
+#if defined(__clang__)
+#pragma clang diagnostic push
+#pragma clang diagnostic ignored "-Wgcc-compat"
+#endif
     /// Numbers, sizes and durations from `low` to `high`, both included; each element of a list.
     template <class Low, class High>
     [[gnu::always_inline]] Handle range(Low low, High high) const
@@ -100,6 +104,9 @@ public:
         values::setRange<Element>(option(), low, high);
         return *this;
     }
+#if defined(__clang__)
+#pragma clang diagnostic pop
+#endif
 
     /// Only these values. A beginning that fits only one of them stands for it on the command line.
     template <class... Choices>
@@ -122,11 +129,17 @@ public:
 
     /// An environment variable that it is read from when the command line does not give it. An empty
     /// variable counts as unset; a switch reads 1, true, yes, on or their contraries, a counter a number.
-    Handle env(const char* variable) const { return refine(engine::refineEnvironment, variable); }
+    Handle env(const char* variable) const {
+        return refine(engine::refineEnvironment, variable);
+    }
     /// The heading in help under which it stands.
-    Handle topic(const char* title) const { return refine(engine::refineTopic, title); }
+    Handle topic(const char* title) const {
+        return refine(engine::refineTopic, title);
+    }
     /// Left out of help, suggestions and, unless its name is begun, of completion.
-    Handle hidden() const { return refine(engine::refineHidden); }
+    Handle hidden() const {
+        return refine(engine::refineHidden);
+    }
     /// What separates the elements of a list, ',' at first; '\0' for nothing.
     Handle separator(char character) const {
         static_assert(values::isList<T>, "tarv: separator() is for lists");
@@ -151,11 +164,17 @@ public:
         return *this;
     }
     /// Whoever gives it reads on standard error what to use instead; "" for nothing.
-    Handle deprecated(const char* instead) const { return refine(engine::refineDeprecated, instead); }
+    Handle deprecated(const char* instead) const {
+        return refine(engine::refineDeprecated, instead);
+    }
     /// What help calls the value, as "FILE".
-    Handle value(const char* name) const { return refine(engine::refineValueName, name); }
+    Handle value(const char* name) const {
+        return refine(engine::refineValueName, name);
+    }
     /// What shells complete: "file", "directory" or "none".
-    Handle completeAs(const char* what) const { return refine(engine::refineCompleteAs, what); }
+    Handle completeAs(const char* what) const {
+        return refine(engine::refineCompleteAs, what);
+    }
     /// Offers the values that `completer` adds: a `void(const char* word, Candidates&)`, of which the
     /// word is what was typed of the value so far. It is called when a shell asks.
     template <class F>
@@ -174,7 +193,9 @@ public:
 
     /// @cond
     explicit Handle(values::Slot<T>* slot) : m_slot(slot) {}
-    engine::Option* option() const { return m_slot != nullptr ? m_slot->option : nullptr; }
+    engine::Option* option() const {
+        return m_slot != nullptr ? m_slot->option : nullptr;
+    }
 
 private:
     Handle refine(int refinement, const char* text = "") const {

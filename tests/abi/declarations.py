@@ -53,11 +53,24 @@ def declared(node, in_class=False):
         is_declaration = "init" not in node and not node.get("inline")
         if node.get("storageClass") == ("static" if in_class else "extern") and is_declaration:
             yield node["mangledName"]
+    elif kind == "ClassTemplateDecl":
+        # Only what is instantiated; and where the template defines everything, the compiler does so for whoever
+        # uses it.
+        if not defines_everything(node):
+            for child in node.get("inner", []):
+                if child["kind"] != "CXXRecordDecl":
+                    yield from declared(child, True)
     elif kind != "FunctionTemplateDecl":
         for child in node.get("inner", []):
-            # Of a class template only what is instantiated.
-            if kind != "ClassTemplateDecl" or child["kind"] != "CXXRecordDecl":
-                yield from declared(child, kind in CLASSES)
+            yield from declared(child, kind in CLASSES)
+
+
+def defines_everything(template):
+    """Whether all functions of a class template have their bodies in it."""
+    patterns = [part for part in template.get("inner", []) if part["kind"] == "CXXRecordDecl"]
+    functions = [part for pattern in patterns for part in pattern.get("inner", []) if part["kind"] in FUNCTIONS]
+    return all(part.get("isImplicit") or part.get("explicitlyDeleted") or part.get("explicitlyDefaulted")
+               or has_body(part) for part in functions)
 
 
 def has_body(function):
