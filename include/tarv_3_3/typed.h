@@ -63,6 +63,7 @@ private:
 template <class T>
 class Handle {
 public:
+    /// `T`, or what a list or an optional holds.
     using Element = typename values::ElementOf<T>::Type;
 
     Handle() = default;
@@ -79,15 +80,18 @@ public:
     bool given() const { return m_slot != nullptr && m_slot->given != 0; }
     /// How often it was given by the source that counts.
     int count() const { return m_slot != nullptr ? m_slot->count : 0; }
+    /// Where the value comes from.
     Source source() const {
         return m_slot != nullptr ? static_cast<Source>(m_slot->source) : Source::initial;
     }
+    ///@{
     /// The index in `argv` of the last occurrence, or of the one with that number, from 0 on. -1 when
     /// there is none, or when it is not from the command line.
     int position() const { return position(count() - 1); }
     int position(int occurrence) const {
         return 0 <= occurrence && occurrence < count() ? m_slot->positions[occurrence] : -1;
     }
+    ///@}
 
     /// It must be given, and cannot have a default.
     Handle required() const { return refine(engine::refineRequired); }
@@ -247,6 +251,7 @@ public:
     Handle<T> positional(const char* name, const char* description) {
         return add<T>(engine::rolePositional, name, description);
     }
+    /// One with a default, which is of its type.
     template <class T, class Held = values::HeldFor<T>>
     Handle<Held> positional(const char* name, const char* description, T initial) {
         return add<Held>(engine::rolePositional, name, description, Held(static_cast<T&&>(initial)));
@@ -386,6 +391,8 @@ public:
     /// The name is the one in messages. A null version is none.
     explicit Program(const char* name, const char* version = nullptr, const char* description = "")
         : Command(engine::createProgram(name, version, description)) {}
+    ///@{
+    /// What was moved from may only be assigned to, and destroyed.
     Program(Program&& other) noexcept : Command(other.m_record) { other.m_record = nullptr; }
     Program& operator=(Program&& other) noexcept {
         engine::Command* const record = m_record;
@@ -393,6 +400,7 @@ public:
         other.m_record = record;
         return *this;
     }
+    ///@}
     ~Program() { engine::destroy(m_record); }
 
     /// One dash means letters only, joined as in "-vl3" and "-in"; "-l=3" stays what it is.
