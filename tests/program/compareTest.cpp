@@ -318,6 +318,27 @@ TEST(Compare, ComparesVerbsAndWhatBelongsToThem) {
     EXPECT_EQ(comparison.additions, (std::vector<std::string>{"tool stash", "tool log --digits"}));
 }
 
+TEST(Compare, SaysOnceWhatBreaksWithAllVerbs) {
+    CommandLine older = described([](IParser& p) {
+        p.option("dir", "", vtString).tokenize(0).defaultValue("here");
+        p.option("gone", "", vtNull);
+    });
+    CommandLine newer = described([](IParser& p) {
+        p.option("dir", "", vtString).tokenize(0).defaultValue("there");
+        p.option("more", "", vtNull);
+    });
+    older.verbs = {verb({"log"}, nothing), verb({"status"}, nothing)};
+    newer.verbs = {verb({"log"}, [](IParser& p) { p.option("digits", "", vtNull); }),
+                   verb({"status"}, nothing)};
+    newer.verbs[0].checks = newer.verbs[1].checks = {"handlers"};
+    const Comparison comparison = compare(older, newer);
+    EXPECT_EQ(reportAsBaseline(comparison), "name: tool --gone: is unknown\n"
+                                            "default: tool: --dir is there\n"
+                                            "name: tool log --di=text: is ambiguous: --dir, --digits\n");
+    EXPECT_EQ(comparison.additions, (std::vector<std::string>{"tool --more", "tool log --digits"}));
+    EXPECT_EQ(comparison.unjudged, std::vector<std::string>{"the program checks more than before: handlers"});
+}
+
 TEST(Compare, ListsAdditionsApart) {
     const Comparison comparison = compare(
         described([](IParser& p) { p.option("a", "", vtString).allowValue("x"); }), described([](IParser& p) {
