@@ -63,9 +63,10 @@ private:
 template <class T>
 class Handle {
 public:
-    /// `T`, or what a list or an optional holds.
+    /// What a list or an optional holds; else the type itself.
     using Element = typename values::ElementOf<T>::Type;
 
+    /// One that holds a `T()`.
     Handle() = default;
 
     ///@{
@@ -80,7 +81,7 @@ public:
     bool given() const { return m_slot != nullptr && m_slot->given != 0; }
     /// How often it was given by the source that counts.
     int count() const { return m_slot != nullptr ? m_slot->count : 0; }
-    /// Where the value comes from.
+    /// Who gave it.
     Source source() const {
         return m_slot != nullptr ? static_cast<Source>(m_slot->source) : Source::initial;
     }
@@ -245,17 +246,18 @@ public:
     Handle<T> bind(const char* names, T& variable, const char* description) {
         return add<T>(engine::roleOption, names, description, variable, &variable);
     }
+    ///@{
     /// An argument without a name. Several are filled in their order, required ones first; one of them
     /// may be a list, which takes what the others leave: "cp SOURCE... DEST".
     template <class T>
     Handle<T> positional(const char* name, const char* description) {
         return add<T>(engine::rolePositional, name, description);
     }
-    /// One with a default, which is of its type.
     template <class T, class Held = values::HeldFor<T>>
     Handle<Held> positional(const char* name, const char* description, T initial) {
         return add<Held>(engine::rolePositional, name, description, Held(static_cast<T&&>(initial)));
     }
+    ///@}
     /// Everything from the first argument without a name on, whatever it looks like: for programs that
     /// run others.
     template <class T>
@@ -392,7 +394,7 @@ public:
     explicit Program(const char* name, const char* version = nullptr, const char* description = "")
         : Command(engine::createProgram(name, version, description)) {}
     ///@{
-    /// What was moved from may only be assigned to, and destroyed.
+    /// Takes the other's declarations over; what that one has then says that there is no memory.
     Program(Program&& other) noexcept : Command(other.m_record) { other.m_record = nullptr; }
     Program& operator=(Program&& other) noexcept {
         engine::Command* const record = m_record;

@@ -34,9 +34,9 @@ public:
     /// Whether the name was free.
     bool take(std::string_view name, bool isSwitch) {
         const bool isFree = !isTaken(name) && !(isSwitch && isTaken("no-" + std::string(name)));
-        m_names.insert(name);
+        insert(m_names, name);
         if (isSwitch) {
-            m_switches.insert(name);
+            insert(m_switches, name);
         }
         return isFree;
     }
@@ -48,12 +48,20 @@ private:
     bool isOwn(std::string_view name) const {
         constexpr std::string_view negation = "no-";
         const bool isNegated = name.substr(0, negation.size()) == negation;
-        return m_names.count(name) != 0 || (isNegated && m_switches.count(name.substr(negation.size())) != 0);
+        return holds(m_names, name) || (isNegated && holds(m_switches, name.substr(negation.size())));
+    }
+
+    static bool holds(const std::vector<std::string_view>& names, std::string_view name) {
+        return std::binary_search(names.begin(), names.end(), name);
+    }
+    static void insert(std::vector<std::string_view>& names, std::string_view name) {
+        names.insert(std::upper_bound(names.begin(), names.end(), name), name);
     }
 
     const TakenNames* m_above;
-    std::unordered_set<std::string_view> m_names;
-    std::unordered_set<std::string_view> m_switches;
+    /// Sorted, as those of switches are.
+    std::vector<std::string_view> m_names;
+    std::vector<std::string_view> m_switches;
 };
 
 /// Looks at a program, verb by verb.

@@ -4,55 +4,12 @@
 #include <type_traits>
 
 #include "tarv_3_3/internal/typedEngine.h"
+#include "tarv_3_3/typedTypes.h"
 
-/// How a C++ type is made of text. Hosts use `tarv_3_3/typed.h`; for them are `Text`, `Size`, `Choice` and
-/// `Names`.
+/// How a C++ type is made of text. Hosts use `tarv_3_3/typed.h`.
 namespace tarv_3_3::typed {
 
 inline namespace v1 {
-
-/// A text that the program keeps; never null. Compared by content.
-class Text {
-public:
-    constexpr Text(const char* text = "") : m_text(text != nullptr ? text : "") {}
-    constexpr const char* c_str() const { return m_text; }
-    constexpr operator const char*() const { return m_text; }
-    constexpr bool isEmpty() const { return *m_text == '\0'; }
-
-    friend constexpr bool operator==(Text left, Text right) { return isEqual(left.m_text, right.m_text); }
-    friend constexpr bool operator!=(Text left, Text right) { return !isEqual(left.m_text, right.m_text); }
-    friend constexpr bool operator==(Text left, const char* right) { return left == Text(right); }
-    friend constexpr bool operator!=(Text left, const char* right) { return left != Text(right); }
-
-private:
-    static constexpr bool isEqual(const char* left, const char* right) {
-        for (; *left != '\0' && *left == *right; ++left, ++right) {
-        }
-        return *left == *right;
-    }
-
-    const char* m_text;
-};
-
-/// A number of bytes, typed as "4096", "4k", "4kB" (1000 each) or "4Ki", "4KiB" (1024), up to E.
-struct Size {
-    constexpr Size(unsigned long long count = 0) : bytes(count) {}
-    constexpr operator unsigned long long() const { return bytes; }
-
-    unsigned long long bytes;
-};
-
-/// The name of an enumerator, as it is typed.
-template <class E>
-struct Choice {
-    const char* name;
-    E value;
-};
-
-/// Specialize it with `static constexpr Choice<E> list[]` for an enumeration that the compiler cannot
-/// name: one whose values do not count up from 0 to 127 at most, or whose names are longer than 63 bytes.
-template <class E>
-struct Names;
 
 namespace values {
 
