@@ -26,10 +26,39 @@ bool isOneOf(const std::string& text, std::initializer_list<const char*> texts) 
     return false;
 }
 
+constexpr std::string_view negation = "no-";
+
 /// The names of a command, which those of the commands above may not be.
 class TakenNames {
 public:
     explicit TakenNames(const TakenNames* above) : m_above(above) {}
+
+    /// Takes all names of a command at once; false, with none taken, unless they are certainly free.
+    bool takeAll(const Command& command) {
+        bool mayBeNegation = false;
+        for (const std::unique_ptr<Option>& option : command.options) {
+            if (option->isPositional()) {
+                continue;
+            }
+            for (const std::string& name : option->names) {
+                m_names.push_back(name);
+                mayBeNegation = mayBeNegation || name.compare(0, negation.size(), negation) == 0;
+                if (option->isSwitch()) {
+                    m_switches.push_back(name);
+                }
+            }
+        }
+        std::sort(m_names.begin(), m_names.end());
+        std::sort(m_switches.begin(), m_switches.end());
+        const bool isRepeated = std::adjacent_find(m_names.begin(), m_names.end()) != m_names.end();
+        const bool areFree =
+            !mayBeNegation && !isRepeated && (m_above == nullptr || !m_above->holdAny(*this));
+        if (!areFree) {
+            m_names.clear();
+            m_switches.clear();
+        }
+        return areFree;
+    }
 
     /// Whether the name was free.
     bool take(std::string_view name, bool isSwitch) {
@@ -45,8 +74,18 @@ public:
     bool isTakenAbove(std::string_view name) const { return m_above != nullptr && m_above->isTaken(name); }
 
 private:
+    // Whether one of the names is here or above, or may be a negation of one or negated by one.
+    bool holdAny(const TakenNames& below) const {
+        const auto isKnown = [this](std::string_view name) { return isTaken(name); };
+        const auto isNegation = [](std::string_view name) {
+            return name.substr(0, negation.size()) == negation;
+        };
+        return std::any_of(below.m_names.begin(), below.m_names.end(), isKnown) ||
+               std::any_of(m_names.begin(), m_names.end(), isNegation) ||
+               (m_above != nullptr && m_above->holdAny(below));
+    }
+
     bool isOwn(std::string_view name) const {
-        constexpr std::string_view negation = "no-";
         const bool isNegated = name.substr(0, negation.size()) == negation;
         return holds(m_names, name) || (isNegated && holds(m_switches, name.substr(negation.size())));
     }
@@ -70,8 +109,13 @@ public:
     void look(Command& command, const TakenNames* above) {
         m_where = command.path();
         TakenNames names(above);
+        const bool areFree = names.takeAll(command);
         for (const std::unique_ptr<Option>& option : command.options) {
-            lookAtNames(*option, names);
+            std::for_each(option->names.begin(), option->names.end(),
+                          [&](const auto& name) { lookAtName(name); });
+            if (!areFree && !option->isPositional()) {
+                takeNames(*option, names);
+            }
             lookAtOption(*option);
         }
         lookAtPositionals(command);
@@ -100,12 +144,8 @@ private:
         }
     }
 
-    void lookAtNames(const Option& option, TakenNames& names) {
+    void takeNames(const Option& option, TakenNames& names) {
         for (const std::string& name : option.names) {
-            lookAtName(name);
-            if (option.isPositional()) {
-                continue;
-            }
             const bool isAbove = names.isTakenAbove(name);
             if (!names.take(name, option.isSwitch())) {
                 add(name,

@@ -75,6 +75,28 @@ TEST(TypedProblems, AreNamedWithTheirOption) {
               "p: 'p': a program has verbs or actions, not both\n");
 }
 
+TEST(TypedProblems, AVerbTakesNoNameFromAbove) {
+    const struct {
+        const char* above;
+        const char* below;
+        const char* problem;
+    } rows[] = {
+        {"level", "level", "p log add: 'level': the name is taken by an option of the command above\n"},
+        {"no-level", "level", "p log add: 'level': the name is taken\n"},
+        {"level", "no-level", "p log add: 'no-level': the name is taken by an option of the command above\n"},
+        {"level", "levels", ""},
+        {"no-levels", "level", ""}};
+    for (const auto& row : rows) {
+        SCOPED_TRACE(std::string(row.above) + " " + row.below);
+        tarv::Program program("p");
+        program.flag(row.above, "");
+        tarv::Command& log = program.verb("log", "");
+        log.option<int>("other", "");
+        log.verb("add", "").flag(row.below, "");
+        EXPECT_STREQ(program.problems(), row.problem);
+    }
+}
+
 TEST(TypedProblems, OfVerbsAreFoundWhateverTheCommandLine) {
     tarv::Program program("p");
     const auto level = program.option<int>("level", "");
