@@ -35,14 +35,12 @@ public:
 
     /// Takes all names of a command at once; false, with none taken, unless they are certainly free.
     bool takeAll(const Command& command) {
-        bool mayBeNegation = false;
         for (const std::unique_ptr<Option>& option : command.options) {
             if (option->isPositional()) {
                 continue;
             }
             for (const std::string& name : option->names) {
                 m_names.push_back(name);
-                mayBeNegation = mayBeNegation || name.compare(0, negation.size(), negation) == 0;
                 if (option->isSwitch()) {
                     m_switches.push_back(name);
                 }
@@ -52,7 +50,7 @@ public:
         std::sort(m_switches.begin(), m_switches.end());
         const bool isRepeated = std::adjacent_find(m_names.begin(), m_names.end()) != m_names.end();
         const bool areFree =
-            !mayBeNegation && !isRepeated && (m_above == nullptr || !m_above->holdAny(*this));
+            !isRepeated && !negates(m_names, m_switches) && (m_above == nullptr || !m_above->holdAny(*this));
         if (!areFree) {
             m_names.clear();
             m_switches.clear();
@@ -74,15 +72,20 @@ public:
     bool isTakenAbove(std::string_view name) const { return m_above != nullptr && m_above->isTaken(name); }
 
 private:
-    // Whether one of the names is here or above, or may be a negation of one or negated by one.
+    // Whether one of the names is the "no-" form of one of the switches.
+    static bool negates(const std::vector<std::string_view>& names,
+                        const std::vector<std::string_view>& switches) {
+        return std::any_of(names.begin(), names.end(), [&](std::string_view name) {
+            return name.substr(0, negation.size()) == negation &&
+                   holds(switches, name.substr(negation.size()));
+        });
+    }
+
+    // Whether one of the names is here or above, also as the "no-" form of a switch.
     bool holdAny(const TakenNames& below) const {
         const auto isKnown = [this](std::string_view name) { return isTaken(name); };
-        const auto isNegation = [](std::string_view name) {
-            return name.substr(0, negation.size()) == negation;
-        };
         return std::any_of(below.m_names.begin(), below.m_names.end(), isKnown) ||
-               std::any_of(m_names.begin(), m_names.end(), isNegation) ||
-               (m_above != nullptr && m_above->holdAny(below));
+               negates(m_names, below.m_switches) || (m_above != nullptr && m_above->holdAny(below));
     }
 
     bool isOwn(std::string_view name) const {
