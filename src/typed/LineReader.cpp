@@ -224,12 +224,12 @@ void LineReader::enterVerb(std::size_t place) {
     NameMatcher matcher;
     const std::string argument = "--" + word;
     NameOutcome outcome = matcher.look(argument, verbs->registry().m_options, &verbs->registry());
-    if (matcher.token().hasValue || dashLength(word) != 0) {
+    if (word.empty() || matcher.token().hasValue || dashLength(word) != 0) {
         outcome = NameOutcome::none;
     }
     if (outcome == NameOutcome::found) {
         Command& verb = *m_line.chosen->verbs[static_cast<std::size_t>(matcher.place())];
-        noteAbbreviation(word, matcher.bestNames().front());
+        noteAbbreviation(word, std::string(matcher.bestNameIn(argument)));
         enter(verb);
     } else if (outcome == NameOutcome::ambiguous) {
         m_isLost = true;

@@ -11,9 +11,9 @@ set -u
 # shellcheck disable=SC2016
 expected='
 readme 2 readme: unexpected argument '"''"'|Try '"'readme --help'"'.|
-tasks 2 tasks: ambiguous verb '"''"', could be '"'add' or 'list'"'|Try '"'tasks --help'"'.|
+tasks 2 tasks: unknown verb '"''"'|Try '"'tasks --help'"'.|
 seek 2 seek: No action defined.|Try '"'seek --help'"'.|
-vcs 2 vcs: ambiguous verb '"''"', could be '"'init', 'add', 'commit', 'ci', 'log' or 'push'"'|Try '"'vcs --help'"'.|
+vcs 2 vcs: unknown verb '"''"'|Try '"'vcs --help'"'.|
 convert 0 to png, linear, quality 85, gamma 1, 1 jobs, 268435456 bytes|in '"'.', title ''"', widths|file '"''"'|
 sort_lines 0 order text|buffer 0, batch 16, parallel 1|
 plain/backup 0 writing to '"'backup'"' at level 6|
@@ -26,7 +26,7 @@ cookbook/actions 2 actions: an action is missing|Try '"'"'actions --help'"'"'.|
 cookbook/completers 0 call |
 cookbook/copy 2 copy: argument TARGET is missing|Try '"'"'copy --help'"'"'.|
 cookbook/count 2 count: unexpected argument '"''"'|Try '"'"'count --help'"'"'.|
-cookbook/environment 2 environment: ambiguous verb '"''"', could be '"'"'show'"'"' or '"'"'reset'"'"'|Try '"'"'environment --help'"'"'.|
+cookbook/environment 2 environment: unknown verb '"''"'|Try '"'"'environment --help'"'"'.|
 cookbook/exclusive 2 exclusive: unexpected argument '"''"'|Try '"'"'exclusive --help'"'"'.|
 cookbook/help_topics 2 help_topics: unexpected argument '"''"'|Try '"'"'help_topics --help'"'"'.|
 cookbook/lists 2 lists: unexpected argument '"''"'|Try '"'"'lists --help'"'"'.|

@@ -115,7 +115,6 @@ TEST(TypedValues, RealNumbersAreReadWhole) {
 TEST(TypedValues, TextsAreTakenAsTheyAre) {
     expectValue<std::string>("a,b =c ", "a,b =c ");
     expectValue<std::filesystem::path>("a/b", "a/b");
-    expectValue<tarv::Text>("x", "x");
 }
 
 TEST(TypedValues, ViewsAreKeptByTheProgram) {

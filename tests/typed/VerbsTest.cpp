@@ -115,6 +115,13 @@ TEST(TypedVerbs, AnOptionOfTheVerbBelongsBehindIt) {
     EXPECT_EQ(parseLine(program, {"log", "--dep=1"}), "ok");
 }
 
+TEST(TypedVerbs, AnEmptyArgumentIsNoVerb) {
+    tarv::Program program("vcs");
+    program.verb("log", "").does([] {});
+    EXPECT_EQ(parseLine(program, {""}), wrong("unknown verb ''"));
+    EXPECT_EQ(parseLine(program, {"l"}), "ok");
+}
+
 TEST(TypedVerbs, AProgramWithABodyNeedsNoVerb) {
     tarv::Program program("vcs");
     program.verb("log", "").does([] {});
