@@ -67,7 +67,7 @@ nlohmann::json described(IParser& parser) {
 
 TEST(Rebuild, GivesTheDescriptionBackAndTheSameOutcomes) {
     unsigned successes = 0;
-    constexpr unsigned rounds = 3000;
+    constexpr unsigned rounds = 1000;
     for (unsigned seed = 0; seed < rounds && !testing::Test::HasFailure(); ++seed) {
         RandomCommandLine random(seed);
         BasicParser original(random.flags());
