@@ -90,7 +90,7 @@ CommandLine lineOf(IParser& parser) {
 
 TEST(CompareNames, FindsExactlyTheAbbreviationsThatAParseTakesOtherwise) {
     std::size_t all = 0;
-    constexpr unsigned rounds = 150;
+    constexpr unsigned rounds = 200;
     for (unsigned seed = 0; seed < rounds && !testing::Test::HasFailure(); ++seed) {
         RandomCommandLine random(seed);
         BasicParser older(flagRejectUnknown | flagDashIsNotPositional);

@@ -66,6 +66,8 @@ TEST(Compare, FindsNamesThatMeanSomethingElse) {
              p.option("no-cold", "", vtNull);
          },
          "name: tool --no-col: is ambiguous: --no-color, --no-cold\n"},
+        {"an option that is turned off now", [](IParser& p) { p.option("no-color", "", vtNull); },
+         [](IParser& p) { p.option("no-color", "", vtBool); }, "name: tool --no-color: means --no-color\n"},
         {"a no- form that is an option now", [](IParser& p) { p.option("color", "", vtBool); },
          [](IParser& p) {
              p.option("no-color", "", vtNull);
@@ -118,6 +120,10 @@ TEST(Compare, FindsValuesThatAreRefusedOrTakenForOthers) {
                  .tokenize(0);
          },
          "value: tool --n=al: is refused\n"},
+        {"an allowed value gone that begins another one",
+         [](IParser& p) { p.option("n", "", vtString).allowValue("red").allowValue("redder").tokenize(0); },
+         [](IParser& p) { p.option("n", "", vtString).allowValue("redder").tokenize(0); },
+         "value: tool --n=red: has the value redder\n"},
         {"every text allowed now, so that no abbreviation is completed",
          [](IParser& p) { p.option("n", "", vtString).allowValue("always").tokenize(0); },
          [](IParser& p) { p.option("n", "", vtString).tokenize(0); },
@@ -172,6 +178,34 @@ TEST(Compare, FindsRulesThatRefuseMore) {
              addRule(&p, ruleAtMostOne, "a,b");
          },
          "line: tool --a --b=1: is refused: Option 'a' and option 'b' exclude each other\n"},
+        {"two that exclude each other, neither of which is required",
+         [](IParser& p) {
+             p.option("a", "", vtNull);
+             p.option("b", "", vtInt32);
+         },
+         [](IParser& p) {
+             p.option("a", "", vtNull);
+             p.option("b", "", vtInt32);
+             addRule(&p, ruleAtMostOne, "a,b");
+         },
+         "line: tool --a --b=1: is refused: Option 'a' and option 'b' exclude each other\n"},
+        {"three of which all are given now, or none",
+         [](IParser& p) {
+             p.option("a", "", vtNull);
+             p.option("b", "", vtNull);
+             p.option("c", "", vtNull);
+             addRule(&p, ruleNeeds, "c,b");
+         },
+         [](IParser& p) {
+             p.option("a", "", vtNull);
+             p.option("b", "", vtNull);
+             p.option("c", "", vtNull);
+             addRule(&p, ruleAllOrNone, "a,b,c");
+         },
+         "line: tool --a: is refused: The options 'a', 'b', 'c' go together, but option 'b' is missing\n"
+         "line: tool --b: is refused: The options 'a', 'b', 'c' go together, but option 'a' is missing\n"
+         "line: tool --a --b: is refused: The options 'a', 'b', 'c' go together, but option 'c' is "
+         "missing\n"},
         {"one that needs another now",
          [](IParser& p) {
              p.option("a", "", vtNull);

@@ -1,0 +1,5 @@
+pack \--out=a .
+pack "\--out=b" .
+pack $'--out=c' .
+pack $'--\x6fut=d' .
+pack "--o\"ut=e" .
