@@ -3,6 +3,7 @@
 #include "reliability/AllocationScenario.h"
 #include "tarv_3_3/completion.h"
 #include "tarv_3_3/description.h"
+#include "tarv_3_3/explain.h"
 
 using namespace tarv_3_3;
 
@@ -43,6 +44,11 @@ const std::string remarkedJson =
     std::string(declaredJson) + R"(, "notes": {"range": "1..2", "host.remark": ")" + longValue + R"("}}],
 "rules": [
 {"kind": "needs", "names": ["build-the-whole-project", "output-file", "jobs"]}],
+"checks": []}
+)";
+
+const std::string withoutRemarksJson = std::string(declaredJson) + R"(}],
+"rules": [],
 "checks": []}
 )";
 
@@ -122,6 +128,16 @@ std::vector<Scenario> descriptionScenarios() {
         {"SuggestLetters", Failure::query, declared,
          [](Subject& s) { return keep(s, suggest(s.parser, "-oa-long-name-of-a-file-for-the-output")); }, 0,
          keptText, "Did you mean '-o=a-long-name-of-a-file-for-the-output'?"},
+        {"Explain", Failure::query, declared,
+         [](Subject& s) {
+             const char* const argv[] = {"tool", "--outp=a value that is longer than a short string", "--jo"};
+             const Explanation* const explanation = explain(s.parser, 3, argv);
+             const bool isWhole = explanation != nullptr && explanation->argumentCount == 2 &&
+                                  explainedAt(*explanation, 1).isAbbreviated == 1;
+             release(explanation);
+             return isWhole ? 0 : 3;
+         },
+         0, json, withoutRemarksJson.c_str()},
         {"CompleteName", Failure::query, declared,
          [](Subject& s) { return completeWith(s, "--o-f", "--output-file="); }, 0, keptText, ""},
         {"CompleteValue", Failure::query, declared,
