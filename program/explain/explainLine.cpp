@@ -77,7 +77,8 @@ public:
     void judge(ExplainedLine& line) const {
         const LineAnswer answer = askLine(m_side, m_arguments);
         line.isMended = m_isMended;
-        line.isAccepted = answer.isAccepted && m_refusedValue.empty();
+        // Help goes before any complaint.
+        line.isAccepted = m_isAnswered || (answer.isAccepted && m_refusedValue.empty());
         line.message = answer.isAccepted ? m_refusedValue : answer.message;
     }
 
@@ -126,6 +127,7 @@ private:
             word.means = mend == "help" || mend == "version" ? "--" + mend : "?";
             word.remark = word.means == "?" ? "the program mends it: " + mend : "";
             m_isMended = m_isMended || word.means == "?";
+            m_isAnswered = m_isAnswered || word.means != "?";
         } else if (found.role == explainedUnknown) {
             word.means = "?";
             word.remark = found.isRefused != 0 ? "unknown" : "unknown, and passed over";
@@ -188,6 +190,8 @@ private:
     std::set<std::size_t> m_given;
     std::string m_refusedValue;
     bool m_isMended = false;
+    /// By help or the version, which the program has without declaring them.
+    bool m_isAnswered = false;
 };
 
 const CommandLine& verbOf(const LevelPart& part) {

@@ -116,7 +116,7 @@ void appendEntry(std::string& page, const Entry& entry) {
 std::string asManual(const Page& page, const std::string& section, const std::string& date) {
     const std::string name = fileNameOf(page);
     std::string text =
-        ".TH " + quotedArgument(upper(name)) + " " + quotedArgument(section) + " " + dateArgument(date) +
+        ".TH " + quotedArgument(upper(visible(name))) + " " + quotedArgument(section) + " " + dateArgument(date) +
         " " + quotedArgument(page.command.front() + (page.version.empty() ? "" : " " + page.version)) + "\n";
     // What the line says up to the dash is what manuals are found by.
     text += ".SH NAME\n" +
