@@ -1,5 +1,6 @@
 #include <algorithm>
 #include <cctype>
+#include <cstring>
 
 #include "pages/Page.h"
 #include "text/shellQuoted.h"
@@ -111,12 +112,24 @@ void appendEntry(std::string& page, const Entry& entry) {
     page += text.empty() ? "\\&\n" : text;
 }
 
+// No title has escapes, of which some hold small letters.
+std::string titleOf(const std::string& name) {
+    std::string title = upper(name);
+    std::replace_if(
+        title.begin(), title.end(),
+        [](unsigned char c) {
+            return (c == 0 || std::strchr("-_.+", c) == nullptr) && (c >= 0x80 || std::isalnum(c) == 0);
+        },
+        '_');
+    return title;
+}
+
 } // namespace
 
 std::string asManual(const Page& page, const std::string& section, const std::string& date) {
     const std::string name = fileNameOf(page);
     std::string text =
-        ".TH " + quotedArgument(upper(visible(name))) + " " + quotedArgument(section) + " " + dateArgument(date) +
+        ".TH " + quotedArgument(titleOf(name)) + " " + quotedArgument(section) + " " + dateArgument(date) +
         " " + quotedArgument(page.command.front() + (page.version.empty() ? "" : " " + page.version)) + "\n";
     // What the line says up to the dash is what manuals are found by.
     text += ".SH NAME\n" +
