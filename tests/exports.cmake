@@ -28,6 +28,7 @@ foreach(needed IN ITEMS
         _ZTIN8tarv_3_312EventHandlerE
         _ZNK8tarv_3_35Value2asIPKcEET_v
         _ZN8tarv_3_38internal7tarvLogEv
+        _ZN8tarv_3_35typed6engine13createProgramEPKcS3_S3_
         _ZN6dovel29variant_tC1Ei
         _ZN6dovel29variant_t5m_memE
         _ZN9MERO_2_1621set_assertion_handlerEPFvPKcS1_iE)

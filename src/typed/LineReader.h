@@ -47,6 +47,7 @@ private:
     void add(const Option& option, std::size_t place, const char* text);
     void noteAbbreviation(const std::string& typed, const std::string& whole);
     void enterVerb(std::size_t place);
+    std::vector<std::string> verbNamesFor(const std::string& word) const;
     void enter(Command& verb);
     bool isValueOf(const Option& option, const std::string& argument) const;
     void finish();

@@ -106,6 +106,13 @@ TEST(TypedVerbs, InFrontAnAbbreviationIsUniqueWithTheVerbsOptionsToo) {
     EXPECT_FALSE(deep.given());
 }
 
+TEST(TypedVerbs, NamesOfOneVerbAreNoAmbiguity) {
+    tarv::Program program("vcs");
+    program.verb("commit,ci,checkin", "").does([] {});
+    EXPECT_EQ(parseLine(program, {"c"}), "ok");
+    EXPECT_EQ(parseLine(program, {"ch"}), "ok");
+}
+
 TEST(TypedVerbs, AnOptionOfTheVerbBelongsBehindIt) {
     tarv::Program program("vcs");
     program.option<int>("depth", "");
