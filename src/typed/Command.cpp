@@ -11,9 +11,9 @@ Option::~Option() {
         return;
     }
     for (Owned* check = state->checks; check != nullptr;) {
-        Owned* const next = check->next;
+        Owned* const behind = check->next;
         check->destroy(check);
-        check = next;
+        check = behind;
     }
     if (state->completer != nullptr) {
         state->completer->destroy(state->completer);

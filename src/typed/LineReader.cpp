@@ -110,13 +110,13 @@ void LineReader::readWord(std::size_t place) {
 }
 
 void LineReader::readName(std::size_t place) {
-    const std::string* const next =
+    const std::string* const behind =
         place + 1 < m_line.arguments.size() ? &m_line.arguments[place + 1] : nullptr;
-    const ReadArgument read = m_reader->look(m_line.arguments[place], next);
-    if (read.role == ArgumentRole::named) {
-        readNamed(place, read);
-    } else if (!readRepeatedLetter(place, read)) {
-        readUnfit(place, read);
+    const ReadArgument found = m_reader->look(m_line.arguments[place], behind);
+    if (found.role == ArgumentRole::named) {
+        readNamed(place, found);
+    } else if (!readRepeatedLetter(place, found)) {
+        readUnfit(place, found);
     }
 }
 

@@ -143,8 +143,8 @@ private:
     std::size_t textColumn() const {
         const std::size_t most = std::min(longestLeft, m_style.width / 2);
         std::size_t widest = 0;
-        for (const Section& section : m_sections) {
-            for (const Row& row : section.rows) {
+        for (const Section& part : m_sections) {
+            for (const Row& row : part.rows) {
                 const std::size_t columns = columnsOf(row.left);
                 widest = columns <= most ? std::max(widest, columns) : widest;
             }
@@ -154,9 +154,9 @@ private:
 
     void appendSections() {
         const std::size_t column = textColumn();
-        for (const Section& section : m_sections) {
-            m_help += "\n" + bold(section.heading + ":") + "\n";
-            for (const Row& row : section.rows) {
+        for (const Section& part : m_sections) {
+            m_help += "\n" + bold(part.heading + ":") + "\n";
+            for (const Row& row : part.rows) {
                 appendRow(row, column);
             }
         }

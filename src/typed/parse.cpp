@@ -81,13 +81,13 @@ const Result* result(Command* program) {
 }
 
 int print(Command* program) {
-    const Result& result = program != nullptr ? program->result : noMemory;
-    std::fputs(result.errors, stderr);
-    if (*result.output == '\0') {
-        return result.exitCode;
+    const Result& known = program != nullptr ? program->result : noMemory;
+    std::fputs(known.errors, stderr);
+    if (*known.output == '\0') {
+        return known.exitCode;
     }
-    const bool isWritten = std::fputs(result.output, stdout) >= 0 && std::fflush(stdout) == 0;
-    return isWritten ? result.exitCode : cannotWrite;
+    const bool isWritten = std::fputs(known.output, stdout) >= 0 && std::fflush(stdout) == 0;
+    return isWritten ? known.exitCode : cannotWrite;
 }
 
 const char* problems(Command* program) {

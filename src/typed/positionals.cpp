@@ -43,19 +43,19 @@ std::vector<std::size_t> shares(const std::vector<Option*>& positionals, std::si
 void distribute(const Command& command, const std::vector<std::size_t>& words, CommandLine& line) {
     const std::vector<Option*> positionals = positionalsOf(command);
     const std::vector<std::size_t> each = shares(positionals, words.size());
-    std::size_t next = 0;
+    std::size_t used = 0;
     for (std::size_t i = 0; i < positionals.size(); ++i) {
         for (std::size_t taken = 0; taken < each[i]; ++taken) {
             Occurrence occurrence;
             occurrence.option = positionals[i];
-            occurrence.place = static_cast<int>(words[next]);
-            occurrence.text = line.arguments[words[next]].c_str();
+            occurrence.place = static_cast<int>(words[used]);
+            occurrence.text = line.arguments[words[used]].c_str();
             line.occurrences.push_back(occurrence);
-            ++next;
+            ++used;
         }
     }
-    if (next < words.size()) {
-        line.complain(messages::tooManyArguments(internal::terminalText(line.arguments[words[next]])));
+    if (used < words.size()) {
+        line.complain(messages::tooManyArguments(internal::terminalText(line.arguments[words[used]])));
     }
 }
 

@@ -109,7 +109,7 @@ private:
 /// Looks at a program, verb by verb.
 class ProblemFinder {
 public:
-    void look(Command& command, const TakenNames* above) {
+    void look(const Command& command, const TakenNames* above) {
         m_where = command.path();
         TakenNames names(above);
         const bool areFree = names.takeAll(command);
@@ -255,7 +255,7 @@ private:
 
 } // namespace
 
-std::vector<std::string> findProblems(Command& program) {
+std::vector<std::string> findProblems(const Command& program) {
     ProblemFinder finder;
     finder.look(program, nullptr);
     return finder.take();

@@ -9,6 +9,6 @@ namespace tarv_3_3::typed::engine {
 
 /// What is wrong with the declarations of a program and all of its verbs, each with the name of what it
 /// concerns.
-std::vector<std::string> findProblems(Command& program);
+std::vector<std::string> findProblems(const Command& program);
 
 } // namespace tarv_3_3::typed::engine

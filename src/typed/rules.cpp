@@ -157,7 +157,7 @@ void checkGroup(const GroupRule& rule, CommandLine& line) {
 
 } // namespace
 
-void noteGiven(Command& program, CommandLine& line) {
+void noteGiven(Command& program, const CommandLine& line) {
     forEachOptionBelow(program, forget);
     for (const Occurrence& occurrence : line.occurrences) {
         if (!occurrence.isOnlyChecked) {

@@ -5,7 +5,7 @@
 namespace tarv_3_3::typed::engine {
 
 /// Writes what was given into the states that handles point to; all others are not given.
-void noteGiven(Command& program, CommandLine& line);
+void noteGiven(Command& program, const CommandLine& line);
 
 /// Takes back what a weaker source gives and a stronger one excludes.
 void dropExcluded(CommandLine& line);

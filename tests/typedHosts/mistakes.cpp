@@ -13,15 +13,15 @@ struct Unreadable {
 };
 enum class Gap { one = 1, three = 3 };
 enum class Negative { minus = -1, zero = 0, one = 1 };
-enum class Long {
-    a_name_that_is_much_longer_than_the_sixty_three_bytes_that_are_read_of_it
-};
+enum class Long { a_name_that_is_much_longer_than_the_sixty_three_bytes_that_are_read_of_it };
 enum Open { open };
 
 int main(int argc, char** argv) {
     tarv::Program program("program");
     tarv::Handle<int> number = program.option<int>("number", "");
     tarv::Handle<std::string> text = program.option<std::string>("text", "");
+    // The messages stay on the lines of their mistakes.
+    // clang-format off
 #if MISTAKE == 1 // tarv: no option can hold this type; write a bool fromText(const char*, T&) beside it
     program.option<Unreadable>("x", "");
 #elif MISTAKE == 2 // tarv: range() is for numbers, sizes and durations
@@ -63,5 +63,6 @@ int main(int argc, char** argv) {
 #elif MISTAKE == 20 // tarv: a value of oneOf() is of another type than the option
     text.oneOf(1, 2);
 #endif
+    // clang-format on
     return program.run(argc, argv, [=] { return *number + static_cast<int>(text->size()); });
 }
