@@ -46,6 +46,8 @@ std::vector<std::string> namesOf(const char* names) {
     return list;
 }
 
+// Commands nest only as deep as the host declares them.
+// NOLINTBEGIN(misc-no-recursion)
 std::string Command::path() const {
     return parent != nullptr ? parent->path() + " " + name() : name();
 }
@@ -73,5 +75,7 @@ Option* Command::findOption(std::string_view wanted) const {
     }
     return parent != nullptr ? parent->findOption(wanted) : nullptr;
 }
+
+// NOLINTEND(misc-no-recursion)
 
 } // namespace tarv_3_3::typed::engine

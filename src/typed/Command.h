@@ -25,6 +25,8 @@ struct GroupRule {
     std::vector<Option*> options;
 };
 
+// Commands nest only as deep as the host declares them.
+// NOLINTBEGIN(misc-no-recursion)
 /// A program or a verb. Verbs belong to the command above them; the topmost one, which has no parent, has
 /// what concerns the program as a whole.
 struct Command {
@@ -100,6 +102,8 @@ void forEachOptionAbove(const Command& command, Visit visit) {
         visit(*option);
     }
 }
+
+// NOLINTEND(misc-no-recursion)
 
 } // namespace typed::engine
 

@@ -34,6 +34,7 @@ std::string typedName(const std::string& argument, const ReadArgument& read) {
 
 std::vector<std::string> dashedNames(const std::vector<std::string>& names) {
     std::vector<std::string> list;
+    list.reserve(names.size());
     for (const std::string& name : names) {
         list.push_back("'" + dashed(name) + "'");
     }
@@ -42,6 +43,7 @@ std::vector<std::string> dashedNames(const std::vector<std::string>& names) {
 
 std::vector<std::string> quotedNames(const std::vector<std::string>& names) {
     std::vector<std::string> list;
+    list.reserve(names.size());
     for (const std::string& name : names) {
         list.push_back("'" + name + "'");
     }

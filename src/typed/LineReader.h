@@ -48,7 +48,7 @@ private:
     void noteAbbreviation(const std::string& typed, const std::string& whole);
     void enterVerb(std::size_t place);
     std::vector<std::string> verbNamesFor(const std::string& word) const;
-    void enter(Command& verb);
+    void enter(Command& command);
     bool isValueOf(const Option& option, const std::string& argument) const;
     void finish();
     void checkFront();

@@ -216,6 +216,8 @@ void writeRules(JsonWriter& json, const Command& command) {
     json.close(']');
 }
 
+// Commands nest only as deep as the host declares them.
+// NOLINTBEGIN(misc-no-recursion)
 void writeMembers(JsonWriter& json, const Command& command);
 
 void writeVerbs(JsonWriter& json, const Command& command) {
@@ -292,6 +294,8 @@ void writeSettings(JsonWriter& json, const Command& program) {
     }
     json.close(']');
 }
+
+// NOLINTEND(misc-no-recursion)
 
 } // namespace
 

@@ -28,6 +28,8 @@ bool isOneOf(const std::string& text, std::initializer_list<const char*> texts) 
 
 constexpr std::string_view negation = "no-";
 
+// Commands nest only as deep as the host declares them.
+// NOLINTBEGIN(misc-no-recursion)
 /// The names of a command, which those of the commands above may not be.
 class TakenNames {
 public:
@@ -252,6 +254,8 @@ private:
     std::string m_where;
     std::vector<std::string> m_problems;
 };
+
+// NOLINTEND(misc-no-recursion)
 
 } // namespace
 

@@ -41,6 +41,8 @@ void drop(Option& option, CommandLine& line) {
     }
 }
 
+// Commands nest only as deep as the host declares them.
+// NOLINTBEGIN(misc-no-recursion)
 template <class Visit>
 void forEachCommandAbove(const Command& command, Visit visit) {
     if (command.parent != nullptr) {
@@ -48,6 +50,8 @@ void forEachCommandAbove(const Command& command, Visit visit) {
     }
     visit(command);
 }
+
+// NOLINTEND(misc-no-recursion)
 
 bool isForOne(const GroupRule& rule) {
     return rule.kind == atMostOne || rule.kind == exactlyOne;

@@ -41,6 +41,8 @@ Setting findOwn(const Command& command, std::string_view name) {
     return {};
 }
 
+// Commands nest only as deep as the host declares them.
+// NOLINTBEGIN(misc-no-recursion)
 // "max-count" of this command, or "log.max-count" of its verb. Names are whole.
 Setting findSetting(const Command& command, std::string_view name) {
     const Setting own = findOwn(command, name);
@@ -51,6 +53,8 @@ Setting findSetting(const Command& command, std::string_view name) {
     const Command* const verb = command.findVerb(name.substr(0, dot));
     return verb != nullptr ? findSetting(*verb, name.substr(dot + 1)) : Setting();
 }
+
+// NOLINTEND(misc-no-recursion)
 
 /// Reads one file.
 class SettingsReader {
