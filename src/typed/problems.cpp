@@ -18,12 +18,7 @@ bool endsName(char byte) {
 }
 
 bool isOneOf(const std::string& text, std::initializer_list<const char*> texts) {
-    for (const char* known : texts) {
-        if (text == known) {
-            return true;
-        }
-    }
-    return false;
+    return std::any_of(texts.begin(), texts.end(), [&](const char* known) { return text == known; });
 }
 
 constexpr std::string_view negation = "no-";

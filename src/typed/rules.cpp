@@ -93,6 +93,7 @@ void dropByAction(CommandLine& line) {
 
 std::vector<std::string> quotedNames(const std::vector<Option*>& options) {
     std::vector<std::string> names;
+    names.reserve(options.size());
     for (const Option* option : options) {
         names.push_back("'" + shownName(*option) + "'");
     }
