@@ -8,7 +8,7 @@ root=$(realpath "$(dirname "$0")/../..")
 
 rm -rf "$work"
 mkdir -p "$work/sources"
-cp -r "$root"/{CMakeLists.txt,CMakePresets.json,LICENSE,README.md,cmake,docs,examples,include,share,src} "$work/sources"
+cp -r "$root"/{CMakeLists.txt,CMakePresets.json,LICENSE,README.md,cmake,docs,examples,include,program,share,src} "$work/sources"
 cd "$work/sources"
 export DESTDIR=$work/system
 
@@ -35,8 +35,9 @@ expect() {
 }
 
 eval "${commands[0]}"
-expect "Libraries and programs in the build" build/install/src/libtarv.so.3.3.0 \
-    "$(find build/install -name CMakeFiles -prune -o -type f \( -executable -o -name '*.a' \) -print)"
+expect "Libraries and programs in the build" \
+    $'build/install/program/libtarv_program_parts.a\nbuild/install/program/tarv\nbuild/install/src/libtarv.so.3.3.0' \
+    "$(find build/install -name CMakeFiles -prune -o -type f \( -executable -o -name '*.a' \) -print | LC_ALL=C sort)"
 
 eval "${commands[1]}"
 config=$(find "$DESTDIR" -name tarv.pc)
