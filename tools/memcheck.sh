@@ -10,7 +10,8 @@ cd "$(dirname "$0")/.."
 
 preset=${1:-release}
 build=$PWD/build/$preset
-suites=(reliability options help parser platform recognition result reading description completion api)
+suites=(reliability options help parser platform recognition result reading description completion typed
+    typedInternal api)
 
 tools/apt-install.sh build test memcheck
 cmake --preset "$preset" >/dev/null
@@ -46,8 +47,8 @@ export build
 # These let allocations fail, in functions of their own that valgrind must not replace by its own. It
 # then knows nothing of the blocks, but of the stack and of values that nobody set; the tests count
 # blocks themselves.
-failing='*AllocationFailure*:*WhicheverAllocationFails:*WhenMemoryRunsOut:Arena.*:ArenaAllocator.*'
-suites_with_failures=(platform result help completion reliability)
+failing='*AllocationFailure*:*WhicheverAllocationFails:*WhenMemoryRunsOut:TypedMemory.*:Arena.*:ArenaAllocator.*'
+suites_with_failures=(platform result help completion typed reliability)
 own_functions=--soname-synonyms=somalloc=nouserintercepts
 {
     for suite in "${suites[@]}"; do
