@@ -113,7 +113,7 @@ public:
 #pragma clang diagnostic pop
 #endif
 
-    /// Only these values. A beginning that fits only one of them stands for it on the command line.
+    /// Only these values. Of a text, a beginning that fits only one stands for it on the command line.
     template <class... Choices>
     Handle oneOf(const Choices&... choices) const {
         static_assert(values::isText<Element> || std::is_arithmetic_v<Element>,
