@@ -86,7 +86,7 @@ Reader::Match Reader::match(const std::string& argument, Token& token) {
     if (known != m_remembered.end()) {
         return known->second;
     }
-    const Match found = matchAnew(argument);
+    Match found = matchAnew(argument);
     token = m_matcher.token();
     const std::string_view typed = token.nameIn(argument);
     if (!typed.empty() && typed != found.name) {

@@ -15,14 +15,10 @@ std::size_t firstInRange(const Entries::Group& group, int lo, int hi) {
     if (isInRange(positions.front())) {
         return 0;
     }
-    const int* found = positions.end();
-    if (group.ascends) {
-        const int* const candidate = std::lower_bound(positions.begin(), positions.end(), lo);
-        found = candidate != positions.end() && isInRange(*candidate) ? candidate : positions.end();
-    } else {
-        found = std::find_if(positions.begin(), positions.end(), isInRange);
-    }
-    return static_cast<std::size_t>(found - positions.begin());
+    const int* const found = group.ascends ? std::lower_bound(positions.begin(), positions.end(), lo)
+                                           : std::find_if(positions.begin(), positions.end(), isInRange);
+    const bool isThere = found != positions.end() && isInRange(*found);
+    return static_cast<std::size_t>((isThere ? found : positions.end()) - positions.begin());
 }
 
 // The index of the first value, from `index` on, whose position is not below `bound`; their number when there
