@@ -72,6 +72,12 @@ class CoverageReportTest(unittest.TestCase):
                          (1, "exceptions.txt: no longer needed: sign.cpp | return 0;\n"
                              "0 of 0 branches reached, 1 exceptions\n"))
 
+    def test_accepts_a_reason_by_chance_whether_the_line_is_reached_or_not(self):
+        for count in [0, 1]:
+            with self.subTest(count):
+                self.assertEqual(self.report([line(8, count)], "sign.cpp | return 0; | by chance: threads\n"),
+                                 (0, "0 of 0 branches reached, 1 exceptions\n"))
+
     def test_refuses_an_empty_reason(self):
         self.assertEqual(self.report([line(8, 0)], "sign.cpp | return 0; |  \n")[0], 1)
 
