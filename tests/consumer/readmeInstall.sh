@@ -2,10 +2,15 @@
 # Runs what README.md says about installing, uninstalling and the reference, on a copy of the sources and
 # with a directory of its own for the root of the system.
 #   readmeInstall.sh WORK
+# WORK is deleted first.
 set -euo pipefail
 work=$1
 root=$(realpath "$(dirname "$0")/../..")
 
+if [[ -e $work/.git ]]; then
+    echo "$work holds a repository, and would be deleted" >&2
+    exit 1
+fi
 rm -rf "$work"
 mkdir -p "$work/sources"
 cp -r "$root"/{CMakeLists.txt,CMakePresets.json,LICENSE,README.md,cmake,docs,examples,include,program,share,src} "$work/sources"
