@@ -3,6 +3,7 @@
 #include <charconv>
 #include <cmath>
 #include <limits>
+#include <utility>
 
 namespace tarv_3_3::typed::engine {
 
@@ -97,11 +98,29 @@ NumberOutcome readDecimal(std::string_view text, Decimal& decimal) {
 
 __extension__ using Wide = unsigned __int128;
 
+struct Fraction {
+    Wide numerator;
+    Wide denominator;
+};
+
+// How many of the one unit are in the other, in lowest terms.
+Fraction ratioOf(TimeUnit typed, TimeUnit counted) {
+    const Wide numerator = static_cast<Wide>(typed.numerator) * static_cast<Wide>(counted.denominator);
+    const Wide denominator = static_cast<Wide>(typed.denominator) * static_cast<Wide>(counted.numerator);
+    Wide divisor = numerator;
+    for (Wide rest = denominator; rest != 0;) {
+        divisor = std::exchange(rest, divisor % rest);
+    }
+    return {numerator / divisor, denominator / divisor};
+}
+
 // Multiplies by a fraction; only what is whole is read.
-DurationOutcome scale(const Decimal& decimal, unsigned long long numerator, unsigned long long denominator,
-                      unsigned long long& scaled) {
-    Wide over = static_cast<Wide>(decimal.digits) * numerator;
-    Wide under = denominator;
+DurationOutcome scale(const Decimal& decimal, Fraction fraction, unsigned long long& scaled) {
+    if (decimal.digits > ~static_cast<Wide>(0) / fraction.numerator) {
+        return DurationOutcome::tooLarge;
+    }
+    Wide over = decimal.digits * fraction.numerator;
+    Wide under = fraction.denominator;
     for (int i = 0; i < decimal.places; ++i) {
         if (under > ~static_cast<Wide>(0) / 10) {
             return DurationOutcome::inexact;
@@ -173,7 +192,7 @@ NumberOutcome readSize(std::string_view text, unsigned long long& bytes) {
     if (outcome != NumberOutcome::read || (decimal.isNegative && decimal.digits != 0)) {
         return outcome == NumberOutcome::tooLarge ? outcome : NumberOutcome::notOne;
     }
-    switch (scale(decimal, factor, 1, bytes)) {
+    switch (scale(decimal, {factor, 1}, bytes)) {
     case DurationOutcome::read:
         return NumberOutcome::read;
     case DurationOutcome::tooLarge:
@@ -195,11 +214,7 @@ DurationOutcome readDuration(std::string_view text, TimeUnit unit, long long& co
         return behind == text.size() ? DurationOutcome::noUnit : DurationOutcome::notOne;
     }
     unsigned long long size = 0;
-    const DurationOutcome scaled =
-        scale(decimal, static_cast<unsigned long long>(typed->unit.numerator * unit.denominator),
-              static_cast<unsigned long long>(typed->unit.denominator) *
-                  static_cast<unsigned long long>(unit.numerator),
-              size);
+    const DurationOutcome scaled = scale(decimal, ratioOf(typed->unit, unit), size);
     if (scaled != DurationOutcome::read) {
         return scaled;
     }
@@ -214,7 +229,7 @@ DurationOutcome readDuration(std::string_view text, TimeUnit unit, double& count
     const std::size_t behind = unitStart(text);
     const NumberOutcome outcome = readReal(text.substr(0, behind), count);
     if (outcome != NumberOutcome::read) {
-        return DurationOutcome::notOne;
+        return outcome == NumberOutcome::tooLarge ? DurationOutcome::tooLarge : DurationOutcome::notOne;
     }
     const NamedUnit* const typed = findUnit(text.substr(behind));
     if (typed == nullptr) {
@@ -222,7 +237,7 @@ DurationOutcome readDuration(std::string_view text, TimeUnit unit, double& count
     }
     count *= static_cast<double>(typed->unit.numerator) * static_cast<double>(unit.denominator);
     count /= static_cast<double>(typed->unit.denominator) * static_cast<double>(unit.numerator);
-    return DurationOutcome::read;
+    return std::isfinite(count) ? DurationOutcome::read : DurationOutcome::tooLarge;
 }
 
 std::string showReal(double number, bool isFloat) {

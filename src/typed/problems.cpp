@@ -161,7 +161,7 @@ private:
         if (option.isRequired && option.hasDefault) {
             add(option.name(), "it is required and has a default");
         }
-        if (!option.isPositional() && option.least + option.most > 1 && option.least != 0) {
+        if (!option.isPositional() && option.isMany() && option.least + option.most != 0) {
             add(option.name(), "times() is for positional arguments");
         }
         if (option.most != 0 && option.least > option.most) {

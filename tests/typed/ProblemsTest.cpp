@@ -51,7 +51,15 @@ TEST(TypedProblems, AreNamedWithTheirOption) {
               "p: 'x': its default grey must be one of red or blue\n");
     EXPECT_EQ(problemsOf([](tarv::Program& p) { p.option("x", "", static_cast<Paper>(7)); }),
               "p: 'x': its default has no name\np: 'x': its default  must be one of a4 or letter\n");
+    for (const char* name : {"a=", "a\tb", "a\rb"}) {
+        EXPECT_EQ(problemsOf([&](tarv::Program& p) { p.flag(name, ""); }),
+                  "p: '" + std::string(name) + "': a name has no blank and no '='\n");
+    }
     EXPECT_EQ(problemsOf([](tarv::Program& p) { p.option<int>("x", "").range(9, 1); }),
+              "p: 'x': the least number of the range is over the greatest one\n");
+    EXPECT_EQ(problemsOf([](tarv::Program& p) { p.option<unsigned>("x", "").range(9U, 1U); }),
+              "p: 'x': the least number of the range is over the greatest one\n");
+    EXPECT_EQ(problemsOf([](tarv::Program& p) { p.option<double>("x", "").range(1.5, 1.0); }),
               "p: 'x': the least number of the range is over the greatest one\n");
     volatile int low = -1;
     EXPECT_EQ(problemsOf([&](tarv::Program& p) {
@@ -73,6 +81,62 @@ TEST(TypedProblems, AreNamedWithTheirOption) {
                   p.verb("log", "");
               }),
               "p: 'p': a program has verbs or actions, not both\n");
+}
+
+TEST(TypedProblems, OfCountsAreFound) {
+    const struct {
+        unsigned least;
+        unsigned most;
+        const char* ofAnOption;
+        const char* ofAnArgument;
+    } rows[] = {{0, 0, "", ""},
+                {1, 0, "p: 'x': times() is for positional arguments\n", ""},
+                {0, 3, "p: 'x': times() is for positional arguments\n", ""},
+                {1, 1, "p: 'x': times() is for positional arguments\n", ""},
+                {3, 2,
+                 "p: 'x': times() is for positional arguments\n"
+                 "p: 'x': it takes fewer arguments at most than at least\n",
+                 "p: 'x': it takes fewer arguments at most than at least\n"}};
+    for (const auto& row : rows) {
+        SCOPED_TRACE(std::to_string(row.least) + " to " + std::to_string(row.most));
+        EXPECT_EQ(problemsOf([&](tarv::Program& p) { p.option<Texts>("x", "").times(row.least, row.most); }),
+                  row.ofAnOption);
+        EXPECT_EQ(
+            problemsOf([&](tarv::Program& p) { p.positional<Texts>("x", "").times(row.least, row.most); }),
+            row.ofAnArgument);
+    }
+}
+
+TEST(TypedProblems, OfWhatRefersToOthersAreFound) {
+    EXPECT_EQ(problemsOf([](tarv::Program& p) { p.option<int>("x", "").completeAs("files"); }),
+              "p: 'x': shells complete \"file\", \"directory\" or \"none\"\n");
+    EXPECT_EQ(problemsOf([](tarv::Program& p) {
+                  p.option<int>("x", "").completeAs("file");
+                  p.option<int>("y", "").completeAs("directory");
+                  p.option<int>("z", "").completeAs("none");
+              }),
+              "");
+    EXPECT_EQ(problemsOf([](tarv::Program& p) {
+                  const auto flag = p.flag("y", "");
+                  p.option<int>("x", "").goesWith(flag);
+              }),
+              "p: 'x': goesWith() takes actions\n");
+    EXPECT_EQ(problemsOf([](tarv::Program& p) { p.option<int>("x", "").goesWith(tarv::Handle<bool>()); }),
+              "p: 'x': goesWith() takes actions\n");
+    EXPECT_EQ(problemsOf([](tarv::Program& p) { p.option<int>("x", "").needs(tarv::Handle<bool>()); }),
+              "p: 'x': it needs an option that does not go with it\n");
+    EXPECT_EQ(problemsOf([](tarv::Program& p) { p.atMostOne(p.flag("x", "")); }),
+              "p: 'p': a rule is over two options or more\n");
+    EXPECT_EQ(problemsOf([](tarv::Program& p) { p.atLeastOne(p.flag("x", ""), tarv::Handle<bool>()); }),
+              "p: '': a rule is over options of another command\n");
+}
+
+TEST(TypedProblems, OfATextThatIsNoDefaultAreFound) {
+    EXPECT_EQ(problemsOf([](tarv::Program& p) { p.option("x", "", std::string()); }), "");
+    EXPECT_EQ(problemsOf([](tarv::Program& p) { p.option("x", "", std::string()).oneOf("a", "b"); }),
+              "p: 'x': its default  must be one of a or b\n");
+    EXPECT_EQ(problemsOf([](tarv::Program& p) { p.option("x", "", Texts{"a", "c"}).oneOf("a", "b"); }),
+              "p: 'x': its default c must be one of a or b\n");
 }
 
 TEST(TypedProblems, AVerbTakesNoNameFromAbove) {
