@@ -122,11 +122,10 @@ void writeDefault(JsonWriter& json, const Option& option) {
     if (option.isSwitch()) {
         json.member("default", option.defaults.front() == "on" ? "1" : "0");
     } else if (!option.defaults.empty()) {
+        const char separator = option.separator != '\0' ? option.separator : ' ';
         std::string text;
         for (const std::string& element : option.defaults) {
-            text.append(&element != &option.defaults.front() && option.separator != '\0' ? 1 : 0,
-                        option.separator)
-                .append(element);
+            text.append(&element != &option.defaults.front() ? 1 : 0, separator).append(element);
         }
         json.member("default", text);
     }

@@ -84,6 +84,8 @@ TEST(TypedLastResort, JoinedLettersKnowHelp) {
     program.flag("x", "");
     EXPECT_EQ(answer(program, "-xh"), "help of p");
     EXPECT_EQ(answer(program, "-h"), "help of p");
+    EXPECT_EQ(answer(program, "--version -h"), "version");
+    EXPECT_EQ(answer(program, "--help -h"), "help of p");
     EXPECT_EQ(answer(program, "-v"), "2 p: unknown option '-v'\nTry 'p --help'.\n");
 }
 

@@ -172,6 +172,31 @@ TEST(TypedLayers, AStrongerSourceExcludesAWeakerOne) {
     EXPECT_TRUE(*skip && !*overwrite && overwrite.given());
 }
 
+TEST(TypedLayers, AnActionExcludesWhatDoesNotGoWithIt) {
+    tarv::Program program("p");
+    const auto list = program.action("list", "");
+    const auto make = program.action("make", "");
+    const auto level = program.option("level", "", 1).goesWith(make).env("TARV_TEST_LEVEL");
+    const Variable variable("TARV_TEST_LEVEL", "3");
+    EXPECT_EQ(parseLine(program, {"--make"}), "ok");
+    EXPECT_EQ(*level, 3);
+    EXPECT_EQ(parseLine(program, {"--list"}), "ok");
+    EXPECT_EQ(*level, 1);
+    EXPECT_FALSE(level.given());
+    EXPECT_TRUE(*list && !*make);
+}
+
+TEST(TypedLayers, SettingsNameNeitherArgumentsNorActions) {
+    const TemporaryDirectory directory;
+    tarv::Program program("p");
+    program.positional<std::string>("file", "");
+    program.action("list", "");
+    program.settingsFile(directory.write("conf", "file=x\nlist\n").c_str());
+    EXPECT_EQ(parseLine(program, {}), wrong(directory.pathOf("conf") + ":1: unknown setting 'file'"));
+    program.settingsFile(directory.write("conf", "list\n").c_str());
+    EXPECT_EQ(parseLine(program, {}), wrong(directory.pathOf("conf") + ":1: unknown setting 'list'"));
+}
+
 TEST(TypedLayers, AbbreviationsAreToldOrRefusedOnRequest) {
     tarv::Program program("p");
     program.option<int>("max-count", "");

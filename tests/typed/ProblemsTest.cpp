@@ -135,7 +135,9 @@ TEST(TypedProblems, OfATextThatIsNoDefaultAreFound) {
     EXPECT_EQ(problemsOf([](tarv::Program& p) { p.option("x", "", std::string()); }), "");
     EXPECT_EQ(problemsOf([](tarv::Program& p) { p.option("x", "", std::string()).oneOf("a", "b"); }),
               "p: 'x': its default  must be one of a or b\n");
-    EXPECT_EQ(problemsOf([](tarv::Program& p) { p.option("x", "", Texts{"a", "c"}).oneOf("a", "b"); }),
+    EXPECT_EQ(problemsOf([](tarv::Program& p) {
+                  p.option("x", "", Texts{"a", "c"}).oneOf("a", "b");
+              }),
               "p: 'x': its default c must be one of a or b\n");
 }
 

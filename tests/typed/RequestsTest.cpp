@@ -41,6 +41,15 @@ TEST(TypedRequests, AShellIsAnsweredWithVerbsAndTheirDescriptions) {
               "0 tarv-complete 1 none\n\n\n\nlog\tShow the history.\nlist\tList it.\n");
 }
 
+TEST(TypedRequests, TheLastCompleterCounts) {
+    tarv::Program program("p");
+    const auto word = program.option<std::string>("word", "");
+    word.completeWith([](const char*, tarv::Candidates& candidates) { candidates.add("first"); });
+    word.completeWith([](const char*, tarv::Candidates& candidates) { candidates.add("second"); });
+    EXPECT_EQ(ask(program, "tarvoption=complete=zsh", {"p", "--word="}),
+              "0 tarv-complete 1 none\n\n\n--word=second\n--word=second\t\n");
+}
+
 TEST(TypedRequests, TheHostCompletesItsOwnValues) {
     tarv::Program program("vcs");
     std::string asked;

@@ -91,9 +91,9 @@ TEST(Numbers, ADurationOfRealNumbersIsFinite) {
         const char* text;
         DurationOutcome outcome;
         double count;
-    } rows[] = {{"1.5min", DurationOutcome::read, 90},     {"-1e3ms", DurationOutcome::read, -1},
-                {"3", DurationOutcome::noUnit, 3},         {"3x", DurationOutcome::notOne, 3},
-                {"xs", DurationOutcome::notOne, 0},        {"1e999s", DurationOutcome::tooLarge, 0},
+    } rows[] = {{"1.5min", DurationOutcome::read, 90},    {"-1e3ms", DurationOutcome::read, -1},
+                {"3", DurationOutcome::noUnit, 3},        {"3x", DurationOutcome::notOne, 3},
+                {"xs", DurationOutcome::notOne, 0},       {"1e999s", DurationOutcome::tooLarge, 0},
                 {"-1e999s", DurationOutcome::tooLarge, 0}};
     for (const auto& row : rows) {
         SCOPED_TRACE(row.text);
