@@ -4,7 +4,7 @@
 #include "help/paragraphString.h"
 #include "options/OptionDescription.h"
 #include "oracles.h"
-#include "recognition/DecomposedName.h"
+#include "recognition/singleSteps.h"
 #include "recognition/tokenSyntax.h"
 #include "tarv_3_3/internal/Garbage.h"
 

@@ -7,7 +7,6 @@
 #include "options/RegisteredOptionStorage.h"
 #include "options/findOption.h"
 #include "recognition/messages.h"
-#include "recognition/nameMatching.h"
 #include "tarv_3_3/EventHandler.h"
 
 namespace tarv_3_3 {
@@ -73,41 +72,6 @@ NameOutcome AbbreviationParser::look(const std::string& argument,
             "' is '", m_matcher.bestNameIn(argument), "'");
     }
     return outcome;
-}
-
-void AbbreviationParser::makeOptionNamesList(std::vector<OptionDescription>& options,
-                                             std::vector<DecomposedName>& names) {
-    for (const OptionDescription& option : options) {
-        forEachCandidate(option,
-                         [&](const NameCandidate& candidate) { names.emplace_back(candidate.text()); });
-    }
-}
-
-void AbbreviationParser::makeNameMatch(std::vector<NameMatch>& matches, const DecomposedName& typed,
-                                       const std::vector<DecomposedName>& candidates) {
-    const std::string typedName = typed.getName();
-    for (const DecomposedName& candidate : candidates) {
-        const std::string name = candidate.getName();
-        const NameScore found = scoreName(typedName, name);
-        if (found.score != 0) {
-            matches.push_back({found.sameWordCount, found.score, candidate});
-        }
-    }
-}
-
-int AbbreviationParser::findBest(const std::vector<NameMatch>& matches, DecomposedName& best,
-                                 std::string& err) {
-    m_matcher.forget();
-    for (const NameMatch& match : matches) {
-        if (m_matcher.isBest({match.m_sameWordCount, match.m_score})) {
-            m_matcher.keep(match.m_candidate.getName());
-        }
-    }
-    const NameOutcome outcome = tellOutcome(err);
-    if (outcome == NameOutcome::found) {
-        best = DecomposedName(m_matcher.bestNames().front());
-    }
-    return static_cast<int>(outcome);
 }
 
 NameOutcome AbbreviationParser::tellOutcome(std::string& err) const {

@@ -4,9 +4,9 @@
 #include <string_view>
 
 #include "recognition/ArgumentSpan.h"
-#include "recognition/DecomposedName.h"
 #include "recognition/IArgumentParser.h"
 #include "recognition/NameMatcher.h"
+#include "recognition/singleSteps.h"
 #include "recognition/valueSource.h"
 
 namespace tarv_3_3 {
@@ -15,21 +15,10 @@ class RegisteredOptionStorage;
 
 /// Recognizes named options, each word of a name abbreviated to any prefix.
 ///
-/// Every name and synonym of every option is a candidate of its own, and so is its "no-" form for a
-/// switch. Only a candidate of as many words as the typed name can win. A word typed in full scores
-/// 2, a proper prefix 1; the highest total wins, and equal totals are an ambiguity, also between two
-/// names of one option.
+/// What the candidates are and how they score: `nameMatching.h`. The highest score wins. Equal ones are an
+/// ambiguity, also between two names of one option.
 class TARV_API AbbreviationParser : public IArgumentParser {
 public:
-    /// A candidate that matched.
-    struct NameMatch {
-        /// Whether it has exactly as many words as the typed name.
-        bool m_sameWordCount;
-        /// Above 0 in every match that `makeNameMatch` appends.
-        std::int32_t m_score;
-        DecomposedName m_candidate;
-    };
-
     AbbreviationParser(EventHandler* handler, Garbage* garbage, unsigned int flags);
     TARV_HIDDEN AbbreviationParser(EventHandler* handler, Garbage* garbage, unsigned int flags,
                                    Binding& binding);
@@ -57,8 +46,16 @@ public:
     ///@}
 
     ///@{
-    /// The steps of matching, one by one, for tools and tests; a parse takes them all at once, see
-    /// `NameMatcher`.
+    /// The steps of matching one by one, for tools and tests; see `singleSteps.h`. No parse calls them.
+
+    /// A candidate that matched.
+    struct NameMatch {
+        /// Whether it has exactly as many words as the typed name.
+        bool m_sameWordCount;
+        /// Above 0 in every match that `makeNameMatch` appends.
+        std::int32_t m_score;
+        DecomposedName m_candidate;
+    };
 
     /// Appends every candidate name, in the order of the table.
     void makeOptionNamesList(std::vector<OptionDescription>& options, std::vector<DecomposedName>& names);

@@ -39,8 +39,7 @@ bool NameMatcher::findWholeName(std::string_view typed, RegisteredOptionStorage&
     return m_isWhole;
 }
 
-// What makeOptionNamesList, makeNameMatch and findBest do one after the other, in one pass over the
-// table.
+// Keeps the candidates of the highest score, in one pass over the table.
 void NameMatcher::keepBest(std::string_view typed, const std::vector<OptionDescription>& options) {
     const Names::Pattern pattern = patternOf(typed);
     for (const OptionDescription& option : options) {

@@ -47,10 +47,6 @@ unsigned long unicodeDashLength(std::string_view text) {
     return 0;
 }
 
-unsigned long getDashLength(const std::string& text, unsigned long pos) {
-    return pos < text.size() ? dashLength(std::string_view(text).substr(pos)) : 0;
-}
-
 Token splitToken(std::string_view arg, const SpaceClassifier& classifier) {
     const std::size_t firstDash = dashLength(arg);
     const std::size_t start = firstDash + dashLength(arg.substr(firstDash));
@@ -67,15 +63,6 @@ Token splitToken(std::string_view arg, const SpaceClassifier& classifier) {
         }
     }
     return {start, end, valueStart, end < arg.size()};
-}
-
-bool splitOptionValue(const std::string& arg, std::string* name, std::string* value) {
-    const Token token = splitToken(arg, SpaceClassifier());
-    name->assign(token.nameIn(arg));
-    if (token.hasValue) {
-        value->assign(token.valueIn(arg));
-    }
-    return token.hasValue;
 }
 
 } // namespace tarv_3_3

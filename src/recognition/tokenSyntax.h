@@ -1,24 +1,18 @@
 #pragma once
 
 #include <cstddef>
-#include <string>
 #include <string_view>
-
-#include "tarv_3_3/export.h"
 
 namespace tarv_3_3 {
 
 class SpaceClassifier;
 
-/// The length in bytes of the dash that begins at byte `pos` of `text`: 1 for '-', 3 for the figure
-/// dash, the en dash, the em dash, the horizontal bar and the swung dash, 0 when there is none.
-TARV_API unsigned long getDashLength(const std::string& text, unsigned long pos);
-
-/// The same at the beginning of a text that does not begin in ASCII.
+/// `dashLength` of a text that does not begin in ASCII.
 unsigned long unicodeDashLength(std::string_view text);
 
-/// The same at the beginning of any text. Nearly every argument begins in ASCII, of which one character
-/// is a dash.
+/// The length in bytes of the dash that begins a text: 1 for '-', 3 for the figure dash, the en dash, the em
+/// dash, the horizontal bar and the swung dash, 0 when there is none. Nearly every argument begins in ASCII,
+/// of which one character is a dash.
 inline unsigned long dashLength(std::string_view text) {
     if (text.empty()) {
         return 0;
@@ -52,9 +46,5 @@ struct Token {
 /// '=' or white space behind them, whichever comes first, ends the name. Behind '=' everything is
 /// value; white space before the value is skipped whole. White space is what the global locale says.
 Token splitToken(std::string_view arg, const SpaceClassifier& classifier);
-
-/// The same into strings, asking the global locale itself. Returns whether there is a value; if not, `value`
-/// is left alone.
-TARV_API bool splitOptionValue(const std::string& arg, std::string* name, std::string* value);
 
 } // namespace tarv_3_3

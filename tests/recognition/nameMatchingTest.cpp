@@ -2,8 +2,9 @@
 
 #include <gtest/gtest.h>
 
-#include <random>
 #include <string>
+
+#include "recognition/RandomNames.h"
 
 namespace tarv_3_3 {
 namespace {
@@ -102,26 +103,6 @@ TEST(Candidates, AreTheNamesInOrderAndForASwitchEachNegatedBehindIt) {
     EXPECT_EQ(candidatesOf(vtString), "color c no-grey ");
     EXPECT_EQ(candidatesOf(vtBool), "color no-color c no-c no-grey no-no-grey ");
 }
-
-/// Names and abbreviations of few letters, so that many fit each other.
-class RandomNames {
-public:
-    std::string next() {
-        static const char* const words[] = {"", "n", "no", "non", "a", "ab", "\xFF", "\xFF\x80"};
-        std::string name = words[pick(8)];
-        for (unsigned left = pick(4); left > 0; --left) {
-            name.append("-").append(words[pick(8)]);
-        }
-        return name;
-    }
-
-    bool nextBool() { return pick(2) == 0; }
-
-private:
-    unsigned pick(unsigned below) { return static_cast<unsigned>(m_engine()) % below; }
-
-    std::mt19937 m_engine{7};
-};
 
 TEST(PatternOf, ExcludesNoRecordThatHasACandidateForTheTypedName) {
     RandomNames names;

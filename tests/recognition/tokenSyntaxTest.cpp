@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "recognition/singleSteps.h"
 #include "support/GlobalLocale.h"
 
 namespace tarv_3_3 {
