@@ -45,7 +45,7 @@ unsigned long placeOfSwitch(std::string_view name, const std::vector<OptionDescr
 
 int findOption(const std::string& name, unsigned long& index, const std::vector<OptionDescription>& options) {
     unsigned long place = placeOfName(name, options);
-    if (name.compare(0, negation.size(), negation) == 0) {
+    if (beginsWithNegation(name)) {
         place = std::min(place, placeOfSwitch(std::string_view(name).substr(negation.size()), options));
     }
     if (place == options.size()) {

@@ -1,7 +1,6 @@
 #include "recognition/AbbreviationParser.h"
 
 #include <string_view>
-#include <utility>
 
 #include "options/OptionDescription.h"
 #include "options/RegisteredOptionStorage.h"
@@ -171,12 +170,6 @@ int AbbreviationParser::refuseValue(ValueSource source, const OptionDescription&
 
 std::string AbbreviationParser::inArgument(std::string argument) {
     return formatTokenMessage(argument);
-}
-
-int AbbreviationParser::fail(std::string& err, std::string message) const {
-    err = std::move(message);
-    log(": ", err);
-    return parseFailed;
 }
 
 } // namespace tarv_3_3

@@ -75,7 +75,6 @@ private:
                                  RegisteredOptionStorage* registry, std::string& err);
     TARV_HIDDEN NameOutcome tellOutcome(std::string& err) const;
     TARV_HIDDEN std::string inArgument(std::string argument);
-    TARV_HIDDEN int fail(std::string& err, std::string message) const;
     TARV_HIDDEN int findValue(const OptionDescription& option, ArgumentSpan left, std::string_view& value,
                               std::size_t& used, std::string& err);
     TARV_HIDDEN int refuseValue(ValueSource source, const OptionDescription& option, ArgumentSpan left,

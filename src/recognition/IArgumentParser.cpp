@@ -1,6 +1,7 @@
 #include "recognition/IArgumentParser.h"
 
 #include <algorithm>
+#include <utility>
 #if __has_include(<sys/single_threaded.h>)
 #include <sys/single_threaded.h>
 #endif
@@ -127,9 +128,7 @@ int IArgumentParser::bindList(std::string_view value, const OptionDescription& o
     log(": using tokenizer on char: '", separator, "'");
     std::size_t start = value.find_first_not_of(separator);
     if (start == std::string_view::npos) {
-        err = messages::noValueParsed(std::string(value), option.primaryName());
-        log(": ", err);
-        return parseFailed;
+        return fail(err, messages::noValueParsed(std::string(value), option.primaryName()));
     }
     while (start != std::string_view::npos) {
         const std::size_t end = std::min(value.find(separator, start), value.size());
@@ -158,9 +157,7 @@ int IArgumentParser::bindText(const char* text, const OptionDescription& option,
     } else {
         bound.text = text;
         if (!option.validate(bound.text, bound.value, err)) {
-            err = messages::invalidValue(argument, err);
-            log(": ", err);
-            return parseFailed;
+            return fail(err, messages::invalidValue(argument, err));
         }
     }
     bound.position = getNewPositionIndex();
@@ -173,6 +170,12 @@ bool IArgumentParser::isAccepted(const OptionValue& bound, const OptionDescripti
     }
     const Value shown(textOf(bound), bound.value, bound.position);
     return m_handler->onValueParse(option.primaryName().c_str(), shown);
+}
+
+int IArgumentParser::fail(std::string& err, std::string message) const {
+    err = std::move(message);
+    log(": ", err);
+    return parseFailed;
 }
 
 int IArgumentParser::failVetoed(const std::string& value, const OptionDescription& option,

@@ -78,6 +78,9 @@ protected:
     TARV_HIDDEN const OptionDescription& recordToBind(const std::vector<OptionDescription>& options,
                                                       std::size_t index);
 
+    /// Returns `parseFailed` with `message` in `err`, and traces it.
+    TARV_HIDDEN int fail(std::string& err, std::string message) const;
+
     /// Traces one line: the recognizer's name, then the parts.
     template <class... Parts>
     void log(const Parts&... parts) const {
