@@ -138,12 +138,12 @@ struct Description {
     unsigned asksHandlers;
 };
 
-/// The declaration at a place below `declarationCount`, also where the library knows more fields than
+/// The declaration at an index below `declarationCount`, also where the library knows more fields than
 /// the host was built with.
-inline const Declaration& declarationAt(const Description& description, unsigned place) {
+inline const Declaration& declarationAt(const Description& description, unsigned index) {
     const char* const first = reinterpret_cast<const char*>(description.declarations);
     return *reinterpret_cast<const Declaration*>(first +
-                                                 static_cast<unsigned long>(place) * description.stride);
+                                                 static_cast<unsigned long>(index) * description.stride);
 }
 
 /// Describes what `parser` has been told so far. The description is a copy: it is not touched by what

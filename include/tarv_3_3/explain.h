@@ -96,11 +96,11 @@ struct Explanation {
     const ExplainedArgument* arguments;
 };
 
-/// The argument at a place below `argumentCount`, also where the library knows more fields than the host was
+/// The argument at an index below `argumentCount`, also where the library knows more fields than the host was
 /// built with.
-inline const ExplainedArgument& explainedAt(const Explanation& explanation, unsigned place) {
+inline const ExplainedArgument& explainedAt(const Explanation& explanation, unsigned index) {
     const char* const first = reinterpret_cast<const char*>(explanation.arguments);
-    return *reinterpret_cast<const ExplainedArgument*>(first + static_cast<unsigned long>(place) *
+    return *reinterpret_cast<const ExplainedArgument*>(first + static_cast<unsigned long>(index) *
                                                                    explanation.stride);
 }
 

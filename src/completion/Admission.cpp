@@ -13,12 +13,12 @@ Admission::Admission(const BasicParser& parser)
       m_maySwitchOff(m_options.size(), true), m_isExcluded(m_options.size(), false) {}
 
 void Admission::note(const ReadArgument& argument) {
-    if (argument.place == ReadArgument::nowhere || argument.role == ArgumentRole::value) {
+    if (argument.index == ReadArgument::nowhere || argument.role == ArgumentRole::value) {
         return;
     }
-    m_states[argument.place] = argument.isNegated ? State::off : State::given;
-    if (m_action == ReadArgument::nowhere && m_options[argument.place].m_kind == Action) {
-        m_action = argument.place;
+    m_states[argument.index] = argument.isNegated ? State::off : State::given;
+    if (m_action == ReadArgument::nowhere && m_options[argument.index].m_kind == Action) {
+        m_action = argument.index;
     }
 }
 
@@ -33,26 +33,26 @@ void Admission::settle() {
 // of all these.
 void Admission::admitByActions() {
     std::set<std::set<std::string>> givenTags;
-    for (std::size_t place = 0; place < m_options.size(); ++place) {
-        if (isGiven(place) && m_options[place].m_kind != Action && !m_options[place].m_tags.empty()) {
-            givenTags.insert(m_options[place].m_tags);
+    for (std::size_t index = 0; index < m_options.size(); ++index) {
+        if (isGiven(index) && m_options[index].m_kind != Action && !m_options[index].m_tags.empty()) {
+            givenTags.insert(m_options[index].m_tags);
         }
     }
     std::set<std::string> possibleTags;
-    for (std::size_t place = 0; place < m_options.size(); ++place) {
-        const OptionDescription& option = m_options[place];
+    for (std::size_t index = 0; index < m_options.size(); ++index) {
+        const OptionDescription& option = m_options[index];
         if (option.m_kind == Action) {
-            m_maySwitchOff[place] =
-                m_action == ReadArgument::nowhere ? goesWithAllGiven(option, givenTags) : place == m_action;
-            if (m_maySwitchOff[place]) {
+            m_maySwitchOff[index] =
+                m_action == ReadArgument::nowhere ? goesWithAllGiven(option, givenTags) : index == m_action;
+            if (m_maySwitchOff[index]) {
                 possibleTags.insert(option.m_tags.begin(), option.m_tags.end());
             }
         }
     }
-    for (std::size_t place = 0; place < m_options.size(); ++place) {
-        const OptionDescription& option = m_options[place];
+    for (std::size_t index = 0; index < m_options.size(); ++index) {
+        const OptionDescription& option = m_options[index];
         if (option.m_kind != Action && !option.m_tags.empty()) {
-            m_maySwitchOff[place] = m_parser.isIntersected(possibleTags, option.m_tags);
+            m_maySwitchOff[index] = m_parser.isIntersected(possibleTags, option.m_tags);
         }
     }
 }
@@ -70,12 +70,12 @@ void Admission::excludeByRules() {
         return;
     }
     for (const Remarks::Rule& rule : m_parser.remarks()->rules) {
-        const auto isOn = [&](std::size_t place) { return m_states[place] == State::given; };
-        const auto first = std::find_if(rule.places.begin(), rule.places.end(), isOn);
+        const auto isOn = [&](std::size_t index) { return m_states[index] == State::given; };
+        const auto first = std::find_if(rule.indexes.begin(), rule.indexes.end(), isOn);
         const bool isForOne = rule.kind == ruleAtMostOne || rule.kind == ruleExactlyOne;
-        if (isForOne && first != rule.places.end()) {
-            for (const std::size_t place : rule.places) {
-                m_isExcluded[place] = m_isExcluded[place] || place != *first;
+        if (isForOne && first != rule.indexes.end()) {
+            for (const std::size_t index : rule.indexes) {
+                m_isExcluded[index] = m_isExcluded[index] || index != *first;
             }
         }
     }

@@ -21,9 +21,9 @@ public:
 
     /// What may follow is asked when all arguments are noted.
     void settle();
-    bool isGiven(std::size_t place) const { return m_states[place] != State::notGiven; }
-    bool maySwitchOff(std::size_t place) const { return m_maySwitchOff[place]; }
-    bool mayStand(std::size_t place) const { return m_maySwitchOff[place] && !m_isExcluded[place]; }
+    bool isGiven(std::size_t index) const { return m_states[index] != State::notGiven; }
+    bool maySwitchOff(std::size_t index) const { return m_maySwitchOff[index]; }
+    bool mayStand(std::size_t index) const { return m_maySwitchOff[index] && !m_isExcluded[index]; }
 
 private:
     enum class State : char { notGiven, given, off };

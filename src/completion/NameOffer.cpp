@@ -31,8 +31,8 @@ void NameOffer::addTo(KeptCompletion& kept) {
     if (!m_typed.empty() && !isOptionName(m_typed)) {
         return;
     }
-    for (std::size_t place = 0; place < m_options.size(); ++place) {
-        offer(place, kept);
+    for (std::size_t index = 0; index < m_options.size(); ++index) {
+        offer(index, kept);
     }
     if (kept.candidateCount == 1) {
         kept.setCommon(kept.candidates[0].text);
@@ -41,21 +41,21 @@ void NameOffer::addTo(KeptCompletion& kept) {
     }
 }
 
-void NameOffer::offer(std::size_t place, KeptCompletion& kept) {
-    if (m_typed.empty() && !mayBegin(place)) {
+void NameOffer::offer(std::size_t index, KeptCompletion& kept) {
+    if (m_typed.empty() && !mayBegin(index)) {
         return;
     }
-    if (m_admission.mayStand(place)) {
-        offerOneOf(place, false, kept);
+    if (m_admission.mayStand(index)) {
+        offerOneOf(index, false, kept);
     }
-    if (m_options[place].m_type == vtBool && m_admission.maySwitchOff(place) && isNegationTyped()) {
-        offerOneOf(place, true, kept);
+    if (m_options[index].m_type == vtBool && m_admission.maySwitchOff(index) && isNegationTyped()) {
+        offerOneOf(index, true, kept);
     }
 }
 
 // What is not offered before its name is begun.
-bool NameOffer::mayBegin(std::size_t place) const {
-    return internal::maySuggest(m_options[place]) && !m_admission.isGiven(place);
+bool NameOffer::mayBegin(std::size_t index) const {
+    return internal::maySuggest(m_options[index]) && !m_admission.isGiven(index);
 }
 
 // "n" alone begins many names, and no parse takes it for the "no" of one of two words.
@@ -64,11 +64,11 @@ bool NameOffer::isNegationTyped() const {
 }
 
 // The primary name, or the first synonym that fits.
-void NameOffer::offerOneOf(std::size_t place, bool isNegated, KeptCompletion& kept) {
-    const OptionDescription& option = m_options[place];
+void NameOffer::offerOneOf(std::size_t index, bool isNegated, KeptCompletion& kept) {
+    const OptionDescription& option = m_options[index];
     for (const std::string& name : option.m_names) {
         std::string whole = NameCandidate{name, isNegated}.text();
-        if (scoreName(m_typed, whole).score != 0 && isGivenBy(whole, place)) {
+        if (scoreName(m_typed, whole).score != 0 && isGivenBy(whole, index)) {
             kept.add(m_dashes + whole + (takesValue(option) ? "=" : ""), std::string(option.m_description));
             m_names.push_back(std::move(whole));
             return;
@@ -77,9 +77,9 @@ void NameOffer::offerOneOf(std::size_t place, bool isNegated, KeptCompletion& ke
 }
 
 // Another declaration may have the name as well, and some names cannot be typed.
-bool NameOffer::isGivenBy(const std::string& name, std::size_t place) {
+bool NameOffer::isGivenBy(const std::string& name, std::size_t index) {
     const ReadArgument read = m_reader.look(m_dashes + name, nullptr);
-    return read.role == ArgumentRole::named && read.place == place && read.name == name &&
+    return read.role == ArgumentRole::named && read.index == index && read.name == name &&
            !read.isAbbreviated;
 }
 

@@ -21,10 +21,10 @@ public:
     void addTo(KeptCompletion& kept);
 
 private:
-    void offer(std::size_t place, KeptCompletion& kept);
-    void offerOneOf(std::size_t place, bool isNegated, KeptCompletion& kept);
-    bool isGivenBy(const std::string& name, std::size_t place);
-    bool mayBegin(std::size_t place) const;
+    void offer(std::size_t index, KeptCompletion& kept);
+    void offerOneOf(std::size_t index, bool isNegated, KeptCompletion& kept);
+    bool isGivenBy(const std::string& name, std::size_t index);
+    bool mayBegin(std::size_t index) const;
     bool isNegationTyped() const;
 
     const std::vector<OptionDescription>& m_options;

@@ -13,10 +13,10 @@
 
 namespace tarv_3_3 {
 
-ValueOffer::ValueOffer(const BasicParser& parser, Reader& reader, std::size_t place, const std::string& word,
+ValueOffer::ValueOffer(const BasicParser& parser, Reader& reader, std::size_t index, const std::string& word,
                        std::size_t offset)
-    : m_parser(parser), m_reader(reader), m_place(place), m_offset(offset),
-      m_option(parser.registry().m_options[place]), m_before(word.substr(0, offset)),
+    : m_parser(parser), m_reader(reader), m_index(index), m_offset(offset),
+      m_option(parser.registry().m_options[index]), m_before(word.substr(0, offset)),
       m_piece(word.substr(offset)) {
     m_option.m_garbage = &m_garbage;
     const char separator = m_option.m_tokenizer;
@@ -109,7 +109,7 @@ bool ValueOffer::isValue(std::string& text) const {
 
 bool ValueOffer::hasPlace(const std::string& whole) {
     const ReadArgument read = m_reader.look(whole, nullptr);
-    if (read.place != m_place) {
+    if (read.index != m_index) {
         return false;
     }
     if (read.role == ArgumentRole::value) {
@@ -125,8 +125,8 @@ int ValueOffer::filesToAdd() const {
         return completeNoFiles;
     }
     const Remarks* const remarks = m_parser.remarks();
-    if (remarks != nullptr && m_place < remarks->notes.size()) {
-        for (const auto& [key, value] : remarks->notes[m_place]) {
+    if (remarks != nullptr && m_index < remarks->notes.size()) {
+        for (const auto& [key, value] : remarks->notes[m_index]) {
             if (key == "complete") {
                 return value == "file"        ? completeFiles
                        : value == "directory" ? completeDirectories

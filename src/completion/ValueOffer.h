@@ -23,7 +23,7 @@ struct HostValues {
 /// Offers the values of one option, the beginning of which is typed in a word from `offset` on.
 class ValueOffer final : private CandidateSink {
 public:
-    ValueOffer(const BasicParser& parser, Reader& reader, std::size_t place, const std::string& word,
+    ValueOffer(const BasicParser& parser, Reader& reader, std::size_t index, const std::string& word,
                std::size_t offset);
 
     void addTo(KeptCompletion& kept, const HostValues& host);
@@ -40,7 +40,7 @@ private:
 
     const BasicParser& m_parser;
     Reader& m_reader;
-    const std::size_t m_place;
+    const std::size_t m_index;
     const std::size_t m_offset;
     /// What keeps the texts that are made while values are tried, instead of the parser.
     Garbage m_garbage;

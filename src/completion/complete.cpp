@@ -51,8 +51,8 @@ private:
         }
         if (canBeNamed && dashLength(m_word) != 0) {
             offerNamed(read);
-        } else if (read.place != ReadArgument::nowhere) {
-            offerValues(read.place, 0);
+        } else if (read.index != ReadArgument::nowhere) {
+            offerValues(read.index, 0);
         } else if (isBehindMarker) {
             m_kept->addFiles(completeFiles, 0);
         }
@@ -72,16 +72,16 @@ private:
         if (!read.token.hasValue) {
             NameOffer(m_parser, m_reader, m_admission, m_word, read).addTo(*m_kept);
         } else if (read.role == ArgumentRole::named) {
-            const das_variant_type_t kind = m_parser.registry().m_options[read.place].m_type;
+            const das_variant_type_t kind = m_parser.registry().m_options[read.index].m_type;
             if (kind != vtNull && kind != vtBool) {
-                offerValues(read.place, read.token.valueStart);
+                offerValues(read.index, read.token.valueStart);
             }
         }
     }
 
-    void offerValues(std::size_t place, std::size_t offset) {
-        if (m_admission.mayStand(place)) {
-            ValueOffer(m_parser, m_reader, place, m_word, offset).addTo(*m_kept, m_host);
+    void offerValues(std::size_t index, std::size_t offset) {
+        if (m_admission.mayStand(index)) {
+            ValueOffer(m_parser, m_reader, index, m_word, offset).addTo(*m_kept, m_host);
         }
     }
 

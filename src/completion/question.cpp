@@ -9,8 +9,8 @@ namespace tarv_3_3 {
 
 namespace {
 
-constexpr std::size_t mostBytes = std::size_t{1} << 24U;
-constexpr std::size_t mostWords = 1000000;
+constexpr std::size_t maxBytes = std::size_t{1} << 24U;
+constexpr std::size_t maxWords = 1000000;
 
 /// What was sent, each word ended by a zero byte. Empty when it is not whole or too long.
 std::vector<std::string_view> cutIntoWords(std::string_view text) {
@@ -19,7 +19,7 @@ std::vector<std::string_view> cutIntoWords(std::string_view text) {
         return words;
     }
     while (!text.empty()) {
-        if (words.size() == mostWords) {
+        if (words.size() == maxWords) {
             return {};
         }
         const std::size_t end = text.find('\0');
@@ -33,7 +33,7 @@ std::vector<std::string_view> cutIntoWords(std::string_view text) {
 std::string readUpToTheLimit(std::FILE* input) {
     std::string text;
     char block[16384];
-    while (text.size() <= mostBytes) {
+    while (text.size() <= maxBytes) {
         const std::size_t count = std::fread(block, 1, sizeof block, input);
         if (count == 0) {
             break;
@@ -66,7 +66,7 @@ std::optional<Question> makeBashQuestion(const std::vector<std::string_view>& se
 
 std::optional<Question> readQuestion(std::FILE* input, Shell shell) {
     const std::string text = readUpToTheLimit(input);
-    if (text.size() > mostBytes) {
+    if (text.size() > maxBytes) {
         return std::nullopt;
     }
     const std::vector<std::string_view> sent = cutIntoWords(text);

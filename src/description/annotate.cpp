@@ -42,15 +42,15 @@ void note(Remarks::Notes& notes, const char* key, const char* value) {
 
 int annotateOwn(BasicParser& parser, const char* name, const char* key, const char* value) {
     const std::vector<OptionDescription>& options = parser.registry().m_options;
-    const std::size_t place = internal::placeOfExactName(name, options);
-    if (place == options.size() || !isAcceptable(key, value)) {
+    const std::size_t index = internal::indexOfExactName(name, options);
+    if (index == options.size() || !isAcceptable(key, value)) {
         return remarkRefused;
     }
     std::vector<Remarks::Notes>& all = parser.ownRemarks().notes;
-    if (all.size() <= place) {
-        all.resize(place + 1);
+    if (all.size() <= index) {
+        all.resize(index + 1);
     }
-    note(all[place], key, value);
+    note(all[index], key, value);
     return remarkStored;
 }
 

@@ -20,7 +20,7 @@ bool maySuggest(const OptionDescription& option) {
     return !isHidden(option) && !option.m_positional;
 }
 
-std::size_t placeOfExactName(const std::string& name, const std::vector<OptionDescription>& options) {
+std::size_t indexOfExactName(const std::string& name, const std::vector<OptionDescription>& options) {
     const auto found = std::find_if(options.begin(), options.end(), [&](const OptionDescription& option) {
         return std::find(option.m_names.begin(), option.m_names.end(), name) != option.m_names.end();
     });

@@ -80,13 +80,13 @@ void addNotes(KeptDescription& kept, Declaration& record, const Remarks::Notes& 
 
 void addRemarks(KeptDescription& kept, const Remarks& remarks,
                 const std::vector<OptionDescription>& options) {
-    for (std::size_t place = 0; place < remarks.notes.size(); ++place) {
-        addNotes(kept, kept.declarationList[place], remarks.notes[place]);
+    for (std::size_t index = 0; index < remarks.notes.size(); ++index) {
+        addNotes(kept, kept.declarationList[index], remarks.notes[index]);
     }
     for (const Remarks::Rule& rule : remarks.rules) {
         Rule record = {rule.kind, nullptr, 0};
-        record.names = kept.keepList(rule.places, record.nameCount,
-                                     [&](std::size_t place) { return options[place].primaryName(); });
+        record.names = kept.keepList(rule.indexes, record.nameCount,
+                                     [&](std::size_t index) { return options[index].primaryName(); });
         kept.ruleList.push_back(record);
     }
 }
@@ -94,9 +94,9 @@ void addRemarks(KeptDescription& kept, const Remarks& remarks,
 std::unique_ptr<KeptDescription> describeAll(const BasicParser& parser) {
     auto kept = std::make_unique<KeptDescription>();
     const std::vector<OptionDescription>& options = parser.registry().m_options;
-    const std::size_t filled = positionalPlace(options);
-    for (std::size_t place = 0; place < options.size(); ++place) {
-        kept->declarationList.push_back(describeOne(*kept, options[place], place == filled));
+    const std::size_t filled = positionalIndex(options);
+    for (std::size_t index = 0; index < options.size(); ++index) {
+        kept->declarationList.push_back(describeOne(*kept, options[index], index == filled));
     }
     if (parser.remarks() != nullptr) {
         addRemarks(*kept, *parser.remarks(), options);

@@ -77,12 +77,12 @@ void writeDeclaration(JsonWriter& json, const OptionDescription& option, bool is
 
 void writeDeclarations(JsonWriter& json, const std::vector<OptionDescription>& options,
                        const Remarks& remarks) {
-    const std::size_t filled = positionalPlace(options);
+    const std::size_t filled = positionalIndex(options);
     json.open('[', "declarations");
-    for (std::size_t place = 0; place < options.size(); ++place) {
-        const bool hasNotes = place < remarks.notes.size();
-        writeDeclaration(json, options[place], place == filled,
-                         hasNotes ? remarks.notes[place] : Remarks::Notes());
+    for (std::size_t index = 0; index < options.size(); ++index) {
+        const bool hasNotes = index < remarks.notes.size();
+        writeDeclaration(json, options[index], index == filled,
+                         hasNotes ? remarks.notes[index] : Remarks::Notes());
     }
     json.close(']');
 }
@@ -94,8 +94,8 @@ void writeRules(JsonWriter& json, const std::vector<Remarks::Rule>& rules,
         json.breakLine();
         json.open('{');
         json.member("kind", internal::ruleName(rule.kind));
-        writeList(json, "names", rule.places,
-                  [&](std::size_t place) { return options[place].primaryName(); });
+        writeList(json, "names", rule.indexes,
+                  [&](std::size_t index) { return options[index].primaryName(); });
         json.close('}');
     }
     json.close(']');

@@ -8,8 +8,8 @@ namespace tarv_3_3::internal {
 namespace {
 
 const OptionDescription* optionOfLetter(char letter, const std::vector<OptionDescription>& options) {
-    const std::size_t place = placeOfExactName(std::string(1, letter), options);
-    return place < options.size() && maySuggest(options[place]) ? &options[place] : nullptr;
+    const std::size_t index = indexOfExactName(std::string(1, letter), options);
+    return index < options.size() && maySuggest(options[index]) ? &options[index] : nullptr;
 }
 
 bool takesValue(const OptionDescription& option) {

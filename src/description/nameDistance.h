@@ -21,7 +21,7 @@ struct NameDistance {
 
 /// The least distance between two names, read as whole texts or word by word. Each word of `typed` may be
 /// cut short, and words of `name` may be left out if all that are typed fit without an edit. Distances
-/// of more than `mostEdits` edits are not told apart: some larger number of edits.
+/// of more than `maxEdits` edits are not told apart: some larger number of edits.
 NameDistance nameDistance(std::string_view typed, std::string_view name);
 
 } // namespace tarv_3_3::internal

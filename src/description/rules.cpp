@@ -120,8 +120,8 @@ int checkOwnRules(BasicParser& parser, const ParseResult& result) {
     }
     for (const Remarks::Rule& rule : parser.remarks()->rules) {
         Options options;
-        for (const std::size_t place : rule.places) {
-            options.push_back(&parser.registry().m_options[place]);
+        for (const std::size_t index : rule.indexes) {
+            options.push_back(&parser.registry().m_options[index]);
         }
         const std::string message = checkRule(rule.kind, options, result);
         if (!message.empty()) {
@@ -138,14 +138,15 @@ int addOwnRule(BasicParser& parser, int kind, const char* names) {
     split(names, words);
     Remarks::Rule rule = {kind, {}};
     for (const std::string& word : words) {
-        const std::size_t place = internal::placeOfExactName(word, options);
-        const bool isRepeated = std::find(rule.places.begin(), rule.places.end(), place) != rule.places.end();
-        if (place == options.size() || isRepeated) {
+        const std::size_t index = internal::indexOfExactName(word, options);
+        const bool isRepeated =
+            std::find(rule.indexes.begin(), rule.indexes.end(), index) != rule.indexes.end();
+        if (index == options.size() || isRepeated) {
             return remarkRefused;
         }
-        rule.places.push_back(place);
+        rule.indexes.push_back(index);
     }
-    if (rule.places.size() < (kind == ruleRequired ? 1U : 2U)) {
+    if (rule.indexes.size() < (kind == ruleRequired ? 1U : 2U)) {
         return remarkRefused;
     }
     parser.ownRemarks().rules.push_back(std::move(rule));

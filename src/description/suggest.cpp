@@ -21,7 +21,7 @@ namespace {
 using internal::NameDistance;
 
 /// Where more are equally near, none is any help.
-constexpr std::size_t mostShown = 3;
+constexpr std::size_t maxShown = 3;
 /// Nobody mistypes a longer name, and the cost of comparing grows with the square of the length.
 constexpr std::size_t longestName = 100;
 /// So few letters behind one dash are more likely joined than a name.
@@ -33,12 +33,12 @@ struct Candidate {
 };
 
 // One edit in two letters would leave too little to go by.
-std::size_t mostEdits(std::string_view typed) {
+std::size_t maxEdits(std::string_view typed) {
     return typed.size() / 3;
 }
 
 void keepNearer(Candidate& best, std::string_view typed, const std::string& name) {
-    if (name.size() > longestName || typed.size() > name.size() + mostEdits(typed)) {
+    if (name.size() > longestName || typed.size() > name.size() + maxEdits(typed)) {
         return;
     }
     const NameDistance distance = internal::nameDistance(typed, name);
@@ -62,7 +62,7 @@ Candidate nearestName(std::string_view typed, const OptionDescription& option) {
 // with the fewest letters cut come first. Only the one that needs no edit, if there is such a name at all.
 std::vector<Candidate> nearestNames(std::string_view typed, const std::vector<OptionDescription>& options) {
     std::vector<Candidate> found;
-    std::size_t fewest = mostEdits(typed);
+    std::size_t fewest = maxEdits(typed);
     for (const OptionDescription& option : options) {
         Candidate candidate = nearestName(typed, option);
         if (candidate.distance.edits == 0) {
@@ -97,7 +97,7 @@ std::vector<std::string> suggestions(std::string_view argument,
     const bool mayBeLetters = token.nameStart == dashLength(argument) && argument.size() <= longestName;
     const std::string letters = mayBeLetters ? internal::separatedLetters(argument, token, options) : "";
     std::vector<std::string> shown;
-    if (nearest.size() <= mostShown && (letters.empty() || typed.size() > fewLetters)) {
+    if (nearest.size() <= maxShown && (letters.empty() || typed.size() > fewLetters)) {
         for (const Candidate& candidate : nearest) {
             shown.push_back("--" + candidate.name);
         }

@@ -4,8 +4,8 @@ namespace tarv_3_3::internal {
 
 namespace {
 
-unsigned char byteAt(std::string_view text, std::size_t place) {
-    return place < text.size() ? static_cast<unsigned char>(text[place]) : 0;
+unsigned char byteAt(std::string_view text, std::size_t index) {
+    return index < text.size() ? static_cast<unsigned char>(text[index]) : 0;
 }
 
 bool isWithin(unsigned char byte, unsigned char least, unsigned char most) {
@@ -49,8 +49,8 @@ std::size_t utf8Length(std::string_view text) {
     if (lead.length == 0 || !isWithin(byteAt(text, 1), lead.least, lead.most)) {
         return 0;
     }
-    for (std::size_t place = 2; place < lead.length; ++place) {
-        if (!isWithin(byteAt(text, place), 0x80, 0xBF)) {
+    for (std::size_t index = 2; index < lead.length; ++index) {
+        if (!isWithin(byteAt(text, index), 0x80, 0xBF)) {
             return 0;
         }
     }

@@ -17,7 +17,7 @@ constexpr unsigned long descriptionColumn = 30;
 constexpr unsigned long descriptionWidth = 50;
 constexpr unsigned long titleColumn = 1;
 constexpr unsigned long titleWidth = 80;
-constexpr std::size_t usualEntrySize = 128;
+constexpr std::size_t typicalEntrySize = 128;
 
 // Hidden help shows the hidden topic and nothing else.
 bool isShown(const std::string& topicName, bool hidden) {
@@ -36,7 +36,7 @@ TopicNames sortedNames(const std::vector<Topic>& topics) {
     return names;
 }
 
-// The place of a topic among the sorted names; their number when it is none of them.
+// The index of a topic among the sorted names; their number when it is none of them.
 std::size_t rankOf(std::string_view topic, const TopicNames& names) {
     const auto found = std::lower_bound(names.begin(), names.end(), topic, NameOrder());
     return found != names.end() && *found == topic ? static_cast<std::size_t>(found - names.begin())
@@ -103,7 +103,7 @@ std::string renderHelp(const std::vector<Topic>& topics, const std::vector<Optio
     const TopicNames names = sortedNames(topics);
     const std::vector<Listed> sorted = sortedByTopicAndName(options, names);
     std::string text;
-    text.reserve(usualEntrySize * options.size());
+    text.reserve(typicalEntrySize * options.size());
     for (const Topic& topic : topics) {
         if (!isShown(topic.first, hidden)) {
             continue;

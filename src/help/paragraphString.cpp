@@ -7,7 +7,7 @@ namespace tarv_3_3 {
 
 namespace {
 
-constexpr std::size_t usualLines = 2;
+constexpr std::size_t typicalLines = 2;
 
 std::string_view withoutLeadingBreaks(std::string_view text) {
     return text.substr(std::min(text.find_first_not_of(" \n"), text.size()));
@@ -57,7 +57,7 @@ std::string paragraphString(std::string text, std::string lead, unsigned long in
     if (text.empty()) {
         return output;
     }
-    output.reserve(lead.size() + text.size() + usualLines * (indent + 1));
+    output.reserve(lead.size() + text.size() + typicalLines * (indent + 1));
     std::string line = std::move(lead);
     std::string_view rest = text;
     while (!rest.empty()) {

@@ -6,7 +6,7 @@ namespace tarv_3_3 {
 
 namespace {
 
-constexpr std::size_t usualLength = 60;
+constexpr std::size_t typicalLength = 60;
 
 // A kind without a text form shows as nothing.
 std::string textOf(const OptionDescription& option, const variant_t& value) {
@@ -48,7 +48,7 @@ void appendDefault(std::string& line, const OptionDescription& option) {
 
 std::string makeSynopsis(const OptionDescription& option) {
     std::string line;
-    line.reserve(usualLength);
+    line.reserve(typicalLength);
     appendNames(line, option);
     if (option.m_type == vtBool) {
         appendNegatedForm(line, option);

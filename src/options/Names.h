@@ -28,7 +28,7 @@ public:
         : m_names(std::move(other.m_names), allocator), m_firstBytes(other.m_firstBytes) {}
     Names(std::initializer_list<std::string> names) : m_names(names) {
         for (const std::string& name : names) {
-            noteFirstBytes(name);
+            addFirstBytes(name);
         }
     }
 
@@ -38,16 +38,16 @@ public:
     /// Adds the name that a string is made of.
     template <class... Parts>
     void emplace_back(Parts&&... parts) {
-        noteFirstBytes(m_names.emplace_back(std::forward<Parts>(parts)...));
+        addFirstBytes(m_names.emplace_back(std::forward<Parts>(parts)...));
     }
     void push_back(std::string name) { emplace_back(std::move(name)); }
 
     bool empty() const { return m_names.empty(); }
     std::size_t size() const { return m_names.size(); }
     const std::string& front() const { return m_names.front(); }
-    const std::string& operator[](std::size_t place) const { return m_names[place]; }
+    const std::string& operator[](std::size_t index) const { return m_names[index]; }
     /// Throws `std::out_of_range` when there is none.
-    const std::string& at(std::size_t place) const { return m_names.at(place); }
+    const std::string& at(std::size_t index) const { return m_names.at(index); }
     const_iterator begin() const { return m_names.begin(); }
     const_iterator end() const { return m_names.end(); }
 
@@ -73,7 +73,7 @@ public:
 
 private:
     // An empty word counts as one that begins with a dash, or with the zero behind the name.
-    void noteFirstBytes(const std::string& name) {
+    void addFirstBytes(const std::string& name) {
         m_firstBytes.firstWord |= bitOf(name[0]);
         std::size_t wordEnd = 0;
         while (wordEnd < name.size() && name[wordEnd] != '-') {

@@ -23,7 +23,7 @@ constexpr std::size_t expectedOptions = 32;
 constexpr std::size_t growth = 4;
 
 // Most declarations have a name, or a name and a short form.
-constexpr std::size_t usualNames = 2;
+constexpr std::size_t typicalNames = 2;
 
 } // namespace
 
@@ -39,7 +39,7 @@ IOption& RegisteredOptionStorage::option(const char* names, const char* tags, co
         return refuse();
     }
     Names nameList(m_memory);
-    nameList.reserve(usualNames);
+    nameList.reserve(typicalNames);
     split(names, nameList);
     if (validateName(nameList) != 0) {
         return refuse();
@@ -84,13 +84,13 @@ const Topic& RegisteredOptionStorage::registerTopic(std::string_view topic) {
     if (!m_topics.empty() && m_topics.back().first == name) {
         return m_topics.back();
     }
-    std::size_t& place = m_topicNames.insert(name).value.place;
-    if (place == nowhere) {
+    std::size_t& index = m_topicNames.insert(name).value.index;
+    if (index == nowhere) {
         const std::string_view title = name.size() < topic.size() ? topic.substr(name.size() + 1) : "";
         m_topics.emplace_back(name, title);
-        place = m_topics.size() - 1;
+        index = m_topics.size() - 1;
     }
-    return m_topics[place];
+    return m_topics[index];
 }
 
 // Names of refused declarations get entries as well, which no record owns.
@@ -101,7 +101,7 @@ bool RegisteredOptionStorage::isTaken(const Names& names, NameEntries& entries) 
     bool taken = false;
     for (std::size_t i = 0; i < names.size(); ++i) {
         entries[i] = &m_names.insert(names[i]);
-        taken = taken || placeOf(names[i], entries[i]->value) != nowhere;
+        taken = taken || indexOf(names[i], entries[i]->value) != nowhere;
     }
     return taken;
 }
@@ -111,12 +111,12 @@ int RegisteredOptionStorage::find(const internal::HashedText& name, unsigned lon
         learnSynonyms();
     }
     const Index::Entry* const entry = m_names.find(name);
-    const std::size_t place = placeOf(name.text, entry != nullptr ? entry->value : Owners());
-    if (place == nowhere) {
+    const std::size_t found = indexOf(name.text, entry != nullptr ? entry->value : Owners());
+    if (found == nowhere) {
         // A host that holds on to a reference for too long may have given a name unseen.
         return findOption(std::string(name.text), index, m_options);
     }
-    index = place;
+    index = found;
     return 0;
 }
 
@@ -138,7 +138,7 @@ bool RegisteredOptionStorage::findOnly(const internal::HashedText& name, std::si
 }
 
 // Of the record that has the name as it is, and the switch that has it behind "no-", the first one.
-std::size_t RegisteredOptionStorage::placeOf(std::string_view name, const Owners& owners) const {
+std::size_t RegisteredOptionStorage::indexOf(std::string_view name, const Owners& owners) const {
     if (!beginsWithNegation(name)) {
         return owners.first;
     }
@@ -202,7 +202,7 @@ IOption& RegisteredOptionStorage::refuse() {
 }
 
 int validateName(const Names& names) {
-    const bool tooMany = names.size() > mostNames;
+    const bool tooMany = names.size() > maxNames;
     const bool longThirdName = names.size() == 3 && names[2].size() > 2;
     return tooMany || longThirdName ? 1 : 0;
 }

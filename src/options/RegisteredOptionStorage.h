@@ -15,10 +15,10 @@ namespace tarv_3_3 {
 class Garbage;
 
 /// How many names a declaration may have; synonyms do not count.
-inline constexpr std::size_t mostNames = 3;
+inline constexpr std::size_t maxNames = 3;
 
 /// Everything that was declared on one parser, in declaration order, and the help topics in order
-/// of first use. Declarations are only ever added, so a record's place in `m_options` identifies it
+/// of first use. Declarations are only ever added, so a record's index in `m_options` identifies it
 /// for the life of the parser; a reference to a record is good until the next declaration, or, while
 /// the table is pinned, until it is released.
 class TARV_API RegisteredOptionStorage {
@@ -82,10 +82,10 @@ public:
     OptionDescription m_invalidOption;
 
 private:
-    /// A place that no record has.
+    /// The index of no record.
     static constexpr auto nowhere = static_cast<std::size_t>(-1);
 
-    /// The places of the first record that has a name, and of the first switch, which takes the "no-" form
+    /// The indexes of the first record that has a name, and of the first switch, which takes the "no-" form
     /// of the name as well.
     struct Owners {
         std::size_t first = nowhere;
@@ -94,14 +94,14 @@ private:
         bool isRepeated = false;
     };
     using Index = internal::TextMap<Owners>;
-    using NameEntries = std::array<Index::Entry*, mostNames>;
+    using NameEntries = std::array<Index::Entry*, maxNames>;
 
-    struct TopicPlace {
-        std::size_t place = nowhere;
+    struct TopicIndex {
+        std::size_t index = nowhere;
     };
 
     TARV_HIDDEN bool isTaken(const Names& names, NameEntries& entries);
-    TARV_HIDDEN std::size_t placeOf(std::string_view name, const Owners& owners) const;
+    TARV_HIDDEN std::size_t indexOf(std::string_view name, const Owners& owners) const;
     TARV_HIDDEN void learnName(Owners& owners);
     TARV_HIDDEN bool hasNewSynonyms() const;
     TARV_HIDDEN void learnSynonyms();
@@ -113,8 +113,8 @@ private:
     /// next declaration.
     Index m_names;
     std::size_t m_learntNames = 0;
-    /// The places of the topics in `m_topics`, by name.
-    internal::TextMap<TopicPlace> m_topicNames;
+    /// The indexes of the topics in `m_topics`, by name.
+    internal::TextMap<TopicIndex> m_topicNames;
     int m_pins = 0;
     /// Tables that a larger one has replaced while they were pinned.
     std::vector<std::vector<OptionDescription>> m_outgrown;

@@ -24,34 +24,34 @@ bool contains(const Names& names, std::string_view wanted) {
     return false;
 }
 
-unsigned long placeOfName(std::string_view name, const std::vector<OptionDescription>& options) {
-    unsigned long place = 0;
-    while (place < options.size() && !contains(options[place].m_names, name)) {
-        ++place;
+unsigned long indexOfName(std::string_view name, const std::vector<OptionDescription>& options) {
+    unsigned long index = 0;
+    while (index < options.size() && !contains(options[index].m_names, name)) {
+        ++index;
     }
-    return place;
+    return index;
 }
 
-unsigned long placeOfSwitch(std::string_view name, const std::vector<OptionDescription>& options) {
-    unsigned long place = 0;
-    while (place < options.size() &&
-           !(options[place].m_type == vtBool && contains(options[place].m_names, name))) {
-        ++place;
+unsigned long indexOfSwitch(std::string_view name, const std::vector<OptionDescription>& options) {
+    unsigned long index = 0;
+    while (index < options.size() &&
+           !(options[index].m_type == vtBool && contains(options[index].m_names, name))) {
+        ++index;
     }
-    return place;
+    return index;
 }
 
 } // namespace
 
 int findOption(const std::string& name, unsigned long& index, const std::vector<OptionDescription>& options) {
-    unsigned long place = placeOfName(name, options);
+    unsigned long found = indexOfName(name, options);
     if (beginsWithNegation(name)) {
-        place = std::min(place, placeOfSwitch(std::string_view(name).substr(negation.size()), options));
+        found = std::min(found, indexOfSwitch(std::string_view(name).substr(negation.size()), options));
     }
-    if (place == options.size()) {
+    if (found == options.size()) {
         return 1;
     }
-    index = place;
+    index = found;
     return 0;
 }
 

@@ -18,7 +18,7 @@ inline bool beginsWithNegation(std::string_view name) {
 }
 
 /// Finds the first record that has exactly the name `name`, or is a switch and has the name behind
-/// "no-". Returns 0 with its place in `index`, or 1 with `index` untouched.
+/// "no-". Returns 0 with its index in `index`, or 1 with `index` untouched.
 TARV_API int findOption(const std::string& name, unsigned long& index,
                         const std::vector<OptionDescription>& options);
 

@@ -57,11 +57,11 @@ public:
 
     /// Recognizes every argument up to `endMarker`, which stays in `arguments` with all behind it.
     virtual int parse_phase_one(const std::string& endMarker, std::vector<std::string>& arguments,
-                                IParseResult* result, std::string& error);
+                                IParseResult* result, std::string& message);
 
     /// Checks everything stored in `result`: at most one action, and only options that go with it.
     virtual int parse_phase_two(const std::string& endMarker, std::vector<std::string>& arguments,
-                                IParseResult* result, std::string& error);
+                                IParseResult* result, std::string& message);
 
     void setLastError(const std::string& text);
 
@@ -71,7 +71,7 @@ public:
     /// Removes `endMarker` and everything behind it from `arguments`, and stores what stood behind
     /// it as plain arguments; under `flagPlainArePositional` each is also parsed as positional.
     int collectNonparsingArguments(std::string endMarker, std::vector<std::string>& arguments,
-                                   ParseResult* result, std::string& error);
+                                   ParseResult* result, std::string& message);
 
     /// Whether the two sets share an element.
     bool isIntersected(const std::set<std::string>& a, const std::set<std::string>& b) const;
@@ -85,7 +85,7 @@ public:
     const char* getDescription(std::vector<Topic> topics, const std::vector<OptionDescription>& options,
                                bool hidden);
 
-    /// Appends the options that share a tag with the action at place `actionIndex`.
+    /// Appends the options that share a tag with the action at `actionIndex`.
     void findActionModifiers(unsigned long actionIndex, std::vector<OptionDescription>& out);
 
     std::vector<OptionDescription> getGlobalActions() const;
@@ -119,8 +119,8 @@ private:
     TARV_HIDDEN int parseArguments(int argc, const char* const* argv, IParseResult* result);
     TARV_HIDDEN int parseUpToMarker(const std::string& endMarker, std::vector<std::string>& arguments,
                                     IParseResult* result);
-    TARV_HIDDEN int dropUnknown(const std::string& argument, std::string& error, std::size_t& consumed);
-    TARV_HIDDEN int parseAsPositional(const std::string& argument, ParseResult* result, std::string& error);
+    TARV_HIDDEN int dropUnknown(const std::string& argument, std::string& message, std::size_t& consumed);
+    TARV_HIDDEN int parseAsPositional(const std::string& argument, ParseResult* result, std::string& message);
     TARV_HIDDEN int readOptionFiles(const std::string& endMarker, IParseResult* result);
     TARV_HIDDEN const char* describeUnknown(const char* name, bool hidden);
 

@@ -82,7 +82,7 @@ int BasicParser::parseUpToMarker(const std::string& endMarker, std::vector<std::
 }
 
 int BasicParser::parse_phase_one(const std::string& endMarker, std::vector<std::string>& arguments,
-                                 IParseResult* result, std::string& error) {
+                                 IParseResult* result, std::string& message) {
     switchLog(arguments);
     if (result != nullptr) {
         static_cast<ParseResult*>(result)->noteParser(m_number);
@@ -101,11 +101,11 @@ int BasicParser::parse_phase_one(const std::string& endMarker, std::vector<std::
         const bool mayBePositional = positional.takes(left.front(), options);
         int status = parseOk;
         if (abbreviation.takes(left.front(), m_registry)) {
-            status = abbreviation.bind(left, collector, options, error, consumed.count);
+            status = abbreviation.bind(left, collector, options, message, consumed.count);
         } else if (mayBePositional) {
-            status = positional.bind(left, collector, options, error, consumed.count);
+            status = positional.bind(left, collector, options, message, consumed.count);
         } else {
-            status = dropUnknown(left.front(), error, consumed.count);
+            status = dropUnknown(left.front(), message, consumed.count);
         }
         if (status != parseOk) {
             return status;
@@ -119,10 +119,10 @@ Listeners BasicParser::listeners() const {
     return m_handlers.empty() && typeid(*this) == typeid(BasicParser) ? Listeners::none : Listeners::some;
 }
 
-int BasicParser::dropUnknown(const std::string& argument, std::string& error, std::size_t& consumed) {
+int BasicParser::dropUnknown(const std::string& argument, std::string& message, std::size_t& consumed) {
     const bool unknownToAll = onUknownArgument(argument.c_str());
     if (unknownToAll && (m_flags & flagRejectUnknown) != 0) {
-        error = messages::unknownArgument(argument);
+        message = messages::unknownArgument(argument);
         return parseFailed;
     }
     internal::writeLogLine("ignoring ", argument);
@@ -131,7 +131,7 @@ int BasicParser::dropUnknown(const std::string& argument, std::string& error, st
 }
 
 int BasicParser::collectNonparsingArguments(std::string endMarker, std::vector<std::string>& arguments,
-                                            ParseResult* result, std::string& error) {
+                                            ParseResult* result, std::string& message) {
     const auto marker = std::find(arguments.begin(), arguments.end(), endMarker);
     if (marker == arguments.end()) {
         return parseOk;
@@ -143,7 +143,7 @@ int BasicParser::collectNonparsingArguments(std::string endMarker, std::vector<s
         }
         internal::writeLogLine("collectNonparsingArguments: stored argument: '", *argument, "'");
         if ((m_flags & flagPlainArePositional) != 0) {
-            const int status = parseAsPositional(*argument, result, error);
+            const int status = parseAsPositional(*argument, result, message);
             if (status != parseOk) {
                 return status;
             }
@@ -154,7 +154,7 @@ int BasicParser::collectNonparsingArguments(std::string endMarker, std::vector<s
 }
 
 // Behind the marker an argument may begin with a dash and still be positional.
-int BasicParser::parseAsPositional(const std::string& argument, ParseResult* result, std::string& error) {
+int BasicParser::parseAsPositional(const std::string& argument, ParseResult* result, std::string& message) {
     if (result != nullptr) {
         result->noteParser(m_number);
     }
@@ -164,26 +164,26 @@ int BasicParser::parseAsPositional(const std::string& argument, ParseResult* res
         this, &m_garbage, static_cast<unsigned int>(m_flags & ~flagDashIsNotPositional), binding);
     const bool isTaken = recognizer.takes(argument, m_registry.m_options);
     internal::writeLogLine("collectNonparsingArguments: recognize result: ", isTaken ? 0 : 1,
-                           ", message: ", error);
+                           ", message: ", message);
     if (!isTaken) {
         return parseOk;
     }
     std::size_t consumed = 0;
     const int status =
-        recognizer.bind({&argument, &argument + 1}, result, m_registry.m_options, error, consumed);
-    internal::writeLogLine("collectNonparsingArguments: parse result: ", status, ", message: ", error);
+        recognizer.bind({&argument, &argument + 1}, result, m_registry.m_options, message, consumed);
+    internal::writeLogLine("collectNonparsingArguments: parse result: ", status, ", message: ", message);
     return status;
 }
 
 int BasicParser::parse_phase_two(const std::string& /*endMarker*/, std::vector<std::string>& /*arguments*/,
-                                 IParseResult* result, std::string& error) {
+                                 IParseResult* result, std::string& message) {
     if (result == nullptr) {
         return parseOk;
     }
     const auto& stored = static_cast<const ParseResult&>(*result);
     // What this parser alone has stored is declared here.
     const bool hasNothingToCheck = !m_registry.m_hasActions && stored.isOnlyFrom(m_number);
-    return hasNothingToCheck ? static_cast<int>(parseOk) : checkStoredOptions(*this, stored, error);
+    return hasNothingToCheck ? static_cast<int>(parseOk) : checkStoredOptions(*this, stored, message);
 }
 
 bool BasicParser::isIntersected(const std::set<std::string>& a, const std::set<std::string>& b) const {

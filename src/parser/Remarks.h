@@ -7,7 +7,7 @@
 
 namespace tarv_3_3 {
 
-/// What a host said of its declarations that no parse reads. Declarations go by their place in the
+/// What a host said of its declarations that no parse reads. Declarations go by their index in the
 /// registry, which they keep.
 struct Remarks {
     /// Key and value, in the order in which the keys were first used.
@@ -15,10 +15,10 @@ struct Remarks {
 
     struct Rule {
         int kind;
-        std::vector<std::size_t> places;
+        std::vector<std::size_t> indexes;
     };
 
-    /// By place; shorter than the registry when nothing was said of the last ones.
+    /// By index; shorter than the registry when nothing was said of the last ones.
     std::vector<Notes> notes;
     std::vector<Rule> rules;
 };

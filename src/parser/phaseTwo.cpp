@@ -18,11 +18,11 @@ struct StoredOption {
 };
 
 int checkTags(const BasicParser& parser, const OptionDescription& action,
-              const std::vector<StoredOption>& others, std::string& error) {
+              const std::vector<StoredOption>& others, std::string& message) {
     for (const StoredOption& other : others) {
         const auto& tags = other.option->m_tags;
         if (other.isGiven && !tags.empty() && !parser.isIntersected(action.m_tags, tags)) {
-            error = messages::optionNotAccepted(action.primaryName(), other.option->primaryName());
+            message = messages::optionNotAccepted(action.primaryName(), other.option->primaryName());
             return parseFailed;
         }
     }
@@ -32,7 +32,7 @@ int checkTags(const BasicParser& parser, const OptionDescription& action,
 } // namespace
 
 // In the order of the names, which decides which of two actions a message names first.
-int checkStoredOptions(BasicParser& parser, const ParseResult& result, std::string& error) {
+int checkStoredOptions(BasicParser& parser, const ParseResult& result, std::string& message) {
     RegisteredOptionStorage& registry = parser.registry();
     const OptionDescription* action = nullptr;
     std::vector<StoredOption> others;
@@ -48,16 +48,16 @@ int checkStoredOptions(BasicParser& parser, const ParseResult& result, std::stri
         } else if (action == nullptr) {
             action = &option;
         } else if (action != &option) {
-            error = messages::twoActions(option.primaryName(), action->primaryName());
-            parser.setLastError(error);
+            message = messages::twoActions(option.primaryName(), action->primaryName());
+            parser.setLastError(message);
             return parseFailed;
         }
     }
     if (action != nullptr) {
-        return checkTags(parser, *action, others, error);
+        return checkTags(parser, *action, others, message);
     }
     if (registry.m_hasActions && !others.empty()) {
-        error = messages::noActionDefined;
+        message = messages::noActionDefined;
         return parseFailed;
     }
     return parseOk;

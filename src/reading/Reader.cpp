@@ -9,13 +9,13 @@ namespace tarv_3_3 {
 
 Reader::Reader(BasicParser& parser)
     : m_parser(parser), m_flags(static_cast<unsigned int>(parser.flags())),
-      m_filled(positionalPlace(parser.registry().m_options)) {}
+      m_filled(positionalIndex(parser.registry().m_options)) {}
 
 ReadArgument Reader::look(const std::string& argument, const std::string* next) {
     ReadArgument read;
     if (m_awaiting != ReadArgument::nowhere) {
         read.role = ArgumentRole::value;
-        read.place = m_awaiting;
+        read.index = m_awaiting;
         return read;
     }
     if (m_isBehindMarker) {
@@ -23,7 +23,7 @@ ReadArgument Reader::look(const std::string& argument, const std::string* next) 
     }
     if (m_isRestPositional) {
         read.role = ArgumentRole::positional;
-        read.place = m_filled;
+        read.index = m_filled;
         return read;
     }
     if (m_isFirst && argument == logSwitch) {
@@ -41,7 +41,7 @@ ReadArgument Reader::lookAtPlain() const {
     ReadArgument read;
     read.role = ArgumentRole::plain;
     if ((m_flags & flagPlainArePositional) != 0 && m_filled < m_parser.registry().m_options.size()) {
-        read.place = m_filled;
+        read.index = m_filled;
     }
     return read;
 }
@@ -53,7 +53,7 @@ ReadArgument Reader::lookAtName(const std::string& argument, const std::string* 
     if (found.outcome == NameOutcome::none) {
         const bool isPositional = mayBePositional(argument);
         read.role = isPositional ? ArgumentRole::positional : ArgumentRole::unknown;
-        read.place = isPositional ? m_filled : ReadArgument::nowhere;
+        read.index = isPositional ? m_filled : ReadArgument::nowhere;
         read.isRefused = !isPositional && (m_flags & flagRejectUnknown) != 0;
         return read;
     }
@@ -67,9 +67,9 @@ ReadArgument Reader::lookAtName(const std::string& argument, const std::string* 
         return read;
     }
     read.role = ArgumentRole::named;
-    read.place = found.place;
+    read.index = found.index;
     read.name = std::move(found.name);
-    const das_variant_type_t kind = options[read.place].m_type;
+    const das_variant_type_t kind = options[read.index].m_type;
     read.isAbbreviated = typed != read.name;
     read.isNegated = kind == vtBool && beginsWithNegation(read.name);
     read.source = valueSource(kind, read.token.valueIn(argument), next);
@@ -99,7 +99,7 @@ Reader::Match Reader::matchAnew(const std::string& argument) {
     Match found;
     found.outcome = m_matcher.look(argument, m_parser.registry().m_options, &m_parser.registry());
     if (found.outcome == NameOutcome::found) {
-        found.place = static_cast<std::size_t>(m_matcher.place());
+        found.index = static_cast<std::size_t>(m_matcher.index());
         found.name = m_matcher.bestNameIn(argument);
     }
     return found;
@@ -108,7 +108,7 @@ Reader::Match Reader::matchAnew(const std::string& argument) {
 void Reader::remember(const std::string& argument, const Match& found) {
     const std::size_t nameEnd = m_matcher.token().nameEnd;
     const bool isShort = nameEnd <= longestRemembered && found.name.size() <= longestRemembered;
-    if (isShort && m_remembered.size() < mostRemembered) {
+    if (isShort && m_remembered.size() < maxRemembered) {
         m_remembered.emplace(argument.substr(0, nameEnd), found);
     }
 }
@@ -120,7 +120,7 @@ bool Reader::mayBePositional(const std::string& argument) const {
 void Reader::pass(const ReadArgument& argument) {
     const bool takesNext =
         argument.source == ValueSource::nextArgument || argument.source == ValueSource::nextIsEmpty;
-    m_awaiting = takesNext ? argument.place : ReadArgument::nowhere;
+    m_awaiting = takesNext ? argument.index : ReadArgument::nowhere;
     m_isFirst = false;
     m_isBehindMarker = m_isBehindMarker || argument.role == ArgumentRole::endMarker;
     m_isRestPositional = m_isRestPositional || (argument.role == ArgumentRole::positional &&

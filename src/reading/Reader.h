@@ -24,7 +24,7 @@ enum class ArgumentRole {
     positional,
     /// "--".
     endMarker,
-    /// Behind the end marker; a positional one as well where `place` says so.
+    /// Behind the end marker; a positional one as well where `index` says so.
     plain,
     unknown,
     /// It fits a name, but is empty behind the dashes or has a third dash; no parse takes that.
@@ -35,12 +35,12 @@ enum class ArgumentRole {
 
 /// What an argument is.
 struct ReadArgument {
-    /// The place of an argument that belongs to no declaration.
+    /// The index of an argument that belongs to no declaration.
     static constexpr auto nowhere = static_cast<std::size_t>(-1);
 
     ArgumentRole role = ArgumentRole::unknown;
     /// Of the declaration, in the registry's table.
-    std::size_t place = nowhere;
+    std::size_t index = nowhere;
     /// Of a named one: the whole name that it gives, "no-" included.
     std::string name;
     /// Of one that begins with a dash and can be named: where dashes, name and value begin.
@@ -62,7 +62,7 @@ struct ReadArgument {
 /// asks, but past errors, and nobody notices: no events, no position indices, no trace, no option files.
 ///
 /// A name that is not whole is compared with every option, so a line may cost the product of both. What such
-/// a name gives is remembered: the first `mostRemembered` different ones, unless they are very long.
+/// a name gives is remembered: the first `maxRemembered` different ones, unless they are very long.
 ///
 /// The parser outlives it, and gets no declarations meanwhile.
 class Reader {
@@ -75,15 +75,15 @@ public:
     /// Goes on behind an argument that was looked at.
     void pass(const ReadArgument& argument);
 
-    static constexpr std::size_t mostRemembered = 10000;
+    static constexpr std::size_t maxRemembered = 10000;
     static constexpr std::size_t longestRemembered = 256;
 
 private:
     /// What a typed name gives.
     struct Match {
         NameOutcome outcome = NameOutcome::none;
-        /// Where exactly one fits: its place, and the whole name.
-        std::size_t place = ReadArgument::nowhere;
+        /// Where exactly one fits: its index, and the whole name.
+        std::size_t index = ReadArgument::nowhere;
         std::string name;
     };
 
@@ -100,7 +100,7 @@ private:
 
     BasicParser& m_parser;
     const unsigned int m_flags;
-    /// The place of the option that positional arguments fill; the size of the table when there is none.
+    /// The index of the option that positional arguments fill; the size of the table when there is none.
     const std::size_t m_filled;
     NameMatcher m_matcher;
     SpaceClassifier m_classifier;

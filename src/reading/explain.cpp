@@ -35,7 +35,7 @@ private:
     static ExplainedArgument explained(const ReadArgument& read, const std::vector<const char*>& candidates) {
         ExplainedArgument argument = {};
         argument.role = static_cast<int>(read.role);
-        argument.place = read.place == ReadArgument::nowhere ? -1 : static_cast<int>(read.place);
+        argument.place = read.index == ReadArgument::nowhere ? -1 : static_cast<int>(read.index);
         argument.name = read.name.c_str();
         argument.nameStart = static_cast<unsigned>(read.token.nameStart);
         argument.nameEnd = static_cast<unsigned>(read.token.nameEnd);

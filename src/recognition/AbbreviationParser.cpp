@@ -45,8 +45,8 @@ int AbbreviationParser::getPriority() {
 }
 
 int AbbreviationParser::recognize(std::vector<std::string>& args, std::vector<OptionDescription>& options,
-                                  std::string& err) {
-    return look(args.at(0), options, nullptr, err) == NameOutcome::none ? 1 : 0;
+                                  std::string& message) {
+    return look(args.at(0), options, nullptr, message) == NameOutcome::none ? 1 : 0;
 }
 
 bool AbbreviationParser::takes(const std::string& argument, RegisteredOptionStorage& registry) {
@@ -56,16 +56,16 @@ bool AbbreviationParser::takes(const std::string& argument, RegisteredOptionStor
 
 NameOutcome AbbreviationParser::look(const std::string& argument,
                                      const std::vector<OptionDescription>& options,
-                                     RegisteredOptionStorage* registry, std::string& err) {
+                                     RegisteredOptionStorage* registry, std::string& message) {
     log(": recognizing argument '", argument, "'");
     if (m_hasListeners) {
         m_matcher.followLocale();
     }
     m_matcher.look(argument, options, registry);
-    const NameOutcome outcome = tellOutcome(err);
+    const NameOutcome outcome = tellOutcome(message);
     if (outcome == NameOutcome::ambiguous) {
         log(": failed to get best match for '", m_matcher.token().nameIn(argument), "' in argument '",
-            argument, "':", err);
+            argument, "':", message);
     } else if (outcome == NameOutcome::found) {
         log(": best match option for '", m_matcher.token().nameIn(argument), "' in argument '", argument,
             "' is '", m_matcher.bestNameIn(argument), "'");
@@ -73,50 +73,50 @@ NameOutcome AbbreviationParser::look(const std::string& argument,
     return outcome;
 }
 
-NameOutcome AbbreviationParser::tellOutcome(std::string& err) const {
+NameOutcome AbbreviationParser::tellOutcome(std::string& message) const {
     const NameOutcome outcome = m_matcher.outcome();
     if (outcome == NameOutcome::ambiguous) {
-        err = messages::possibleOptions(quotedNames(m_matcher.bestNames()));
+        message = messages::possibleOptions(quotedNames(m_matcher.bestNames()));
     }
     return outcome;
 }
 
 int AbbreviationParser::parse(std::vector<std::string>& args, IResultCollector* collector,
                               std::vector<OptionDescription>& options, unsigned long& index,
-                              std::string& err) {
-    index = static_cast<unsigned long>(m_matcher.place());
+                              std::string& message) {
+    index = static_cast<unsigned long>(m_matcher.index());
     static_cast<void>(args.at(0));
     ConsumedArguments consumed(args);
-    return bind(consumed.left(), collector, options, err, consumed.count);
+    return bind(consumed.left(), collector, options, message, consumed.count);
 }
 
 int AbbreviationParser::bind(ArgumentSpan left, IResultCollector* collector,
-                             const std::vector<OptionDescription>& options, std::string& err,
+                             const std::vector<OptionDescription>& options, std::string& message,
                              std::size_t& consumed) {
     const std::string& argument = left.front();
     log(": parsing argument '", argument, "'");
     const std::string_view name = m_matcher.token().nameIn(argument);
     if (!isOptionName(name)) {
-        return fail(err, messages::unknownOption(argument));
+        return fail(message, messages::unknownOption(argument));
     }
     if (m_matcher.outcome() == NameOutcome::ambiguous) {
-        return fail(err, messages::ambiguousOption(std::string(name), inArgument(argument),
-                                                   quotedNames(m_matcher.bestNames())));
+        return fail(message, messages::ambiguousOption(std::string(name), inArgument(argument),
+                                                       quotedNames(m_matcher.bestNames())));
     }
-    const OptionDescription& option = recordToBind(options, static_cast<std::size_t>(m_matcher.place()));
+    const OptionDescription& option = recordToBind(options, static_cast<std::size_t>(m_matcher.index()));
     log(": detected option: '", option.primaryName(), "'");
     std::string_view value = m_matcher.token().valueIn(argument);
     if (m_matcher.token().hasValue) {
         log(": value from the same argument taken: '", value, "'");
     }
     std::size_t used = 1;
-    int status = findValue(option, left, value, used, err);
+    int status = findValue(option, left, value, used, message);
     if (status != parseOk) {
         return status;
     }
     m_handler->onOptionParse(option.primaryName().c_str());
     log(": sent event on option parsed");
-    status = bindValue(value, option, argument, collector, err);
+    status = bindValue(value, option, argument, collector, message);
     if (status != parseOk) {
         return status;
     }
@@ -129,7 +129,7 @@ int AbbreviationParser::bind(ArgumentSpan left, IResultCollector* collector,
 
 // Leaves in `value` what the option is to be given.
 int AbbreviationParser::findValue(const OptionDescription& option, ArgumentSpan left, std::string_view& value,
-                                  std::size_t& used, std::string& err) {
+                                  std::size_t& used, std::string& message) {
     const ValueSource source = valueSource(option.m_type, value, left.next());
     switch (source) {
     case ValueSource::none:
@@ -145,27 +145,27 @@ int AbbreviationParser::findValue(const OptionDescription& option, ArgumentSpan 
         log(": got value from the next argument: '", value, "'");
         return parseOk;
     default:
-        return refuseValue(source, option, left, err);
+        return refuseValue(source, option, left, message);
     }
 }
 
 int AbbreviationParser::refuseValue(ValueSource source, const OptionDescription& option, ArgumentSpan left,
-                                    std::string& err) {
+                                    std::string& message) {
     const std::string& name = option.primaryName();
     if (source == ValueSource::unwanted) {
-        return fail(err, messages::takesNoValue(name, inArgument(left.front())));
+        return fail(message, messages::takesNoValue(name, inArgument(left.front())));
     }
     if (source == ValueSource::unwantedBySwitch) {
-        return fail(err, messages::isBoolean(name, inArgument(left.front())));
+        return fail(message, messages::isBoolean(name, inArgument(left.front())));
     }
     log(": no value in the same argument, looking next");
     if (source == ValueSource::nextLooksLikeOption) {
-        return fail(err, messages::nextLooksLikeOption(name, *left.next()));
+        return fail(message, messages::nextLooksLikeOption(name, *left.next()));
     }
     if (source == ValueSource::nextIsEmpty) {
         log(": got value from the next argument: ''");
     }
-    return fail(err, messages::requiresValue(name, inArgument(left.front())));
+    return fail(message, messages::requiresValue(name, inArgument(left.front())));
 }
 
 std::string AbbreviationParser::inArgument(std::string argument) {

@@ -27,12 +27,12 @@ public:
     /// Takes an argument that begins with a dash and names a declared option, or several equally
     /// well, which `parse` then reports.
     int recognize(std::vector<std::string>& args, std::vector<OptionDescription>& options,
-                  std::string& err) override;
+                  std::string& message) override;
 
     /// Binds the argument that the last `recognize` took, with its value from the same argument or
     /// from the next one.
     int parse(std::vector<std::string>& args, IResultCollector* collector,
-              std::vector<OptionDescription>& options, unsigned long& index, std::string& err) override;
+              std::vector<OptionDescription>& options, unsigned long& index, std::string& message) override;
 
     int getPriority() override;
 
@@ -41,7 +41,7 @@ public:
     /// consumed is added to `consumed`.
     TARV_HIDDEN bool takes(const std::string& argument, RegisteredOptionStorage& registry);
     TARV_HIDDEN int bind(ArgumentSpan left, IResultCollector* collector,
-                         const std::vector<OptionDescription>& options, std::string& err,
+                         const std::vector<OptionDescription>& options, std::string& message,
                          std::size_t& consumed);
     ///@}
 
@@ -66,19 +66,19 @@ public:
                        const std::vector<DecomposedName>& candidates);
 
     /// Keeps the best matches for `parse`. Returns 0 with the one best candidate in `best`, 1 when
-    /// there is none, 2 when there are several, with a message in `err`.
-    int findBest(const std::vector<NameMatch>& matches, DecomposedName& best, std::string& err);
+    /// there is none, 2 when there are several, with a message in `message`.
+    int findBest(const std::vector<NameMatch>& matches, DecomposedName& best, std::string& message);
     ///@}
 
 private:
     TARV_HIDDEN NameOutcome look(const std::string& argument, const std::vector<OptionDescription>& options,
-                                 RegisteredOptionStorage* registry, std::string& err);
-    TARV_HIDDEN NameOutcome tellOutcome(std::string& err) const;
+                                 RegisteredOptionStorage* registry, std::string& message);
+    TARV_HIDDEN NameOutcome tellOutcome(std::string& message) const;
     TARV_HIDDEN std::string inArgument(std::string argument);
     TARV_HIDDEN int findValue(const OptionDescription& option, ArgumentSpan left, std::string_view& value,
-                              std::size_t& used, std::string& err);
+                              std::size_t& used, std::string& message);
     TARV_HIDDEN int refuseValue(ValueSource source, const OptionDescription& option, ArgumentSpan left,
-                                std::string& err);
+                                std::string& message);
 
     /// Holds what the last `recognize` found.
     NameMatcher m_matcher;

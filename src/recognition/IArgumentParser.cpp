@@ -68,10 +68,10 @@ const OptionDescription& IArgumentParser::recordToBind(const std::vector<OptionD
     return *m_binding.record;
 }
 
-int IArgumentParser::parseValueAndAddOption(std::string& value, std::string& err,
+int IArgumentParser::parseValueAndAddOption(std::string& value, std::string& message,
                                             const OptionDescription& option, std::vector<std::string>& args,
                                             IResultCollector* collector) {
-    const int status = bindValue(value, option, args[0], collector, err);
+    const int status = bindValue(value, option, args[0], collector, message);
     if (option.m_tokenizer == 0 && !m_binding.occurrence.values.empty()) {
         value = textOf(m_binding.occurrence.values.front());
     }
@@ -79,14 +79,15 @@ int IArgumentParser::parseValueAndAddOption(std::string& value, std::string& err
 }
 
 int IArgumentParser::bindValue(std::string_view value, const OptionDescription& option,
-                               const std::string& argument, IResultCollector* collector, std::string& err) {
+                               const std::string& argument, IResultCollector* collector,
+                               std::string& message) {
     m_binding.occurrence.positions.clear();
     m_binding.occurrence.positions.push_back(getNewPositionIndex());
     m_binding.occurrence.values.clear();
     if (!value.empty()) {
         log(": adding values to result container:");
-        const int status = option.m_tokenizer == 0 ? bindSingleValue(value, option, argument, err)
-                                                   : bindList(value, option, argument, err);
+        const int status = option.m_tokenizer == 0 ? bindSingleValue(value, option, argument, message)
+                                                   : bindList(value, option, argument, message);
         if (status != parseOk) {
             return status;
         }
@@ -99,11 +100,11 @@ int IArgumentParser::bindValue(std::string_view value, const OptionDescription& 
 }
 
 int IArgumentParser::bindSingleValue(std::string_view value, const OptionDescription& option,
-                                     const std::string& argument, std::string& err) {
+                                     const std::string& argument, std::string& message) {
     log(": not using tokenizer");
-    const int status = bindText(value.data(), option, argument, err);
+    const int status = bindText(value.data(), option, argument, message);
     return status == parseVetoed
-               ? failVetoed(textOf(m_binding.occurrence.values.front()), option, argument, err)
+               ? failVetoed(textOf(m_binding.occurrence.values.front()), option, argument, message)
                : status;
 }
 
@@ -123,12 +124,12 @@ void IArgumentParser::makeRoomForValues(std::string_view rest, char separator) {
 }
 
 int IArgumentParser::bindList(std::string_view value, const OptionDescription& option,
-                              const std::string& argument, std::string& err) {
+                              const std::string& argument, std::string& message) {
     const char separator = option.m_tokenizer;
     log(": using tokenizer on char: '", separator, "'");
     std::size_t start = value.find_first_not_of(separator);
     if (start == std::string_view::npos) {
-        return fail(err, messages::noValueParsed(std::string(value), option.primaryName()));
+        return fail(message, messages::noValueParsed(std::string(value), option.primaryName()));
     }
     while (start != std::string_view::npos) {
         const std::size_t end = std::min(value.find(separator, start), value.size());
@@ -136,10 +137,10 @@ int IArgumentParser::bindList(std::string_view value, const OptionDescription& o
         log(": value is: '", piece, "'");
         makeRoomForValues(value.substr(start), separator);
         const bool isLast = end == value.size();
-        const int status =
-            bindText(isLast ? piece.data() : m_binding.piece.assign(piece).c_str(), option, argument, err);
+        const int status = bindText(isLast ? piece.data() : m_binding.piece.assign(piece).c_str(), option,
+                                    argument, message);
         if (status != parseOk) {
-            return status == parseVetoed ? failVetoed(std::string(value), option, argument, err) : status;
+            return status == parseVetoed ? failVetoed(std::string(value), option, argument, message) : status;
         }
         log(": sent event on value parsed, option: '", option.primaryName(), "', value: '",
             textOf(m_binding.occurrence.values.back()), "'");
@@ -150,14 +151,14 @@ int IArgumentParser::bindList(std::string_view value, const OptionDescription& o
 
 // Appends one value to the occurrence.
 int IArgumentParser::bindText(const char* text, const OptionDescription& option, const std::string& argument,
-                              std::string& err) {
+                              std::string& message) {
     OptionValue& bound = m_binding.occurrence.values.emplace_back();
     if (option.takesAnyText()) {
         bound.value = variant_t(text);
     } else {
         bound.text = text;
-        if (!option.validate(bound.text, bound.value, err)) {
-            return fail(err, messages::invalidValue(argument, err));
+        if (!option.validate(bound.text, bound.value, message)) {
+            return fail(message, messages::invalidValue(argument, message));
         }
     }
     bound.position = getNewPositionIndex();
@@ -172,16 +173,16 @@ bool IArgumentParser::isAccepted(const OptionValue& bound, const OptionDescripti
     return m_handler->onValueParse(option.primaryName().c_str(), shown);
 }
 
-int IArgumentParser::fail(std::string& err, std::string message) const {
-    err = std::move(message);
-    log(": ", err);
+int IArgumentParser::fail(std::string& message, std::string text) const {
+    message = std::move(text);
+    log(": ", message);
     return parseFailed;
 }
 
 int IArgumentParser::failVetoed(const std::string& value, const OptionDescription& option,
-                                const std::string& argument, std::string& err) {
-    err = messages::vetoedValue(value, option.primaryName(), argument);
-    log(err, " One of the handler signaled the value is not valid.");
+                                const std::string& argument, std::string& message) {
+    message = messages::vetoedValue(value, option.primaryName(), argument);
+    log(message, " One of the handler signaled the value is not valid.");
     return parseVetoed;
 }
 

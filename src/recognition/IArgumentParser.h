@@ -37,16 +37,17 @@ public:
     /// Looks at `args[0]` and returns 0 when this recognizer takes it, 1 when not. A call of `parse`
     /// for the same argument may follow.
     virtual int recognize(std::vector<std::string>& args, std::vector<OptionDescription>& options,
-                          std::string& err) = 0;
+                          std::string& message) = 0;
 
     /// Binds the argument at the front, stores what it found through `collector` (null: nowhere),
-    /// removes the arguments that it consumed, and sets `index` to the place of the option. The
+    /// removes the arguments that it consumed, and sets `index` to that of the option. The
     /// records of `options` must stay where they are meanwhile, whatever handlers declare; see
     /// `RegisteredOptionStorage::Pin`.
-    /// Returns 0, or `parseVetoed` or `parseFailed` with the message in `err` and the argument that
+    /// Returns 0, or `parseVetoed` or `parseFailed` with the message in `message` and the argument that
     /// failed still at the front.
     virtual int parse(std::vector<std::string>& args, IResultCollector* collector,
-                      std::vector<OptionDescription>& options, unsigned long& index, std::string& err) = 0;
+                      std::vector<OptionDescription>& options, unsigned long& index,
+                      std::string& message) = 0;
 
     /// The end of a message: in which argument the error was found.
     virtual std::string formatTokenMessage(std::string& token);
@@ -65,12 +66,12 @@ protected:
     /// converts and validates each piece, and shows it to the handlers. An empty value is an
     /// occurrence without a value. `args` is only read, for messages. Returns as `parse` does; on
     /// failure nothing is stored.
-    int parseValueAndAddOption(std::string& value, std::string& err, const OptionDescription& option,
+    int parseValueAndAddOption(std::string& value, std::string& message, const OptionDescription& option,
                                std::vector<std::string>& args, IResultCollector* collector);
 
     /// The same without the completed value. There is a zero behind `value`, as behind the end of a string.
     TARV_HIDDEN int bindValue(std::string_view value, const OptionDescription& option,
-                              const std::string& argument, IResultCollector* collector, std::string& err);
+                              const std::string& argument, IResultCollector* collector, std::string& message);
 
     /// The record to bind an argument to. A handler may refine the last record when it is told of the
     /// argument; of that one it is a copy as it is now. Throws `std::out_of_range` when there is no such
@@ -78,8 +79,8 @@ protected:
     TARV_HIDDEN const OptionDescription& recordToBind(const std::vector<OptionDescription>& options,
                                                       std::size_t index);
 
-    /// Returns `parseFailed` with `message` in `err`, and traces it.
-    TARV_HIDDEN int fail(std::string& err, std::string message) const;
+    /// Returns `parseFailed` with `text` in `message`, and traces it.
+    TARV_HIDDEN int fail(std::string& message, std::string text) const;
 
     /// Traces one line: the recognizer's name, then the parts.
     template <class... Parts>
@@ -96,15 +97,15 @@ protected:
 
 private:
     TARV_HIDDEN int bindSingleValue(std::string_view value, const OptionDescription& option,
-                                    const std::string& argument, std::string& err);
+                                    const std::string& argument, std::string& message);
     TARV_HIDDEN int bindList(std::string_view value, const OptionDescription& option,
-                             const std::string& argument, std::string& err);
+                             const std::string& argument, std::string& message);
     TARV_HIDDEN void makeRoomForValues(std::string_view rest, char separator);
     TARV_HIDDEN int bindText(const char* text, const OptionDescription& option, const std::string& argument,
-                             std::string& err);
+                             std::string& message);
     TARV_HIDDEN bool isAccepted(const OptionValue& bound, const OptionDescription& option);
     TARV_HIDDEN int failVetoed(const std::string& value, const OptionDescription& option,
-                               const std::string& argument, std::string& err);
+                               const std::string& argument, std::string& message);
 
     std::unique_ptr<Binding> m_ownBinding;
     Binding& m_binding;

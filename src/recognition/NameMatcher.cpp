@@ -7,7 +7,7 @@ namespace tarv_3_3 {
 
 NameOutcome NameMatcher::look(const std::string& argument, const std::vector<OptionDescription>& options,
                               RegisteredOptionStorage* registry) {
-    m_place = -1;
+    m_index = -1;
     forget();
     if (argument.size() < 2 || dashLength(argument) == 0) {
         m_token = Token();
@@ -23,7 +23,7 @@ NameOutcome NameMatcher::look(const std::string& argument, const std::vector<Opt
     // The record that gave the one best name is also the one that a lookup of that name would find:
     // another one with the same name would have tied with it.
     if (found == NameOutcome::ambiguous) {
-        m_place = -1;
+        m_index = -1;
     }
     return found;
 }
@@ -34,7 +34,7 @@ bool NameMatcher::findWholeName(std::string_view typed, RegisteredOptionStorage&
     std::size_t index = 0;
     m_isWhole = registry.findOnly(typed, index);
     if (m_isWhole) {
-        m_place = static_cast<std::int64_t>(index);
+        m_index = static_cast<std::int64_t>(index);
     }
     return m_isWhole;
 }
@@ -47,7 +47,7 @@ void NameMatcher::keepBest(std::string_view typed, const std::vector<OptionDescr
             forEachCandidate(option, [&](const NameCandidate& candidate) {
                 if (isBest(scoreCandidate(typed, candidate))) {
                     keep(candidate.text());
-                    m_place = &option - options.data();
+                    m_index = &option - options.data();
                 }
             });
         }

@@ -32,8 +32,8 @@ public:
     /// The argument that was last looked at, cut into pieces.
     const Token& token() const { return m_token; }
 
-    /// The place of the record that has the one best name, -1 when there is not exactly one.
-    std::int64_t place() const { return m_place; }
+    /// The index of the record that has the one best name, -1 when there is not exactly one.
+    std::int64_t index() const { return m_index; }
 
     /// The one best candidate, `argument` being the one that was last looked at. Throws `std::out_of_range`
     /// when there is none.
@@ -60,7 +60,7 @@ private:
     bool findWholeName(std::string_view typed, RegisteredOptionStorage& registry);
     void keepBest(std::string_view typed, const std::vector<OptionDescription>& options);
 
-    std::int64_t m_place = -1;
+    std::int64_t m_index = -1;
     /// Whether the one best candidate equals the typed name, which is not kept then.
     bool m_isWhole = false;
     std::vector<std::string> m_bestNames;

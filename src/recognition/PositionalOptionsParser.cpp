@@ -13,7 +13,7 @@ constexpr const char* parserName = "PositionalOptionsParser";
 
 } // namespace
 
-std::size_t positionalPlace(const std::vector<OptionDescription>& options, std::size_t from) {
+std::size_t positionalIndex(const std::vector<OptionDescription>& options, std::size_t from) {
     while (from < options.size() && !options[from].m_positional) {
         ++from;
     }
@@ -36,7 +36,7 @@ PositionalOptionsParser::PositionalOptionsParser(EventHandler* handler, Garbage*
 PositionalOptionsParser::~PositionalOptionsParser() = default;
 
 int PositionalOptionsParser::recognize(std::vector<std::string>& args,
-                                       std::vector<OptionDescription>& options, std::string& /*err*/) {
+                                       std::vector<OptionDescription>& options, std::string& /*message*/) {
     return takes(args.at(0), options) ? 0 : 1;
 }
 
@@ -48,15 +48,15 @@ bool PositionalOptionsParser::takes(const std::string& argument,
 
 int PositionalOptionsParser::parse(std::vector<std::string>& args, IResultCollector* collector,
                                    std::vector<OptionDescription>& options, unsigned long& index,
-                                   std::string& err) {
+                                   std::string& message) {
     static_cast<void>(args.at(0));
     index = findPositional(options);
     ConsumedArguments consumed(args);
-    return bind(consumed.left(), collector, options, err, consumed.count);
+    return bind(consumed.left(), collector, options, message, consumed.count);
 }
 
 int PositionalOptionsParser::bind(ArgumentSpan left, IResultCollector* collector,
-                                  const std::vector<OptionDescription>& options, std::string& err,
+                                  const std::vector<OptionDescription>& options, std::string& message,
                                   std::size_t& consumed) {
     log(": parsing argument '", left.front(), "'");
     const OptionDescription& option = recordToBind(options, findPositional(options));
@@ -66,7 +66,7 @@ int PositionalOptionsParser::bind(ArgumentSpan left, IResultCollector* collector
     const std::string* const end = takesRest ? left.end : left.first + 1;
     for (const std::string* argument = left.first; argument != end; ++argument) {
         m_handler->onOptionParse(options.front().primaryName().c_str());
-        const int status = bindValue(*argument, option, *argument, collector, err);
+        const int status = bindValue(*argument, option, *argument, collector, message);
         if (status != parseOk) {
             return status;
         }
@@ -78,9 +78,9 @@ int PositionalOptionsParser::bind(ArgumentSpan left, IResultCollector* collector
 
 // Only the last record may become positional, so those before it are looked at once.
 std::size_t PositionalOptionsParser::findPositional(const std::vector<OptionDescription>& options) {
-    const std::size_t place = positionalPlace(options, m_place);
-    m_place = place < options.size() || place == 0 ? place : place - 1;
-    return place;
+    const std::size_t index = positionalIndex(options, m_index);
+    m_index = index < options.size() || index == 0 ? index : index - 1;
+    return index;
 }
 
 int PositionalOptionsParser::getPriority() {

@@ -33,18 +33,18 @@ NameScore scoreName(std::string_view typed, std::string_view name) {
         return {true, 2 * static_cast<std::int32_t>(1 + std::count(typed.begin(), typed.end(), '-'))};
     }
     std::int32_t score = 0;
-    std::size_t place = 0;
-    for (std::size_t i = 0; i <= typed.size(); ++i, ++place) {
+    std::size_t at = 0;
+    for (std::size_t i = 0; i <= typed.size(); ++i, ++at) {
         const bool isLastWord = i == typed.size();
         if (!isLastWord && typed[i] != '-') {
-            if (place == name.size() || name[place] != typed[i]) {
+            if (at == name.size() || name[at] != typed[i]) {
                 return {false, 0};
             }
             continue;
         }
-        const std::size_t wordEnd = std::min(name.find('-', place), name.size());
-        score += place == wordEnd ? 2 : 1;
-        place = wordEnd;
+        const std::size_t wordEnd = std::min(name.find('-', at), name.size());
+        score += at == wordEnd ? 2 : 1;
+        at = wordEnd;
         if (isLastWord == (wordEnd < name.size())) {
             // One of the names has more words; what the candidate has more is no misfit.
             return {false, isLastWord ? score : 0};

@@ -72,14 +72,14 @@ void AbbreviationParser::makeNameMatch(std::vector<NameMatch>& matches, const De
 }
 
 int AbbreviationParser::findBest(const std::vector<NameMatch>& matches, DecomposedName& best,
-                                 std::string& err) {
+                                 std::string& message) {
     m_matcher.forget();
     for (const NameMatch& match : matches) {
         if (m_matcher.isBest({match.m_sameWordCount, match.m_score})) {
             m_matcher.keep(match.m_candidate.getName());
         }
     }
-    const NameOutcome outcome = tellOutcome(err);
+    const NameOutcome outcome = tellOutcome(message);
     if (outcome == NameOutcome::found) {
         best = DecomposedName(m_matcher.bestNames().front());
     }

@@ -28,9 +28,9 @@ public:
     int store(const OptionDescription& option, const OptionData& data) override;
 
     /// Records the default of every option that has one, under each of its names; each of them
-    /// takes a position index. An option of the null kind has none. Returns 0 and leaves `errorText`
+    /// takes a position index. An option of the null kind has none. Returns 0 and leaves `message`
     /// alone.
-    int applyDefault(std::vector<OptionDescription>& options, std::string& errorText);
+    int applyDefault(std::vector<OptionDescription>& options, std::string& message);
 
     /// Notes that a parser, known by a number of its own, is about to store what it has declared.
     void noteParser(std::uint64_t number);

@@ -9,7 +9,7 @@ int ParseResult::store(const OptionDescription& option, const OptionData& data) 
     return 0;
 }
 
-int ParseResult::applyDefault(std::vector<OptionDescription>& options, std::string& /*errorText*/) {
+int ParseResult::applyDefault(std::vector<OptionDescription>& options, std::string& /*message*/) {
     for (OptionDescription& option : options) {
         if (option.m_type != vtNull && option.m_hasDefault) {
             m_entries.storeDefaults(option.m_names, [&option] {

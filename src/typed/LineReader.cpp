@@ -124,7 +124,7 @@ void LineReader::readName(std::size_t place) {
 
 void LineReader::readNamed(std::size_t place, const ReadArgument& read) {
     const std::string& argument = m_line.arguments[place];
-    const Option& option = *m_level.options[read.place];
+    const Option& option = *m_level.options[read.index];
     if (read.isAbbreviated) {
         noteAbbreviation(argument.substr(0, read.token.nameEnd),
                          argument.substr(0, read.token.nameStart) + read.name);
@@ -276,7 +276,7 @@ void LineReader::checkFront() {
         if (outcome == NameOutcome::ambiguous) {
             m_line.complain(messages::ambiguousOption(typed, dashedNames(matcher.bestNames())));
         } else if (outcome == NameOutcome::found &&
-                   m_level.options[static_cast<std::size_t>(matcher.place())] != front.option) {
+                   m_level.options[static_cast<std::size_t>(matcher.index())] != front.option) {
             m_line.complain(messages::belongsBehindVerb(typed, m_line.chosen->name()));
         }
     }

@@ -105,11 +105,11 @@ std::string withoutCommas(std::string list) {
 
 class WholeNames : public ::testing::Test {
 protected:
-    std::string random(std::size_t mostWords) {
+    std::string random(std::size_t maxWords) {
         static const char* const words[] = {"no", "n", "a",    "ab",       "abc",
                                             "b",  "",  "\xE4", "\xE4\xF6", "feature"};
         std::string name = words[pick(10)];
-        for (std::size_t i = pick(mostWords); i > 0; --i) {
+        for (std::size_t i = pick(maxWords); i > 0; --i) {
             name += std::string("-") + words[pick(10)];
         }
         return name;

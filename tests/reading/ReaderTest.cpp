@@ -16,8 +16,8 @@ std::string describe(const ReadArgument& read) {
                                           "next",     "unwanted",      "unwanted by switch",
                                           "missing",  "next is empty", "next looks like option"};
     std::string text = roles[static_cast<int>(read.role)];
-    if (read.place != ReadArgument::nowhere) {
-        text += " " + std::to_string(read.place);
+    if (read.index != ReadArgument::nowhere) {
+        text += " " + std::to_string(read.index);
     }
     if (read.role == ArgumentRole::named) {
         text += " " + read.name + (read.isAbbreviated ? ", cut short" : "") +
@@ -193,7 +193,7 @@ std::vector<std::string> abbreviatedNames(std::size_t count, std::size_t differe
 TEST(Reader, ReadsMoreNamesThanItRemembers) {
     BasicParser parser(0);
     parser.option("option-number-19999", "", vtNull, nullptr);
-    const std::size_t different = 2 * Reader::mostRemembered;
+    const std::size_t different = 2 * Reader::maxRemembered;
     const std::vector<ReadArgument> readings =
         readArguments(parser, abbreviatedNames(2 * different, different));
     ASSERT_EQ(readings.size(), 2 * different);

@@ -243,10 +243,11 @@ TEST(AbbreviationParserParse, ThrowsWhereItLacksWhatRecognizeFound) {
     EXPECT_THROW(one.parse(), std::out_of_range) << "a shorter argument";
     one.args = {"--verbose"};
     std::vector<OptionDescription> none;
-    EXPECT_THROW(one.recognizer.parse(one.args, &one.collector, none, one.index, one.err), std::out_of_range)
+    EXPECT_THROW(one.recognizer.parse(one.args, &one.collector, none, one.index, one.message),
+                 std::out_of_range)
         << "a shorter table";
     DecomposedName best("");
-    ASSERT_EQ(one.recognizer.findBest({}, best, one.err), 1);
+    ASSERT_EQ(one.recognizer.findBest({}, best, one.message), 1);
     EXPECT_THROW(one.parse(), std::out_of_range) << "no candidates";
     EXPECT_EQ(one.collector.stored, "");
     EXPECT_EQ(one.handler.events, "");
@@ -289,7 +290,7 @@ TEST(AbbreviationParserParse, WorksWithoutACollector) {
     Recognition<AbbreviationParser> one;
     one.declare("level", vtInt32);
     EXPECT_EQ(one.recognize({"--level=3", "x"}), 0);
-    EXPECT_EQ(one.recognizer.parse(one.args, nullptr, one.registry.m_options, one.index, one.err), 0);
+    EXPECT_EQ(one.recognizer.parse(one.args, nullptr, one.registry.m_options, one.index, one.message), 0);
     EXPECT_EQ(one.args, Arguments{"x"});
     EXPECT_EQ(one.handler.events, "option level; value level=\"3\"@2");
 }
@@ -321,8 +322,8 @@ TEST(AbbreviationParserParse, TellsTheOptionBeforeItTakesAnIndexAndEachValueBehi
     IndexWitness witness(one.positions);
     AbbreviationParser recognizer(&witness, &one.garbage, 0);
     Arguments args = {"--level=3,4"};
-    ASSERT_EQ(recognizer.recognize(args, one.registry.m_options, one.err), 0);
-    ASSERT_EQ(recognizer.parse(args, &one.collector, one.registry.m_options, one.index, one.err), 0);
+    ASSERT_EQ(recognizer.recognize(args, one.registry.m_options, one.message), 0);
+    ASSERT_EQ(recognizer.parse(args, &one.collector, one.registry.m_options, one.index, one.message), 0);
     EXPECT_EQ(witness.taken, (std::vector<int>{0, 2, 3}));
     EXPECT_EQ(one.collector.stored, "level@1=\"3\"@2,\"4\"@3");
 }
@@ -344,15 +345,15 @@ TEST(AbbreviationParserParse, LetsTheExceptionOfAHandlerPassAndGoesOnBehindIt) {
     ThrowingHandler handler;
     AbbreviationParser recognizer(&handler, &one.garbage, 0);
     Arguments args = {"--name", "good,bad", "x"};
-    ASSERT_EQ(recognizer.recognize(args, one.registry.m_options, one.err), 0);
-    EXPECT_THROW(recognizer.parse(args, &one.collector, one.registry.m_options, one.index, one.err),
+    ASSERT_EQ(recognizer.recognize(args, one.registry.m_options, one.message), 0);
+    EXPECT_THROW(recognizer.parse(args, &one.collector, one.registry.m_options, one.index, one.message),
                  std::runtime_error);
     EXPECT_EQ(args, (Arguments{"--name", "good,bad", "x"}));
     EXPECT_EQ(one.collector.stored, "");
 
     args = {"--name=fine", "x"};
-    ASSERT_EQ(recognizer.recognize(args, one.registry.m_options, one.err), 0);
-    EXPECT_EQ(recognizer.parse(args, &one.collector, one.registry.m_options, one.index, one.err), 0);
+    ASSERT_EQ(recognizer.recognize(args, one.registry.m_options, one.message), 0);
+    EXPECT_EQ(recognizer.parse(args, &one.collector, one.registry.m_options, one.index, one.message), 0);
     EXPECT_EQ(args, Arguments{"x"});
     EXPECT_EQ(one.collector.stored, "name@4=\"fine\"@5");
 }
@@ -364,8 +365,8 @@ TEST(AbbreviationParserParse, SurvivesAHandlerThatDeclaresOptions) {
     DeclaringHandler handler(one.registry);
     AbbreviationParser recognizer(&handler, &one.garbage, 0);
     Arguments args = {"-l", "3,4", "x"};
-    ASSERT_EQ(recognizer.recognize(args, one.registry.m_options, one.err), 0);
-    ASSERT_EQ(recognizer.parse(args, &one.collector, one.registry.m_options, one.index, one.err), 0);
+    ASSERT_EQ(recognizer.recognize(args, one.registry.m_options, one.message), 0);
+    ASSERT_EQ(recognizer.parse(args, &one.collector, one.registry.m_options, one.index, one.message), 0);
     EXPECT_EQ(one.collector.stored, "level-with-a-name-too-long-for-a-short-string@1=\"3\"@2,\"4\"@3");
     EXPECT_EQ(one.index, 1U);
     EXPECT_EQ(args, Arguments{"x"});

@@ -19,7 +19,7 @@ TEST_F(AbbreviationParserRecognize, TakesWhatBeginsWithAnyDashAndNamesAnOption) 
           "\u2014level", "\u2015level", "\u2053level", "\u2014-level", "-\u2013level", "\u2013\u2053lev"}) {
         SCOPED_TRACE(argument);
         EXPECT_EQ(recognize({argument}), 0);
-        EXPECT_EQ(err, "");
+        EXPECT_EQ(message, "");
         EXPECT_EQ(args, std::vector<std::string>{argument});
     }
 }
@@ -31,7 +31,7 @@ TEST_F(AbbreviationParserRecognize, RefusesWhatNamesNoOption) {
           "--levels", "--Level", "--level-x", "--no-level"}) {
         SCOPED_TRACE(argument);
         EXPECT_EQ(recognize({argument}), 1);
-        EXPECT_EQ(err, "");
+        EXPECT_EQ(message, "");
     }
 }
 
@@ -65,7 +65,7 @@ TEST_F(AbbreviationParserRecognize, ReportsAnEmptyNameAsUnknownThoughItIsAmbiguo
     declare("level", vtInt32);
     declare("mode", vtString);
     EXPECT_EQ(recognize({"--"}), 0);
-    EXPECT_EQ(err, "Ambiguous option, possible options are: 'level', 'mode'");
+    EXPECT_EQ(message, "Ambiguous option, possible options are: 'level', 'mode'");
     EXPECT_EQ(parse(), "2: Unknown option '--' |--");
 }
 
@@ -172,8 +172,8 @@ TEST_F(AbbreviationParserRecognize, LooksAtTheTableThatItIsGiven) {
     Recognition<AbbreviationParser> other;
     other.declare("mode", vtString);
     EXPECT_EQ(recognize({"--level"}), 0);
-    EXPECT_EQ(recognizer.recognize(args, other.registry.m_options, err), 1);
-    EXPECT_EQ(recognizer.recognize(args, registry.m_options, err), 0);
+    EXPECT_EQ(recognizer.recognize(args, other.registry.m_options, message), 1);
+    EXPECT_EQ(recognizer.recognize(args, registry.m_options, message), 0);
 }
 
 TEST(AbbreviationParserFirstByte, OfANameMayBeAnyThatANameCanHave) {
@@ -346,7 +346,7 @@ TEST(AbbreviationParserAmbiguity, SendsNoEventAndTakesNoIndex) {
     one.declare("verbose", vtBool);
     one.declare("version", vtBool);
     EXPECT_EQ(one.recognize({"--ver", "x"}), 0);
-    EXPECT_EQ(one.err, "Ambiguous option, possible options are: 'verbose', 'version'");
+    EXPECT_EQ(one.message, "Ambiguous option, possible options are: 'verbose', 'version'");
     one.parse();
     EXPECT_EQ(one.handler.events, "");
     EXPECT_EQ(one.positions.taken(), 0);

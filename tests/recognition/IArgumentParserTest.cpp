@@ -252,12 +252,12 @@ TEST(ValueBinding, StoresNothingOfAListWhoseHandlerThrewNorInTheNextOne) {
     ThrowingHandler handler;
     ValueBinder binder(&handler, nullptr, 0);
     std::vector<std::string> args = {"--files"};
-    std::string err;
+    std::string message;
     std::string list = "a,b";
-    EXPECT_THROW(binder.parseValueAndAddOption(list, err, files, args, &binding.collector), int);
+    EXPECT_THROW(binder.parseValueAndAddOption(list, message, files, args, &binding.collector), int);
     EXPECT_EQ(binding.collector.stored, "");
     std::string none;
-    EXPECT_EQ(binder.parseValueAndAddOption(none, err, files, args, &binding.collector), 0);
+    EXPECT_EQ(binder.parseValueAndAddOption(none, message, files, args, &binding.collector), 0);
     EXPECT_EQ(binding.collector.stored, "files@4");
 }
 

@@ -25,7 +25,7 @@ std::string matched(NameMatcher& matcher, const std::string& typed, RegisteredOp
     const std::string argument = "--" + typed;
     switch (matcher.look(argument, table.m_options, registry)) {
     case NameOutcome::found:
-        return found(std::string(matcher.bestNameIn(argument)), matcher.place());
+        return found(std::string(matcher.bestNameIn(argument)), matcher.index());
     case NameOutcome::none:
         return "none";
     case NameOutcome::ambiguous:

@@ -48,12 +48,12 @@ TEST(PositionalRecognize, TakesEverythingWithAPositionalOption) {
     for (const unsigned int flags : {0U, takesRest, otherFlags}) {
         Positional positional(flags);
         positional.declareFiles();
-        positional.err = "untouched";
+        positional.message = "untouched";
         for (const char* const argument :
              {"file.txt", "", "-", "--", "-x", "--unknown", "--verbose", "\u2013x"}) {
             SCOPED_TRACE(argument);
             EXPECT_EQ(positional.recognize({argument, "next"}), 0);
-            EXPECT_EQ(positional.err, "untouched");
+            EXPECT_EQ(positional.message, "untouched");
             EXPECT_EQ(positional.args, (Arguments{argument, "next"}));
         }
     }
@@ -216,7 +216,7 @@ TEST(PositionalParse, WorksWithoutACollector) {
     positional.declareFiles();
     ASSERT_EQ(positional.recognize({"a", "b"}), 0);
     EXPECT_EQ(positional.recognizer.parse(positional.args, nullptr, positional.registry.m_options,
-                                          positional.index, positional.err),
+                                          positional.index, positional.message),
               0);
     EXPECT_EQ(positional.args, Arguments{});
     EXPECT_EQ(positional.positions.taken(), 4);
@@ -230,7 +230,7 @@ TEST(PositionalParse, SurvivesAHandlerThatDeclaresOptions) {
     PositionalOptionsParser recognizer(&handler, &positional.garbage, takesRest);
     Arguments args = {"a", "b,c"};
     ASSERT_EQ(recognizer.parse(args, &positional.collector, positional.registry.m_options, positional.index,
-                               positional.err),
+                               positional.message),
               0);
     EXPECT_EQ(positional.collector.stored, "files-with-a-name-too-long-for-a-short-string@1=\"a\"@2 "
                                            "files-with-a-name-too-long-for-a-short-string@3=\"b\"@4,\"c\"@5");

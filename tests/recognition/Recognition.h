@@ -23,15 +23,15 @@ public:
 
     int recognize(std::vector<std::string> given) {
         args = std::move(given);
-        return recognizer.recognize(args, registry.m_options, err);
+        return recognizer.recognize(args, registry.m_options, message);
     }
 
     /// Goes on behind a `recognize`. The outcome is one line: the status, what was stored, the
     /// message, and every argument that is left behind a '|'.
     std::string parse() {
-        err.clear();
-        const int status = recognizer.parse(args, &collector, registry.m_options, index, err);
-        std::string outcome = std::to_string(status) + ": " + collector.stored + err;
+        message.clear();
+        const int status = recognizer.parse(args, &collector, registry.m_options, index, message);
+        std::string outcome = std::to_string(status) + ": " + collector.stored + message;
         for (const std::string& left : args) {
             outcome += " |" + left;
         }
@@ -51,5 +51,5 @@ public:
     Recognizer recognizer;
     std::vector<std::string> args;
     unsigned long index = 77;
-    std::string err;
+    std::string message;
 };

@@ -38,11 +38,11 @@ public:
                      tarv_3_3::IResultCollector* resultCollector) {
         value = text;
         args = {argument, "next"};
-        err.clear();
-        const int status =
-            recognizer.parseValueAndAddOption(value, err, registry.m_options.front(), args, resultCollector);
+        message.clear();
+        const int status = recognizer.parseValueAndAddOption(value, message, registry.m_options.front(), args,
+                                                             resultCollector);
         const bool argumentsKept = args == std::vector<std::string>{argument, "next"};
-        return std::to_string(status) + ": " + collector.stored + err +
+        return std::to_string(status) + ": " + collector.stored + message +
                (argumentsKept ? "" : " (arguments changed)");
     }
 

@@ -201,19 +201,19 @@ TEST_F(AbbreviationParserMatch, FindsTheOneBestCandidate) {
     for (const auto& row : rows) {
         SCOPED_TRACE(row.best);
         DecomposedName best("");
-        std::string err = "untouched";
-        EXPECT_EQ(recognizer.findBest(row.matches, best, err), 0);
+        std::string message = "untouched";
+        EXPECT_EQ(recognizer.findBest(row.matches, best, message), 0);
         EXPECT_EQ(best.getName(), row.best);
-        EXPECT_EQ(err, "untouched");
+        EXPECT_EQ(message, "untouched");
     }
 }
 
 TEST_F(AbbreviationParserMatch, FindsNothingWithoutACandidateOfTheSameWordCount) {
     DecomposedName best("");
-    std::string err = "untouched";
-    EXPECT_EQ(recognizer.findBest({}, best, err), 1);
-    EXPECT_EQ(recognizer.findBest({{false, 2, DecomposedName("verbose-mode")}}, best, err), 1);
-    EXPECT_EQ(err, "untouched");
+    std::string message = "untouched";
+    EXPECT_EQ(recognizer.findBest({}, best, message), 1);
+    EXPECT_EQ(recognizer.findBest({{false, 2, DecomposedName("verbose-mode")}}, best, message), 1);
+    EXPECT_EQ(message, "untouched");
 }
 
 TEST_F(AbbreviationParserMatch, FindsAnAmbiguityAndListsItInOrder) {
@@ -236,20 +236,21 @@ TEST_F(AbbreviationParserMatch, FindsAnAmbiguityAndListsItInOrder) {
     for (const auto& row : rows) {
         SCOPED_TRACE(row.message);
         DecomposedName best("");
-        std::string err = "before";
-        EXPECT_EQ(recognizer.findBest(row.matches, best, err), 2);
-        EXPECT_EQ(err, row.message);
+        std::string message = "before";
+        EXPECT_EQ(recognizer.findBest(row.matches, best, message), 2);
+        EXPECT_EQ(message, row.message);
     }
 }
 
 TEST_F(AbbreviationParserMatch, ForgetsTheMatchesOfTheSearchBefore) {
     DecomposedName best("");
-    std::string err;
+    std::string message;
     EXPECT_EQ(
-        recognizer.findBest({{true, 1, DecomposedName("a")}, {true, 1, DecomposedName("b")}}, best, err), 2);
-    EXPECT_EQ(recognizer.findBest({{true, 1, DecomposedName("c")}}, best, err), 0);
+        recognizer.findBest({{true, 1, DecomposedName("a")}, {true, 1, DecomposedName("b")}}, best, message),
+        2);
+    EXPECT_EQ(recognizer.findBest({{true, 1, DecomposedName("c")}}, best, message), 0);
     EXPECT_EQ(best.getName(), "c");
-    EXPECT_EQ(recognizer.findBest({}, best, err), 1);
+    EXPECT_EQ(recognizer.findBest({}, best, message), 1);
 }
 
 } // namespace

@@ -64,12 +64,12 @@ private:
             expectNamed(arguments, read, i);
             break;
         case ArgumentRole::positional:
-            expectPositional(arguments[i], read.place);
+            expectPositional(arguments[i], read.index);
             break;
         case ArgumentRole::plain:
             plain.push_back(arguments[i]);
-            if (read.place != ReadArgument::nowhere) {
-                expectPositional(arguments[i], read.place);
+            if (read.index != ReadArgument::nowhere) {
+                expectPositional(arguments[i], read.index);
             }
             break;
         case ArgumentRole::unknown:
@@ -92,7 +92,7 @@ private:
     }
 
     void expectNamed(const std::vector<std::string>& arguments, const ReadArgument& read, std::size_t i) {
-        const OptionDescription& option = m_options[read.place];
+        const OptionDescription& option = m_options[read.index];
         if (read.isRefused) {
             message = "Option '" + option.primaryName() + "'";
             return;
