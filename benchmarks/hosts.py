@@ -1,5 +1,6 @@
 """What a library costs the small host programs: their compilation, sizes and whole processes."""
 
+import collections
 import functools
 import json
 import os
@@ -20,6 +21,35 @@ RUNS = 11
 COMPILATIONS = 9
 
 
+Command = collections.namedtuple("Command", ["words", "source", "object"])
+
+
+def compile_command(build, folder):
+    """How the one source file of a target is compiled whose objects are in `folder`: the compiler's own words,
+    without a launcher in front of them and without files."""
+    with open(os.path.join(build, "compile_commands.json"), encoding="utf-8") as commands:
+        entry = next(each for each in json.load(commands) if f" -o {folder}/" in each["command"])
+    words = shlex.split(entry["command"])
+    words = words[next(i for i, word in enumerate(words) if word.endswith("++")):]
+    return Command(words[:words.index("-o")], entry["file"], os.path.join(build, words[words.index("-o") + 1]))
+
+
+def seconds_to_compile(words, source):
+    """Processor time of one compilation."""
+    with tempfile.TemporaryDirectory() as folder:
+        command = [*words, "-c", source, "-o", os.path.join(folder, "program.o")]
+        before = resource.getrusage(resource.RUSAGE_CHILDREN)
+        subprocess.run(command, check=True)
+        after = resource.getrusage(resource.RUSAGE_CHILDREN)
+    return after.ru_utime + after.ru_stime - before.ru_utime - before.ru_stime
+
+
+def object_bytes(path):
+    """Code and data of an object."""
+    table = subprocess.run(["size", path], check=True, capture_output=True, text=True).stdout
+    return sum(int(bytes_) for bytes_ in table.splitlines()[1].split()[:3])
+
+
 class Host:
     """The small host program of one library."""
 
@@ -27,7 +57,6 @@ class Host:
         self.build = build
         self.name = name
         self.path = os.path.join(build, "benchmarks", "host-" + name)
-        self.object = os.path.join(build, "benchmarks", "CMakeFiles", f"host-{name}.dir", "hosts", name + ".cpp.o")
 
     @functools.cached_property
     def needs_cxx(self):
@@ -56,12 +85,7 @@ class Host:
 
     @functools.cached_property
     def compile_command(self):
-        """The compiler's own command, without a launcher in front of it and without its files."""
-        with open(os.path.join(self.build, "compile_commands.json"), encoding="utf-8") as commands:
-            entry = next(each for each in json.load(commands) if each["file"].endswith(f"/hosts/{self.name}.cpp"))
-        words = shlex.split(entry["command"])
-        words = words[next(i for i, word in enumerate(words) if word.endswith("++")):]
-        return words[:words.index("-o")]
+        return compile_command(self.build, os.path.join("benchmarks", "CMakeFiles", f"host-{self.name}.dir"))
 
     def includes(self):
         """The lines of its source that include the library's headers; its other ones are standard."""
@@ -78,11 +102,7 @@ class Host:
             source = os.path.join(folder, "host.cpp")
             with open(source, "w", encoding="utf-8") as file:
                 file.write(text)
-            command = [*self.compile_command, "-c", source, "-o", os.path.join(folder, "host.o")]
-            before = resource.getrusage(resource.RUSAGE_CHILDREN)
-            subprocess.run(command, check=True)
-            after = resource.getrusage(resource.RUSAGE_CHILDREN)
-        return after.ru_utime + after.ru_stime - before.ru_utime - before.ru_stime
+            return seconds_to_compile(self.compile_command.words, source)
 
     def compile_ratio(self, text):
         """Time to compile `text`, in turn with an empty program: the ratio of the least times, which a busy
@@ -98,9 +118,7 @@ class Host:
         return self.compile_ratio(self.text())
 
     def object_bytes(self):
-        """Code and data of the object."""
-        table = subprocess.run(["size", self.object], check=True, capture_output=True, text=True).stdout
-        return sum(int(bytes_) for bytes_ in table.splitlines()[1].split()[:3])
+        return object_bytes(self.compile_command.object)
 
     def program_bytes(self):
         return stripped_bytes(self.path)

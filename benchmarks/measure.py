@@ -9,10 +9,13 @@ import sys
 import tempfile
 
 from hosts import Host
+from faces import LINES, Compilations, Face
 from programs import ENVIRONMENT, Program, order
 
-LIBRARIES = ["tarv", "handwritten", "getopt", "getoptInOrder", "popt", "argtable2", "llvm", "gflags", "abseil", "tclap",
+LIBRARIES = ["tarv", "typed", "handwritten", "getopt", "getoptInOrder", "popt", "argtable2", "llvm", "gflags", "abseil", "tclap",
              "boost", "cli11", "cxxopts"]
+# What the programs of examples/ are written with.
+FACES = ["typed", "cli11", "cxxopts"]
 # Programs that differ from another one in their workload alone have no host of their own.
 HOSTLESS = {"getoptInOrder"}
 PACKAGES = ["libpopt-dev", "libargtable2-dev", "llvm-14-dev", "libgflags-dev", "libabsl-dev", "libtclap-dev",
@@ -330,26 +333,61 @@ def write_data(programs, folder):
 
 
 def measure_tarv(build):
-    tarv = Program(build, "tarv")
+    programs = [Program(build, "tarv"), Program(build, "typed")]
     keeping = Program(build, "keeping")
-    check_answers([Program(build, "handwritten"), keeping, tarv])
-    table = Table([tarv])
-    table.head(["tarv"])
+    check_answers([Program(build, "handwritten"), keeping, *programs])
+    table = Table(programs)
+    table.head([program.title for program in programs])
     everyday_rows(table)
     argument_rows(table, [1000, 10000, 100000], keeping)
     option_rows(table, [100, 1000, 3000])
     help_rows(table)
-    host_rows(Table([Host(build, "tarv")]))
+    host_rows(Table([Host(build, program.name) for program in programs]))
+
+
+def measure_faces(build):
+    faces = [Face(build, name) for name in FACES]
+    programs = {"sheets": "the README's program", "convert": "the converter", "vcs": "the tool with verbs"}
+    cli11 = faces[FACES.index("cli11")]
+    table = Table(faces)
+    table.head(["tarv typed", "CLI11", "cxxopts"])
+    times = Compilations(faces)
+    table.row("compile time of the README's program, to that of an empty file",
+              lambda each: times.ratio(("sheets", each.name), "empty"))
+    table.row("the same, to that of a file that includes `typed.h` alone",
+              lambda each: times.ratio(("sheets", each.name), "typed.h") if each.name == "typed" else None)
+    table.row("the same, CLI11's to its own", lambda each: times.ratio(("sheets", "cli11"), ("sheets", each.name)))
+    table.row("compile time of the converter, to that of its three standard headers",
+              lambda each: times.ratio(("convert", each.name), "headers"))
+    table.row("the same, to that of what it does, without a command line",
+              lambda each: times.ratio(("convert", each.name), "images"))
+    for name, title in programs.items():
+        table.row(f"object of {title}, bytes of code and data",
+                  lambda each: whole(each.object_bytes(name)) if each.has(name) else None)
+    for name in LINES:
+        title = programs[name]
+        table.row(f"instructions in `main` of {title}",
+                  lambda each: whole(each.instructions(name)) if each.has(name) else None)
+        table.row("the same, to CLI11's",
+                  lambda each: f"{each.instructions(name) / cli11.instructions(name):.2f}" if each.has(name) else None)
+    plain, typed = (Program(build, name).instructions("measure-again", *EVERYDAY) for name in ("tarv", "typed"))
+    life = ("declare", "parse", "read")
+    table.row("W1: declare, parse, read, to the plain interface's",
+              lambda each: f"{sum(typed[phase] for phase in life) / sum(plain[phase] for phase in life):.2f}"
+              if each.name == "typed" else None)
 
 
 def main():
     parser = argparse.ArgumentParser(description=__doc__)
     parser.add_argument("--build", required=True, help="the build directory")
     parser.add_argument("--tarv-only", action="store_true", help="measure the library alone, without compilations and times")
+    parser.add_argument("--faces", action="store_true", help="measure the programs of examples/ alone")
     parser.add_argument("--data", help="a folder for the figures that plot.gp draws")
     arguments = parser.parse_args()
     if arguments.tarv_only:
         measure_tarv(arguments.build)
+    elif arguments.faces:
+        measure_faces(arguments.build)
     else:
         measure_all(arguments.build, arguments.data)
 

@@ -1,9 +1,10 @@
 #!/usr/bin/env bash
 # Installs what is missing, builds a release, checks that all libraries compute the same answers,
 # measures, and prints the figures as Markdown.
-#   benchmarks/run.sh [--tarv-only] [--data FOLDER]
+#   benchmarks/run.sh [--tarv-only | --faces] [--data FOLDER]
 # --data keeps the figures that plot.gp draws. --tarv-only leaves the other libraries out, to compare
-# two states of this one in about a minute.
+# two states of this one in about a minute. --faces measures the programs of examples/ alone, beside the
+# same with CLI11 and cxxopts.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 

@@ -18,5 +18,6 @@ extern const Candidate llvmCandidate;
 extern const Candidate poptCandidate;
 extern const Candidate tarvCandidate;
 extern const Candidate tclapCandidate;
+extern const Candidate typedCandidate;
 
 } // namespace bench

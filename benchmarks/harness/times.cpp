@@ -9,9 +9,10 @@ namespace bench {
 
 namespace {
 
-const Candidate* const candidates[] = {
-    &tarvCandidate, &handwrittenCandidate, &getoptCandidate, &poptCandidate,  &argtable2Candidate,
-    &llvmCandidate, &tclapCandidate,       &boostCandidate,  &cli11Candidate, &cxxoptsCandidate};
+const Candidate* const candidates[] = {&tarvCandidate,   &typedCandidate,  &handwrittenCandidate,
+                                       &getoptCandidate, &poptCandidate,   &argtable2Candidate,
+                                       &llvmCandidate,   &tclapCandidate,  &boostCandidate,
+                                       &cli11Candidate,  &cxxoptsCandidate};
 
 struct Scene {
     const Candidate& candidate;
