@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "typed/Option.h"
+#include "typed/OptionNames.h"
 
 namespace tarv_3_3 {
 
@@ -48,6 +49,11 @@ struct Command {
     Command* findVerb(std::string_view wanted) const;
     /// The option of this command, or of those above it, with exactly this name, or null.
     Option* findOption(std::string_view wanted) const;
+    /// Of its own options.
+    const OptionNames& optionNames() const {
+        m_optionNames.learn(options);
+        return m_optionNames;
+    }
 
     Command* parent;
     std::vector<std::string> names;
@@ -79,6 +85,9 @@ struct Command {
     std::string outOfMemory;
     Result result = {};
     ///@}
+
+private:
+    mutable OptionNames m_optionNames;
 };
 
 /// Calls `visit` with every option of a command and of the verbs below it.

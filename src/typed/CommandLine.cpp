@@ -9,8 +9,12 @@ namespace tarv_3_3::typed::engine {
 using internal::terminalText;
 
 CommandLine::CommandLine(Command& program, int argc, const char* const* argv) : chosen(&program) {
-    for (int i = 0; i < argc && argv != nullptr && argv[i] != nullptr; ++i) {
-        arguments.emplace_back(argv[i]);
+    int count = 0;
+    while (count < argc && argv != nullptr && argv[count] != nullptr) {
+        ++count;
+    }
+    if (count > 0) {
+        arguments.assign(argv, argv + count);
     }
     occurrences.reserve(arguments.size());
 }

@@ -5,6 +5,7 @@
 #include <cstring>
 
 #include "description/terminalText.h"
+#include "options/findOption.h"
 #include "parser/commandLine.h"
 #include "recognition/NameMatcher.h"
 #include "typed/lastResort.h"
@@ -112,19 +113,38 @@ void LineReader::readWord(std::size_t place) {
 }
 
 void LineReader::readName(std::size_t place) {
+    if (m_areNamesUnique && readWholeName(place)) {
+        return;
+    }
+    const LevelParser& known = level();
     const std::string* const behind =
         place + 1 < m_line.arguments.size() ? &m_line.arguments[place + 1] : nullptr;
     const ReadArgument found = m_reader->look(m_line.arguments[place], behind);
     if (found.role == ArgumentRole::named) {
-        readNamed(place, found);
+        readNamed(place, *known.options[found.index], found);
     } else if (!readRepeatedLetter(place, found)) {
         readUnfit(place, found);
     }
 }
 
-void LineReader::readNamed(std::size_t place, const ReadArgument& read) {
+// Nothing beats a whole name, and most are; what the parser would say of it is plain.
+bool LineReader::readWholeName(std::size_t place) {
     const std::string& argument = m_line.arguments[place];
-    const Option& option = *m_level.options[read.index];
+    ReadArgument read;
+    read.token = splitToken(argument, m_spaces);
+    const std::string_view typed = read.token.nameIn(argument);
+    const Option* const option = isOptionName(typed) ? findWhole(*m_line.chosen, typed) : nullptr;
+    if (option == nullptr) {
+        return false;
+    }
+    read.name = typed;
+    read.isNegated = option->isSwitch() && beginsWithNegation(typed);
+    readNamed(place, *option, read);
+    return true;
+}
+
+void LineReader::readNamed(std::size_t place, const Option& option, const ReadArgument& read) {
+    const std::string& argument = m_line.arguments[place];
     if (read.isAbbreviated) {
         noteAbbreviation(argument.substr(0, read.token.nameEnd),
                          argument.substr(0, read.token.nameStart) + read.name);
@@ -172,7 +192,7 @@ void LineReader::readUnfit(std::size_t place, const ReadArgument& read) {
     const std::string typed = typedName(argument, read);
     if (read.role == ArgumentRole::ambiguous) {
         NameMatcher matcher;
-        matcher.look(argument, m_level.parser->registry().m_options, nullptr);
+        matcher.look(argument, level().parser->registry().m_options, nullptr);
         m_line.complain(messages::ambiguousOption(typed, dashedNames(matcher.bestNames())));
         return;
     }
@@ -212,8 +232,16 @@ void LineReader::noteAbbreviation(const std::string& typed, const std::string& w
 
 void LineReader::enter(Command& command) {
     m_line.chosen = &command;
-    m_level = makeLevelParser(command);
-    m_reader = std::make_unique<Reader>(*m_level.parser);
+    m_areNamesUnique = areNamesUnique(command);
+    m_reader.reset();
+}
+
+LevelParser& LineReader::level() {
+    if (m_reader == nullptr) {
+        m_level = makeLevelParser(*m_line.chosen);
+        m_reader = std::make_unique<Reader>(*m_level.parser);
+    }
+    return m_level;
 }
 
 // A word is a verb as a whole: it is looked up as if it had dashes, which it must not have. Several names of
@@ -270,13 +298,14 @@ void LineReader::finish() {
 void LineReader::checkFront() {
     for (const Front& front : m_front) {
         NameMatcher matcher;
+        const LevelParser& known = level();
         const NameOutcome outcome =
-            matcher.look(front.argument, m_level.parser->registry().m_options, &m_level.parser->registry());
+            matcher.look(front.argument, known.parser->registry().m_options, &known.parser->registry());
         const std::string typed = terminalText(front.argument.substr(0, matcher.token().nameEnd));
         if (outcome == NameOutcome::ambiguous) {
             m_line.complain(messages::ambiguousOption(typed, dashedNames(matcher.bestNames())));
         } else if (outcome == NameOutcome::found &&
-                   m_level.options[static_cast<std::size_t>(matcher.index())] != front.option) {
+                   known.options[static_cast<std::size_t>(matcher.index())] != front.option) {
             m_line.complain(messages::belongsBehindVerb(typed, m_line.chosen->name()));
         }
     }

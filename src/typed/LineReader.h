@@ -37,7 +37,8 @@ private:
     void readArgument(std::size_t place);
     void readWord(std::size_t place);
     void readName(std::size_t place);
-    void readNamed(std::size_t place, const ReadArgument& read);
+    bool readWholeName(std::size_t place);
+    void readNamed(std::size_t place, const Option& option, const ReadArgument& read);
     void readValue(std::size_t place, const Option& option, const ReadArgument& read);
     void readUnfit(std::size_t place, const ReadArgument& read);
     bool readRepeatedLetter(std::size_t place, const ReadArgument& read);
@@ -49,6 +50,7 @@ private:
     void enterVerb(std::size_t place);
     std::vector<std::string> verbNamesFor(const std::string& word) const;
     void enter(Command& command);
+    LevelParser& level();
     bool isValueOf(const Option& option, const std::string& argument) const;
     void finish();
     void checkFront();
@@ -62,8 +64,14 @@ private:
 
     Command& m_program;
     CommandLine& m_line;
+    const SpaceClassifier m_spaces;
+    /// Whether no name stands for two options, so that a whole one is found without a parser.
+    bool m_areNamesUnique = false;
+    ///@{
+    /// Made when a name is not whole.
     LevelParser m_level;
     std::unique_ptr<Reader> m_reader;
+    ///@}
     std::vector<std::size_t> m_words;
     std::vector<Front> m_front;
     const Option* m_awaiting = nullptr;

@@ -38,6 +38,7 @@ void warnOfDeprecated(CommandLine& line) {
 
 Session::Session(Command& program, int argc, const char* const* argv, int purpose)
     : m_program(program), m_purpose(purpose), m_line(program, argc, argv) {
+    m_all.reserve(program.options.size());
     forEachOptionBelow(program, [&](Option& option) { m_all.push_back(&option); });
     m_taking.keptTexts = &program.keptTexts;
 }

@@ -1,3 +1,4 @@
+#include <algorithm>
 #include <memory>
 #include <new>
 
@@ -42,6 +43,13 @@ std::unique_ptr<Option> makeOption(Command& command, int role, const char* names
     option->most = shape.holds == holdsMany ? 0 : 1;
     option->completeAs = shape.isPath != 0 ? "file" : "";
     return option;
+}
+
+// What grows by a constant moves its elements again and again.
+void makeRoomForOne(std::vector<std::unique_ptr<Option>>& options) {
+    if (options.size() == options.capacity()) {
+        options.reserve(std::max<std::size_t>(2 * options.size(), 16));
+    }
 }
 
 } // namespace
@@ -100,7 +108,7 @@ bool addOption(Command* command, int role, const char* names, const char* descri
     }
     StateOwner owner{state};
     guarded(command, [&] {
-        command->options.reserve(command->options.size() + 1);
+        makeRoomForOne(command->options);
         std::unique_ptr<Option> option = makeOption(*command, role, names, description, *state->shape);
         option->hasDefault = initialIsDefault != 0;
         option->state = owner.state;

@@ -106,10 +106,12 @@ private:
 /// Looks at a program, verb by verb.
 class ProblemFinder {
 public:
+    explicit ProblemFinder(bool areNamesFree) : m_areNamesFree(areNamesFree) {}
+
     void look(const Command& command, const TakenNames* above) {
         m_where = command.path();
         TakenNames names(above);
-        const bool areFree = names.takeAll(command);
+        const bool areFree = m_areNamesFree || names.takeAll(command);
         for (const std::unique_ptr<Option>& option : command.options) {
             std::for_each(option->names.begin(), option->names.end(),
                           [&](const auto& name) { lookAtName(name); });
@@ -139,7 +141,7 @@ private:
             add(name, "a name is empty");
         } else if (dashLength(name) != 0) {
             add(name, "names are without dashes in front");
-        } else if (std::any_of(name.begin(), name.end(), endsName)) {
+        } else if (std::any_of(name.begin(), name.end(), [](char byte) { return endsName(byte); })) {
             add(name, "a name has no blank and no '='");
         }
     }
@@ -246,16 +248,23 @@ private:
         }
     }
 
+    /// Whether no name of an option is taken; then they need not be looked at one by one.
+    const bool m_areNamesFree;
     std::string m_where;
     std::vector<std::string> m_problems;
 };
+
+bool areNamesFree(const Command& command) {
+    return areNamesUnique(command) && std::all_of(command.verbs.begin(), command.verbs.end(),
+                                                  [](const auto& verb) { return areNamesFree(*verb); });
+}
 
 // NOLINTEND(misc-no-recursion)
 
 } // namespace
 
 std::vector<std::string> findProblems(const Command& program) {
-    ProblemFinder finder;
+    ProblemFinder finder(areNamesFree(program));
     finder.look(program, nullptr);
     return finder.take();
 }
