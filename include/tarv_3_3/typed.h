@@ -220,7 +220,9 @@ private:
 /// good as long as the program.
 class Command {
 public:
-    Command(const Command&) = delete;
+    /// Nowhere defined. Unlike a deleted one, it says what to do instead.
+    __attribute__((unavailable("tarv: hold a verb by reference, as in auto& log = program.verb(...)")))
+    Command(const Command&);
     Command& operator=(const Command&) = delete;
 
     /// An option without a default: it holds a `T()` until it is given. A `bool` makes a switch.
@@ -245,6 +247,11 @@ public:
     template <class T>
     Handle<T> bind(const char* names, T& variable, const char* description) {
         return add<T>(engine::roleOption, names, description, variable, &variable);
+    }
+    /// The same for an argument without a name.
+    template <class T>
+    Handle<T> bindPositional(const char* name, T& variable, const char* description) {
+        return add<T>(engine::rolePositional, name, description, variable, &variable);
     }
     ///@{
     /// An argument without a name. Several are filled in their order, required ones first; one of them
@@ -387,7 +394,10 @@ private:
 /// `tarv_3_3/completion.h`.
 ///
 /// What surprises most is mended: a number with a minus is the value of an option that takes numbers; a
-/// lone "-" is a value; "--title=" has an empty value; only lists are split at commas.
+/// lone "-" is a value; "--title=" has an empty value; only lists are split at commas. Where arguments
+/// without a name are numbers, "-5" is one of them unless an option has that name.
+///
+/// With "tarvoption=tarvlogenable=1" as the first argument, standard error says what each argument is.
 class Program : public Command {
 public:
     /// The name is the one in messages. A null version is none.
@@ -410,9 +420,9 @@ public:
         engine::setJoinLetters(m_record);
         return *this;
     }
-    /// A file of settings, weaker than the environment, which need not be there. A line is an option as
-    /// on the command line, its dashes left out or not, by its whole name: "max-count=5"; one for a verb
-    /// is "log.max-count=5". Lines that are blank or begin with '#' or ';' are comments. All lines are
+    /// A file of settings, weaker than the environment, which need not be there. A line is an option or an
+    /// action as on the command line, its dashes left out or not, by its whole name: "max-count=5"; one for a
+    /// verb is "log.max-count=5". Lines that are blank or begin with '#' or ';' are comments. All lines are
     /// checked.
     Program& settingsFile(const char* path) {
         engine::setSettingsFile(m_record, path);

@@ -41,8 +41,15 @@ std::string argumentName(const Option& option) {
     return name;
 }
 
-std::string shownName(const Option& option) {
-    return option.isPositional() ? argumentName(option) : dashed(option.name());
+std::string quotedName(const Option& option) {
+    return option.isPositional() ? argumentName(option) : "'" + dashed(option.name()) + "'";
+}
+
+std::string calledName(const Option& option) {
+    const char* const kind = option.isPositional()       ? "argument "
+                             : option.role == roleAction ? "action "
+                                                         : "option ";
+    return kind + quotedName(option);
 }
 
 namespace {

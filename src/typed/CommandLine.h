@@ -48,6 +48,8 @@ struct CommandLine {
     std::vector<Occurrence> occurrences;
     /// The command that the line names.
     Command* chosen;
+    /// Whether it is said what each argument is.
+    bool isTraced = false;
     Wish wish = Wish::none;
     bool hasComplaint = false;
     std::string complaint;
@@ -64,8 +66,11 @@ std::string dashed(const std::string& name);
 /// A positional argument as help and messages call it.
 std::string argumentName(const Option& option);
 
-/// The option as messages call it.
-std::string shownName(const Option& option);
+/// The option among others in messages: "'--level'" or "FILE".
+std::string quotedName(const Option& option);
+
+/// The option as messages call it: "option '--level'", "action '--list'" or "argument FILE".
+std::string calledName(const Option& option);
 
 /// What was typed for an occurrence, and where, fit for a terminal: "--copies=120", "VCS_DIR=x",
 /// "vcs.conf:3: git-dir=x".

@@ -59,6 +59,11 @@ Abbreviations wantedAbbreviations() {
                               : Abbreviations::areTaken;
 }
 
+bool takesNumbers(const Command& command) {
+    return std::any_of(command.options.begin(), command.options.end(),
+                       [](const auto& option) { return option->isPositional() && option->takesNumbers(); });
+}
+
 bool hasRest(const Command& command) {
     return std::any_of(command.options.begin(), command.options.end(),
                        [](const auto& option) { return option->role == roleRest; });
@@ -74,6 +79,7 @@ LineReader::LineReader(Command& program, CommandLine& line)
 void LineReader::read() {
     // The switch of the trace is no argument.
     if (m_end > 1 && m_line.arguments[1] == logSwitch) {
+        m_line.isTraced = true;
         ++m_next;
     }
     while (m_next < m_end) {
@@ -97,7 +103,11 @@ void LineReader::readArgument(std::size_t place) {
     } else if (argument == endMarkerText) {
         m_isBehindMarker = true;
     } else if (m_program.joinsLetters && dashLength(argument.substr(dash)) == 0) {
-        readLetters(place, dash);
+        if (isNumberWord(argument) && m_line.chosen->findOption(argument.substr(1, 1)) == nullptr) {
+            readWord(place);
+        } else {
+            readLetters(place, dash);
+        }
     } else {
         readName(place);
     }
@@ -122,7 +132,11 @@ void LineReader::readName(std::size_t place) {
     const ReadArgument found = m_reader->look(m_line.arguments[place], behind);
     if (found.role == ArgumentRole::named) {
         readNamed(place, *known.options[found.index], found);
-    } else if (!readRepeatedLetter(place, found)) {
+    } else if (readRepeatedLetter(place, found)) {
+        return;
+    } else if (found.role != ArgumentRole::ambiguous && isNumberWord(m_line.arguments[place])) {
+        readWord(place);
+    } else {
         readUnfit(place, found);
     }
 }
@@ -187,6 +201,11 @@ bool LineReader::isValueOf(const Option& option, const std::string& argument) co
            (option.takesNumbers() && looksNegative(argument));
 }
 
+// "-5" is a number where arguments without a name are numbers, unless it is the name of an option.
+bool LineReader::isNumberWord(const std::string& argument) const {
+    return looksNegative(argument) && takesNumbers(*m_line.chosen);
+}
+
 void LineReader::readUnfit(std::size_t place, const ReadArgument& read) {
     const std::string& argument = m_line.arguments[place];
     const std::string typed = typedName(argument, read);
@@ -196,8 +215,11 @@ void LineReader::readUnfit(std::size_t place, const ReadArgument& read) {
         m_line.complain(messages::ambiguousOption(typed, dashedNames(matcher.bestNames())));
         return;
     }
-    const Wish wish = read.token.hasValue ? Wish::none : wishOf(read.token.nameIn(argument), m_program);
-    if (wish == Wish::none) {
+    const Wish wish = wishOf(read.token.nameIn(argument), m_program);
+    if (wish != Wish::none && read.token.hasValue) {
+        m_line.complain(
+            messages::takesNoValue(terminalText(argument), wish == Wish::help ? "--help" : "--version"));
+    } else if (wish == Wish::none) {
         m_line.complain(messages::unknownOption(typed.empty() ? terminalText(argument) : typed),
                         suggestOption(*m_line.chosen, argument));
     } else if (m_line.wish == Wish::none) {

@@ -51,6 +51,7 @@ private:
     std::vector<std::string> verbNamesFor(const std::string& word) const;
     void enter(Command& command);
     LevelParser& level();
+    bool isNumberWord(const std::string& argument) const;
     bool isValueOf(const Option& option, const std::string& argument) const;
     void finish();
     void checkFront();

@@ -60,8 +60,9 @@ struct Option {
     bool isRequired = false;
     bool isHidden = false;
     bool mayBeEmpty = false;
-    /// Whether a default was given, and how its elements are shown.
+    /// Whether the host gave a default.
     bool hasDefault = false;
+    /// What it holds initially, as its elements are shown: its default, or what a bound variable held.
     std::vector<std::string> defaults;
     char separator = '\0';
     unsigned least = 0;

@@ -4,6 +4,7 @@
 #include <unordered_map>
 #include <unordered_set>
 
+#include "description/terminalText.h"
 #include "typed/LineReader.h"
 #include "typed/help.h"
 #include "typed/layers.h"
@@ -11,6 +12,8 @@
 #include "typed/rules.h"
 
 namespace tarv_3_3::typed::engine {
+
+using internal::terminalText;
 
 namespace {
 
@@ -29,9 +32,22 @@ void warnOfDeprecated(CommandLine& line) {
     for (const Occurrence& occurrence : line.occurrences) {
         const Option& option = *occurrence.option;
         if (option.isDeprecated && !occurrence.isOnlyChecked && told.insert(&option).second) {
-            line.warnings.push_back(messages::isDeprecated(shownName(option), option.insteadOfIt));
+            line.warnings.push_back(messages::isDeprecated(calledName(option), option.insteadOfIt));
         }
     }
+}
+
+// What it was understood as.
+std::string tracedOccurrence(const CommandLine& line, const Occurrence& occurrence) {
+    const Option& option = *occurrence.option;
+    const bool isWord = option.isPositional() && occurrence.source == fromCommandLine;
+    const bool hasValue = option.takesValue() || occurrence.source != fromCommandLine;
+    const bool isOff = option.isSwitch() && *occurrence.text == '0';
+    const std::string shown =
+        isWord ? "'" + terminalText(occurrence.text) + "'" : shownOccurrence(line, occurrence);
+    const std::string value = isWord ? "" : hasValue ? terminalText(occurrence.text) : isOff ? "off" : "";
+    return messages::isReadAs(shown, calledName(option), value) +
+           (occurrence.isOnlyChecked ? messages::isNotUsed : "");
 }
 
 } // namespace
@@ -122,6 +138,7 @@ const char* Session::nextPiece() {
     const char separator = occurrence.option->isPositional() ? '\0' : occurrence.option->separator;
     if (separator == '\0') {
         m_rest = {};
+        m_piece = occurrence.text;
         return occurrence.text;
     }
     m_piece = m_rest.substr(0, m_rest.find(separator));
@@ -138,8 +155,11 @@ void Session::judge(bool accepted) {
         m_program.hasParseFailed = true;
     }
     if (!accepted || m_taking.isRefused) {
+        const Occurrence& occurrence = m_line.occurrences[m_taken];
         const std::string reason = m_taking.reason.empty() ? messages::isNotValid : m_taking.reason;
-        m_line.complain(shownOccurrence(m_line, m_line.occurrences[m_taken]) + ": " + reason);
+        const bool isWhole = m_piece == occurrence.text;
+        m_line.complain(shownOccurrence(m_line, occurrence) + ": " +
+                        (isWhole ? reason : messages::ofPiece(terminalText(m_piece), reason)));
     }
 }
 
@@ -154,7 +174,19 @@ void Session::finish() {
     sayAll();
 }
 
+void Session::sayTrace() {
+    if (!m_program.verbs.empty()) {
+        m_errors += m_program.name() + ": " + messages::commandIs(m_line.chosen->path()) + "\n";
+    }
+    for (const Occurrence& occurrence : m_line.occurrences) {
+        m_errors += m_program.name() + ": " + tracedOccurrence(m_line, occurrence) + "\n";
+    }
+}
+
 void Session::sayAll() {
+    if (m_line.isTraced) {
+        sayTrace();
+    }
     if (m_line.wish == Wish::help) {
         m_output = renderHelp(*m_line.chosen, helpStyle(m_purpose == purposeRun));
         return;

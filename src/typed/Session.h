@@ -30,6 +30,7 @@ private:
     const char* nextPiece();
     void judge(bool accepted);
     void finish();
+    void sayTrace();
     void sayAll();
 
     Command& m_program;

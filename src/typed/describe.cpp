@@ -116,12 +116,12 @@ std::vector<std::string> tagsOf(const Option& option) {
 }
 
 void writeDefault(JsonWriter& json, const Option& option) {
-    if (!option.hasDefault) {
+    if (option.defaults.empty() || option.isRequired) {
         return;
     }
     if (option.isSwitch()) {
         json.member("default", option.defaults.front() == "on" ? "1" : "0");
-    } else if (!option.defaults.empty()) {
+    } else {
         const char separator = option.separator != '\0' ? option.separator : ' ';
         std::string text;
         for (const std::string& element : option.defaults) {

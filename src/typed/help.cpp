@@ -41,6 +41,7 @@ public:
             addOptions(*above, "Options of " + above->name());
         }
         appendSections();
+        appendRules();
         if (!m_command.verbs.empty()) {
             appendParagraph("Try '" + helpOfVerb() + "' to read more about a verb.");
         }
@@ -159,6 +160,19 @@ private:
             for (const Row& row : part.rows) {
                 appendRow(row, column);
             }
+        }
+    }
+
+    void appendRules() {
+        std::string rules;
+        for (const Command* command = &m_command; command != nullptr; command = command->parent) {
+            for (const GroupRule& rule : command->rules) {
+                const std::string text = ruleText(rule);
+                rules += text.empty() ? "" : rules.empty() ? text : "\n" + text;
+            }
+        }
+        if (!rules.empty()) {
+            appendParagraph(rules);
         }
     }
 

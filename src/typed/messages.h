@@ -4,7 +4,8 @@
 #include <vector>
 
 /// The wording of all that a program of the typed face says to its users. `typed` is what stands on the
-/// command line, fit for a terminal; names have their dashes.
+/// command line, fit for a terminal; names have their dashes. What is `called` something is an option, an
+/// action or an argument with that word in front: "option '--level'", "argument FILE".
 namespace tarv_3_3::typed::engine::messages {
 
 inline constexpr char aWholeNumber[] = "a whole number";
@@ -19,6 +20,7 @@ inline constexpr char isNotValid[] = "is not valid";
 inline constexpr char isEmpty[] = "the value is empty";
 inline constexpr char noVerb[] = "a verb is missing";
 inline constexpr char noAction[] = "an action is missing";
+inline constexpr char isNotUsed[] = ", which is not used";
 inline constexpr char outOfMemory[] = "out of memory";
 
 inline std::string listOf(const std::vector<std::string>& words, const char* last) {
@@ -34,6 +36,10 @@ inline std::string mustBe(std::string what) {
         what.pop_back();
     }
     return "must be " + what;
+}
+
+inline std::string ofPiece(const std::string& piece, const std::string& reason) {
+    return "'" + piece + "' " + reason;
 }
 
 inline std::string mustBeOneOf(const std::vector<std::string>& choices) {
@@ -80,44 +86,51 @@ inline std::string tooManyArguments(const std::string& typed) {
     return "unexpected argument '" + typed + "'";
 }
 
-inline std::string argumentIsMissing(const std::string& name) {
-    return "argument " + name + " is missing";
+inline std::string argumentIsMissing(const std::string& called) {
+    return called + " is missing";
 }
 
-inline std::string tooFewArguments(const std::string& name, unsigned least) {
-    return "argument " + name + " is needed at least " + std::to_string(least) + " times";
+inline std::string tooFewArguments(const std::string& called, unsigned least) {
+    return called + " is needed at least " + std::to_string(least) + " times";
 }
 
-inline std::string isRequired(const std::string& name) {
-    return "option '" + name + "' is required";
+inline std::string isRequired(const std::string& called) {
+    return called + " is required";
 }
 
-inline std::string excludeEachOther(const std::string& one, const std::string& other) {
-    return "options '" + one + "' and '" + other + "' exclude each other";
+/// `kinds` is "options", "actions" or "arguments", or empty where the names are of several kinds.
+inline std::string excludeEachOther(const std::string& kinds, const std::vector<std::string>& names) {
+    return kinds + (kinds.empty() ? "" : " ") + listOf(names, " and ") + " exclude each other";
 }
 
-inline std::string oneIsRequired(const std::vector<std::string>& names) {
-    return "one of the options " + listOf(names, " or ") + " is required";
+inline std::string oneIsRequired(const std::string& kinds, const std::vector<std::string>& names) {
+    return "one of " + (kinds.empty() ? "" : "the " + kinds + " ") + listOf(names, " or ") + " is required";
 }
 
-inline std::string goTogether(const std::vector<std::string>& names, const std::string& missing) {
-    return "options " + listOf(names, " and ") + " go together, but " + missing + " is missing";
+inline std::string goTogether(const std::string& kinds, const std::vector<std::string>& names,
+                              const std::string& missing) {
+    return kinds + (kinds.empty() ? "" : " ") + listOf(names, " and ") + " go together, but " + missing +
+           " is missing";
 }
 
-inline std::string needs(const std::string& name, const std::string& needed) {
-    return "option '" + name + "' needs option '" + needed + "'";
+inline std::string needs(const std::string& called, const std::string& needed) {
+    return called + " needs " + needed;
 }
 
-inline std::string twoActions(const std::string& one, const std::string& other) {
-    return "actions '" + one + "' and '" + other + "' exclude each other";
+inline std::string doesNotGoWith(const std::string& called, const std::string& action) {
+    return called + " does not go with " + action;
 }
 
-inline std::string doesNotGoWith(const std::string& name, const std::string& action) {
-    return "option '" + name + "' does not go with action '" + action + "'";
+inline std::string isDeprecated(const std::string& called, const std::string& instead) {
+    return called + " is deprecated" + (instead.empty() ? "" : "; use " + instead);
 }
 
-inline std::string isDeprecated(const std::string& name, const std::string& instead) {
-    return "option '" + name + "' is deprecated" + (instead.empty() ? "" : "; use " + instead);
+inline std::string commandIs(const std::string& path) {
+    return "the command is '" + path + "'";
+}
+
+inline std::string isReadAs(const std::string& shown, const std::string& called, const std::string& value) {
+    return shown + " is " + called + (value.empty() ? "" : ", value '" + value + "'");
 }
 
 inline std::string isShortFor(const std::string& typed, const std::string& whole) {

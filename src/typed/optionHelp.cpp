@@ -3,6 +3,7 @@
 #include <string_view>
 
 #include "typed/CommandLine.h"
+#include "typed/messages.h"
 #include "typed/ranges.h"
 
 namespace tarv_3_3::typed::engine {
@@ -32,7 +33,7 @@ const char* kindName(const Option& option) {
 }
 
 bool isOnByDefault(const Option& option) {
-    return option.isSwitch() && option.hasDefault && option.defaults.front() == "on";
+    return option.isSwitch() && !option.defaults.empty() && option.defaults.front() == "on";
 }
 
 std::string joined(const std::vector<std::string>& words, std::string_view separator) {
@@ -49,15 +50,41 @@ void add(std::vector<std::string>& facts, const char* label, const std::string& 
     }
 }
 
+std::vector<std::string> namesInHelp(const std::vector<Option*>& options) {
+    std::vector<std::string> names;
+    for (const Option* option : options) {
+        if (option != nullptr && !option->isHidden) {
+            names.push_back(option->isPositional() ? argumentName(*option) : dashed(option->name()));
+        }
+    }
+    return names;
+}
+
+// How many arguments a list takes, where that is more than its synopsis shows.
+std::string countText(const Option& option) {
+    const std::string least = std::to_string(option.least);
+    const std::string most = std::to_string(option.most);
+    if (!option.isMany() || (option.least <= 1 && option.most == 0)) {
+        return "";
+    }
+    return option.most == 0              ? "at least " + least + " times"
+           : option.least == option.most ? least + " times"
+           : option.least == 0           ? "at most " + most + " times"
+                                         : least + " to " + most + " times";
+}
+
 std::vector<std::string> factsOf(const Option& option) {
     std::vector<std::string> facts;
+    add(facts, "with ", messages::listOf(namesInHelp(option.actions), " or "));
+    add(facts, "", countText(option));
     add(facts, option.choices.size() > 1 ? "one of " : "", joined(option.choices, ", "));
     add(facts, "", hasRange(option) ? rangeText(option) : "");
     for (const std::string& must : option.musts) {
         add(facts, "", must);
     }
+    add(facts, "needs ", messages::listOf(namesInHelp(option.needed), " and "));
     add(facts, "", option.isRequired && !option.isPositional() ? "required" : "");
-    if (!option.isSwitch()) {
+    if (!option.isSwitch() && !option.isRequired) {
         const std::string separator(1, option.separator != '\0' ? option.separator : ' ');
         add(facts, "default: ", joined(option.defaults, separator));
     }
@@ -101,6 +128,24 @@ std::string argumentSynopsis(const Option& option) {
     const bool isNeeded = option.isRequired || option.least > 0;
     const std::string name = argumentName(option);
     return (isNeeded ? name : "[" + name + "]") + (option.isMany() ? "..." : "");
+}
+
+std::string ruleText(const GroupRule& rule) {
+    const std::vector<std::string> names = namesInHelp(rule.options);
+    if (names.size() < 2) {
+        return "";
+    }
+    const std::string list = messages::listOf(names, " and ");
+    switch (rule.kind) {
+    case atMostOne:
+        return "At most one of " + list + ".";
+    case atLeastOne:
+        return "At least one of " + list + " is required.";
+    case exactlyOne:
+        return "Exactly one of " + list + " is required.";
+    default:
+        return list + " go together.";
+    }
 }
 
 std::string optionText(const Option& option) {

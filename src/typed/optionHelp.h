@@ -3,7 +3,7 @@
 #include <string>
 #include <vector>
 
-#include "typed/Option.h"
+#include "typed/Command.h"
 
 namespace tarv_3_3::typed::engine {
 
@@ -18,6 +18,9 @@ std::string argumentSynopsis(const Option& option);
 
 /// The description, and in brackets what else is to know: choices, range, default, environment.
 std::string optionText(const Option& option);
+
+/// A rule over options as a sentence; empty unless help shows two of them or more.
+std::string ruleText(const GroupRule& rule);
 
 /// Names as they are typed, letters first.
 std::string namesSynopsis(const std::vector<std::string>& names);

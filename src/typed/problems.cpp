@@ -4,6 +4,7 @@
 #include <string_view>
 #include <unordered_set>
 
+#include "description/terminalText.h"
 #include "recognition/tokenSyntax.h"
 #include "typed/CommandLine.h"
 #include "typed/Taking.h"
@@ -185,7 +186,7 @@ private:
             taking.option = &option;
             const bool isTextAtWill = text.empty() && option.choices.empty();
             if (option.shape().kind != kindForeign && !isTextAtWill && !isValue(taking, text.c_str())) {
-                add(option.name(), "its default " + text + " " + taking.reason);
+                add(option.name(), "its default " + internal::terminalText(text) + " " + taking.reason);
             }
         }
     }

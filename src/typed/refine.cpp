@@ -156,8 +156,12 @@ void addDefaultReal(Option* option, double value) {
     guarded(option, [&] { option->defaults.push_back(showNumber(*option, value)); });
 }
 
+// A '\0' is no character that could be typed: it stands for none.
 void addDefaultText(Option* option, const char* text, unsigned long length) {
     guarded(option, [&] {
+        if (option->shape().kind == kindByte && length == 1 && *text == '\0') {
+            return;
+        }
         option->defaults.emplace_back(text != nullptr ? text : "", text != nullptr ? length : 0);
     });
 }

@@ -82,6 +82,17 @@ bool goesWith(const Option& option, const Option* action) {
            std::find(option.actions.begin(), option.actions.end(), action) != option.actions.end();
 }
 
+// An action of the command line takes the place of one in a settings file.
+void dropWeakerActions(CommandLine& line) {
+    GroupRule actions = {atMostOne, {}};
+    forEachOptionAbove(*line.chosen, [&](Option& option) {
+        if (option.role == roleAction) {
+            actions.options.push_back(&option);
+        }
+    });
+    dropWeaker(actions, line);
+}
+
 void dropByAction(CommandLine& line) {
     const Option* const action = givenAction(*line.chosen);
     forEachOptionAbove(*line.chosen, [&](Option& option) {
@@ -95,32 +106,49 @@ std::vector<std::string> quotedNames(const std::vector<Option*>& options) {
     std::vector<std::string> names;
     names.reserve(options.size());
     for (const Option* option : options) {
-        names.push_back("'" + shownName(*option) + "'");
+        names.push_back(quotedName(*option));
     }
     return names;
+}
+
+// What all of them are; empty where they are of several kinds.
+const char* kindsOf(const std::vector<Option*>& options) {
+    const auto areAll = [&](auto isOne) {
+        return std::all_of(options.begin(), options.end(),
+                           [&](const Option* option) { return isOne(*option); });
+    };
+    return areAll([](const Option& option) { return option.role == roleOption; })   ? "options"
+           : areAll([](const Option& option) { return option.role == roleAction; }) ? "actions"
+           : areAll([](const Option& option) { return option.isPositional(); })     ? "arguments"
+                                                                                    : "";
+}
+
+void complainOfTwo(Option* one, Option* other, CommandLine& line) {
+    const std::vector<Option*> both = {one, other};
+    line.complain(messages::excludeEachOther(kindsOf(both), quotedNames(both)));
 }
 
 void checkActions(CommandLine& line) {
     if (!line.chosen->hasActions()) {
         return;
     }
-    const Option* action = nullptr;
+    Option* action = nullptr;
     for (const Occurrence& occurrence : line.occurrences) {
-        if (occurrence.option->role != roleAction) {
+        if (occurrence.option->role != roleAction || occurrence.isOnlyChecked) {
             continue;
         }
         if (action != nullptr && action != occurrence.option) {
-            line.complain(messages::twoActions(shownName(*action), shownName(*occurrence.option)));
+            complainOfTwo(action, occurrence.option, line);
         }
         action = occurrence.option;
     }
+    if (action == nullptr) {
+        line.complain(messages::noAction);
+        return;
+    }
     for (const Occurrence& occurrence : line.occurrences) {
-        if (occurrence.source == fromCommandLine && action != nullptr &&
-            !goesWith(*occurrence.option, action)) {
-            line.complain(messages::doesNotGoWith(shownName(*occurrence.option), shownName(*action)));
-        }
-        if (occurrence.source == fromCommandLine && action == nullptr) {
-            line.complain(messages::noAction);
+        if (occurrence.source == fromCommandLine && !goesWith(*occurrence.option, action)) {
+            line.complain(messages::doesNotGoWith(calledName(*occurrence.option), calledName(*action)));
         }
     }
 }
@@ -128,15 +156,15 @@ void checkActions(CommandLine& line) {
 void checkOption(const Option& option, const Option* action, CommandLine& line) {
     const bool isMissing = (option.isRequired || option.least > 0) && !isOn(option);
     if (isMissing && goesWith(option, action)) {
-        line.complain(option.isPositional() ? messages::argumentIsMissing(argumentName(option))
-                                            : messages::isRequired(shownName(option)));
+        line.complain(option.isPositional() ? messages::argumentIsMissing(calledName(option))
+                                            : messages::isRequired(calledName(option)));
     } else if (option.isGiven() && option.state->source == fromCommandLine &&
                option.positions.size() < option.least) {
-        line.complain(messages::tooFewArguments(argumentName(option), option.least));
+        line.complain(messages::tooFewArguments(calledName(option), option.least));
     }
     for (const Option* needed : option.needed) {
         if (isOn(option) && !isOn(*needed)) {
-            line.complain(messages::needs(shownName(option), shownName(*needed)));
+            line.complain(messages::needs(calledName(option), calledName(*needed)));
         }
     }
 }
@@ -152,11 +180,12 @@ void checkGroup(const GroupRule& rule, CommandLine& line) {
         }
     }
     if (isForOne(rule) && given.size() > 1) {
-        line.complain(messages::excludeEachOther(shownName(*given[0]), shownName(*given[1])));
+        complainOfTwo(given[0], given[1], line);
     } else if ((rule.kind == atLeastOne || rule.kind == exactlyOne) && given.empty()) {
-        line.complain(messages::oneIsRequired(quotedNames(rule.options)));
+        line.complain(messages::oneIsRequired(kindsOf(rule.options), quotedNames(rule.options)));
     } else if (rule.kind == allOrNone && !given.empty() && missing != nullptr) {
-        line.complain(messages::goTogether(quotedNames(rule.options), "'" + shownName(*missing) + "'"));
+        line.complain(
+            messages::goTogether(kindsOf(rule.options), quotedNames(rule.options), quotedName(*missing)));
     }
 }
 
@@ -179,6 +208,7 @@ void dropExcluded(CommandLine& line) {
             }
         }
     });
+    dropWeakerActions(line);
     dropByAction(line);
 }
 

@@ -27,7 +27,7 @@ struct Setting {
 
 Setting findOwn(const Command& command, std::string_view name) {
     for (const std::unique_ptr<Option>& option : command.options) {
-        if (option->isPositional() || option->role == roleAction) {
+        if (option->isPositional()) {
             continue;
         }
         if (option->hasName(name)) {
@@ -103,7 +103,8 @@ private:
             return;
         }
         const bool isValueNeeded = setting.option->takesValue() && !token.hasValue;
-        if (isValueNeeded || (setting.isNegated && token.hasValue)) {
+        const bool isValueRefused = setting.isNegated || setting.option->role == roleAction;
+        if (isValueNeeded || (isValueRefused && token.hasValue)) {
             complain(line, isValueNeeded ? messages::settingNeedsValue(std::string(name))
                                          : messages::takesNoValue(internal::terminalText(line.text),
                                                                   std::string(name)));

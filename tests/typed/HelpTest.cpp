@@ -174,10 +174,67 @@ Try 'vcs remote VERB --help' to read more about a verb.
 )");
 }
 
+TEST(TypedHelp, SaysRulesAndCounts) {
+    tarv::Program program("p");
+    const auto user = program.option<std::string>("user,u", "Who.");
+    const auto guest = program.flag("guest", "Nobody.");
+    const auto secret = program.flag("secret", "").hidden();
+    const auto key = program.option<std::string>("key", "Her key.").needs(user).required();
+    tarv::Command& send = program.verb("send", "Sends.");
+    const auto fast = send.flag("fast", "Hurry.");
+    const auto points = send.positional<std::vector<int>>("point", "Where.").times(2, 3);
+    program.exactlyOne(user, guest).atMostOne(guest, secret);
+    send.allOrNone(fast, points, user).atLeastOne(fast, key).atMostOne(fast, guest);
+    EXPECT_EQ(helpAt(program, "60", {"send", "--help"}), R"(
+0 Usage: p send [OPTION]... POINT...
+Sends.
+
+Arguments:
+  POINT...         Where. (2 to 3 times)
+
+Options:
+      --fast       Hurry.
+  -h, --help       Show this help.
+
+Options of p:
+  -u, --user=TEXT  Who.
+      --guest      Nobody.
+      --key=TEXT   Her key. (needs --user; required)
+
+--fast, POINT and --user go together.
+At least one of --fast and --key is required.
+At most one of --fast and --guest.
+Exactly one of --user and --guest is required.
+)");
+}
+
+TEST(TypedHelp, SaysHowOftenAListIsGiven) {
+    const struct {
+        unsigned least;
+        unsigned most;
+        const char* usage;
+        const char* argument;
+    } rows[] = {{0, 0, "[FILE]...", "[FILE]...   What."},
+                {1, 0, "FILE...", "FILE...     What."},
+                {2, 0, "FILE...", "FILE...     What. (at least 2 times)"},
+                {2, 2, "FILE...", "FILE...     What. (2 times)"},
+                {0, 3, "[FILE]...", "[FILE]...   What. (at most 3 times)"},
+                {1, 3, "FILE...", "FILE...     What. (1 to 3 times)"}};
+    for (const auto& row : rows) {
+        SCOPED_TRACE(std::to_string(row.least) + ", " + std::to_string(row.most));
+        tarv::Program program("p");
+        program.positional<std::vector<std::string>>("file", "What.").times(row.least, row.most);
+        EXPECT_EQ(helpAt(program, "80", {"--help"}), std::string("\n0 Usage: p [OPTION]... ") + row.usage +
+                                                         "\n\nArguments:\n  " + row.argument +
+                                                         "\n\nOptions:\n  -h, --help  Show this help.\n");
+    }
+}
+
 TEST(TypedHelp, ListsActions) {
     tarv::Program program("tar", nullptr, "");
     program.action("list,t", "List it.");
-    program.action("extract,x", "Extract it.");
+    const auto extract = program.action("extract,x", "Extract it.");
+    program.flag("keep", "Keep it.").goesWith(extract);
     EXPECT_EQ(helpAt(program, "80", {"--help"}), R"(
 0 Usage: tar [OPTION]...
 
@@ -186,6 +243,7 @@ Actions:
   -x, --extract  Extract it.
 
 Options:
+      --keep     Keep it. (with --extract)
   -h, --help     Show this help.
 )");
 }

@@ -45,7 +45,10 @@ TEST(TypedLastResort, HelpAndVersionAreTakenWhereNothingElseFits) {
                         {"--version --help", "version"},
                         {"--help --version", "help of p"},
                         {"a b --help", "help of p"},
-                        {"--help=x", "2 p: unknown option '--help'\nTry 'p --help'.\n"}};
+                        {"--help=3", "2 p: --help=3: option '--help' takes no value\nTry 'p --help'.\n"},
+                        {"--hel=", "2 p: --hel=: option '--help' takes no value\nTry 'p --help'.\n"},
+                        {"--vers=3", "2 p: --vers=3: option '--version' takes no value\nTry 'p --help'.\n"},
+                        {"--help=3 --help", "help of p"}};
     for (const Row& row : rows) {
         SCOPED_TRACE(row.line);
         EXPECT_EQ(answer(program, row.line), row.answer);

@@ -186,15 +186,31 @@ TEST(TypedLayers, AnActionExcludesWhatDoesNotGoWithIt) {
     EXPECT_TRUE(*list && !*make);
 }
 
-TEST(TypedLayers, SettingsNameNeitherArgumentsNorActions) {
+TEST(TypedLayers, SettingsNameNoArguments) {
     const TemporaryDirectory directory;
     tarv::Program program("p");
     program.positional<std::string>("file", "");
-    program.action("list", "");
-    program.settingsFile(directory.write("conf", "file=x\nlist\n").c_str());
+    program.settingsFile(directory.write("conf", "file=x\n").c_str());
     EXPECT_EQ(parseLine(program, {}), wrong(directory.pathOf("conf") + ":1: unknown setting 'file'"));
-    program.settingsFile(directory.write("conf", "list\n").c_str());
-    EXPECT_EQ(parseLine(program, {}), wrong(directory.pathOf("conf") + ":1: unknown setting 'list'"));
+}
+
+TEST(TypedLayers, AnActionOfTheCommandLineIsStrongerThanOneOfAFile) {
+    const TemporaryDirectory directory;
+    tarv::Program tar("p");
+    const auto list = tar.action("list", "");
+    const auto extract = tar.action("extract", "");
+    const auto folder = tar.option<std::string>("folder", "").goesWith(extract);
+    tar.settingsFile(directory.write("conf", "--extract\n--folder=x\n").c_str());
+    EXPECT_EQ(parseLine(tar, {}), "ok");
+    EXPECT_TRUE(*extract && !*list);
+    EXPECT_EQ(*folder, "x");
+    EXPECT_EQ(parseLine(tar, {"--list"}), "ok");
+    EXPECT_TRUE(!*extract && *list && !folder.given());
+    tar.settingsFile(directory.write("conf", "extract=1\n").c_str());
+    EXPECT_EQ(parseLine(tar, {}),
+              wrong(directory.pathOf("conf") + ":1: extract=1: option 'extract' takes no value"));
+    tar.settingsFile(directory.write("conf", "extract\nlist\n").c_str());
+    EXPECT_EQ(parseLine(tar, {}), wrong("actions '--extract' and '--list' exclude each other"));
 }
 
 TEST(TypedLayers, AbbreviationsAreToldOrRefusedOnRequest) {

@@ -1,3 +1,4 @@
+#include <cstdlib>
 #include <string>
 #include <vector>
 
@@ -28,6 +29,30 @@ TEST(TypedLines, ANumberWithAMinusIsAValueOfAnOptionThatTakesNumbers) {
     EXPECT_EQ(parseLine(program, {"--offset", "-x"}), wrong("option '--offset' needs a value"));
     EXPECT_EQ(parseLine(program, {"--text", "-5"}), wrong("option '--text' needs a value"));
     EXPECT_EQ(parseLine(program, {"--offset", "-5x"}), wrong("--offset -5x: must be a whole number"));
+}
+
+TEST(TypedLines, ANumberWithAMinusIsAnArgumentWhereArgumentsAreNumbers) {
+    tarv::Program program("p");
+    const auto five = program.flag("5", "");
+    const auto verbose = program.counter("7", "");
+    const auto numbers = program.positional<std::vector<double>>("number", "");
+    EXPECT_EQ(parseLine(program, {"-6", "-.5", "3", "-5", "-77"}), "ok");
+    EXPECT_EQ(*numbers, (std::vector<double>{-6, -0.5, 3}));
+    EXPECT_TRUE(*five);
+    EXPECT_EQ(*verbose, 2);
+    EXPECT_EQ(parseLine(program, {"-6x"}), wrong("NUMBER '-6x': must be a number"));
+    EXPECT_EQ(parseLine(program, {"-x"}), wrong("unknown option '-x'"));
+
+    tarv::Program letters("p");
+    letters.joinLetters().flag("5", "");
+    const auto offset = letters.positional<int>("offset", "");
+    EXPECT_EQ(parseLine(letters, {"-6"}), "ok");
+    EXPECT_EQ(*offset, -6);
+    EXPECT_EQ(parseLine(letters, {"-56"}), wrong("unknown option '-6'"));
+
+    tarv::Program text("p");
+    text.positional<std::string>("file", "");
+    EXPECT_EQ(parseLine(text, {"-6"}), wrong("unknown option '-6'"));
 }
 
 TEST(TypedLines, ALoneDashIsAValue) {
@@ -202,6 +227,33 @@ TEST(TypedLines, TheFirstComplaintOfTheLineCounts) {
     program.option<int>("second", "");
     EXPECT_EQ(parseLine(program, {"--second=x", "--first=y"}), wrong("--second=x: must be a whole number"));
     EXPECT_EQ(parseLine(program, {"--first=y", "--bogus", "--more"}), wrong("unknown option '--bogus'"));
+}
+
+TEST(TypedLines, TheTraceSaysWhatEachArgumentIs) {
+    tarv::Program program("p", "1.0");
+    program.option<std::vector<int>>("level,l", "");
+    program.flag("color", "").env("TARV_TEST_TRACED");
+    program.counter("verbose,v", "");
+    tarv::Command& log = program.verb("log", "").does([] {});
+    log.positional<std::string>("file", "");
+    const std::string traceSwitch = "tarvoption=tarvlogenable=1";
+    EXPECT_EQ(parseLine(program, {traceSwitch, "--lev=1,2", "-vv", "lo", "-l", "3", "a\x1b"}),
+              "okp: the command is 'p log'\n"
+              "p: --lev=1,2 is option '--level', value '1,2'\n"
+              "p: -vv is option '--verbose'\n"
+              "p: -vv is option '--verbose'\n"
+              "p: -l 3 is option '--level', value '3'\n"
+              "p: 'a\\x1b' is argument FILE\n");
+    EXPECT_EQ(parseLine(program, {traceSwitch, "log", "--no-color", "--bogus"}),
+              "2 p: the command is 'p log'\n"
+              "p: --no-color is option '--color', value 'off'\n"
+              "p: unknown option '--bogus'\nTry 'p log --help'.\n");
+    setenv("TARV_TEST_TRACED", "yes", 1);
+    EXPECT_EQ(parseLine(program, {traceSwitch, "log"}),
+              "okp: the command is 'p log'\np: TARV_TEST_TRACED=yes is option '--color', value 'yes'\n");
+    unsetenv("TARV_TEST_TRACED");
+    EXPECT_EQ(parseLine(program, {traceSwitch, "--version"}).substr(0, 4), "0 p ");
+    EXPECT_EQ(parseLine(program, {"log", traceSwitch}), "ok");
 }
 
 TEST(TypedLines, ALineWithoutArgumentsOrProgramIsRight) {

@@ -44,7 +44,8 @@ TEST(TypedRefinements, ARangeHasBothBounds) {
                 {"--wait=121s", "must be from 1s to 120s"},
                 {"--wait=2min", ""},
                 {"--list=0,-1,1", ""},
-                {"--list=0,2", "must be from -1 to 1"}};
+                {"--list=2", "must be from -1 to 1"},
+                {"--list=0,2", "'2' must be from -1 to 1"}};
     for (const auto& row : rows) {
         SCOPED_TRACE(row.argument);
         EXPECT_EQ(parseLine(program, {row.argument}),
@@ -72,7 +73,7 @@ TEST(TypedRefinements, ChecksSeeEachElement) {
         .check("even", [](int value) { return value % 2 == 0; })
         .check("below 10", [](const int& value) { return value < 10; });
     EXPECT_EQ(parseLine(program, {"--even=2,4"}), "ok");
-    EXPECT_EQ(parseLine(program, {"--even=2,3"}), wrong("--even=2,3: must be even"));
+    EXPECT_EQ(parseLine(program, {"--even=2,3"}), wrong("--even=2,3: '3' must be even"));
     EXPECT_EQ(parseLine(program, {"--even=12"}), wrong("--even=12: must be below 10"));
 }
 

@@ -87,6 +87,33 @@ TEST(TypedRequests, ScriptsAreThoseOfTheProgramAsItWasStarted) {
               "letters, digits, '_', '.', '+' and '-'.\n");
 }
 
+TEST(TypedRequests, TheDescriptionHoldsWhatABoundVariableHeld) {
+    int level = 3;
+    bool color = true;
+    std::vector<std::string> files = {"-"};
+    tarv::Program program("p");
+    program.bind("level", level, "");
+    program.bind("color", color, "");
+    program.bind("required", level, "").required();
+    program.bindPositional("file", files, "");
+    EXPECT_EQ(parseLine(program, {"tarvoption=describe"}),
+              R"(0 {"format": "tarv-description", "version": "1.0",
+"program": {"name": "p"},
+"mends": ["negativeNumbers", "loneDash", "emptyValues", "emptyPositionals", "repeatedLetters"],
+"flags": ["rejectUnknown", "plainArePositional", "dashIsNotPositional"],
+"topics": [
+{"name": ""}],
+"declarations": [
+{"role": "option", "kind": "int32", "names": ["level"], "default": "3"},
+{"role": "option", "kind": "switch", "names": ["color"], "default": "1", "negatable": true},
+{"role": "option", "kind": "int32", "names": ["required"], "notes": {"required": "1"}},
+{"role": "option", "kind": "string", "names": ["file"], "default": "-", "positional": "filled", "count": {"least": 0}}],
+"rules": [
+{"kind": "required", "names": ["required"]}],
+"checks": []}
+)");
+}
+
 TEST(TypedRequests, TheDescriptionHoldsAllThatDecides) {
     tarv::Program program("vcs", "1.0", "Tracks versions.");
     const auto user = program.option<std::string>("user,u", "Who.").env("VCS_USER").mayBeEmpty();

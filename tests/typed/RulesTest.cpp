@@ -66,6 +66,32 @@ TEST(TypedRules, CountWhatIsGiven) {
     }
 }
 
+TEST(TypedRules, CallEverythingWhatItIs) {
+    tarv::Program program("p");
+    const auto all = program.flag("all", "");
+    const auto files = program.positional<std::vector<std::string>>("file", "");
+    const auto target = program.positional<std::string>("target", "");
+    program.flag("dry", "").needs(target);
+    program.exactlyOne(all, files).allOrNone(files, target);
+    const struct {
+        const char* line;
+        const char* message;
+    } rows[] = {{"", "one of '--all' or FILE is required"},
+                {"--all a", "'--all' and FILE exclude each other"},
+                {"--all --dry", "option '--dry' needs argument TARGET"}};
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.line);
+        EXPECT_EQ(parseLine(program, words(row.line)),
+                  "2 p: " + std::string(row.message) + "\nTry 'p --help'.\n");
+    }
+    tarv::Program arguments("p");
+    const auto one = arguments.positional<std::string>("one", "");
+    const auto two = arguments.positional<std::string>("two", "");
+    arguments.allOrNone(one, two);
+    EXPECT_EQ(parseLine(arguments, {"a"}),
+              "2 p: arguments ONE and TWO go together, but TWO is missing\nTry 'p --help'.\n");
+}
+
 TEST(TypedRules, ARuleOfAVerbHoldsForThatVerb) {
     tarv::Program program("p");
     const auto color = program.flag("color", "");

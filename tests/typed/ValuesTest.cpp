@@ -211,7 +211,9 @@ TEST(TypedValues, ContainersTakeEachPiece) {
     expectValue<std::set<std::string>>("b,a,b", {"a", "b"});
     expectValue<std::list<Paper>>("a4,us", {Paper::a4, Paper::us_letter});
     expectValue<std::vector<bool>>("yes,0", {true, false});
-    expectRefusal<std::vector<int>>("3,x", "must be a whole number");
+    expectRefusal<std::vector<int>>("x", "must be a whole number");
+    expectRefusal<std::vector<int>>("3,x", "'x' must be a whole number");
+    expectRefusal<std::vector<int>>("x,", "'x' must be a whole number");
     expectRefusal<std::vector<int>>(",", "the value is empty");
     expectRefusal<std::vector<bool>>("maybe", "must be one of 1, true, yes, on, 0, false, no, off");
 }
@@ -239,6 +241,30 @@ TEST(TypedValues, ABoundVariableIsRestoredByEveryParse) {
     EXPECT_EQ(parseLine(program, {}), "ok");
     EXPECT_EQ(level, 2);
     EXPECT_EQ(names, (std::vector<std::string>{"x"}));
+}
+
+TEST(TypedValues, ABoundVariableTakesAnArgumentWithoutAName) {
+    std::vector<std::string> files = {"-"};
+    tarv::Program program("p");
+    program.bindPositional("file", files, "");
+    EXPECT_EQ(parseLine(program, {"a", "b"}), "ok");
+    EXPECT_EQ(files, (std::vector<std::string>{"a", "b"}));
+    EXPECT_EQ(parseLine(program, {}), "ok");
+    EXPECT_EQ(files, (std::vector<std::string>{"-"}));
+}
+
+TEST(TypedValues, NoCharacterIsADefaultThatCannotBeTyped) {
+    tarv::Program program("p");
+    const auto separator = program.option("separator", "", '\0');
+    const auto mark = program.option("mark", "", 'x');
+    EXPECT_STREQ(program.problems(), "");
+    EXPECT_EQ(parseLine(program, {}), "ok");
+    EXPECT_EQ(*separator, '\0');
+    EXPECT_EQ(*mark, 'x');
+    EXPECT_EQ(parseLine(program, {"--help"}), "0 Usage: p [OPTION]...\n\nOptions:\n"
+                                              "      --separator=CHAR\n"
+                                              "      --mark=CHAR       (default: x)\n"
+                                              "  -h, --help            Show this help.\n");
 }
 
 TEST(TypedValues, ADefaultConstructedHandleHoldsAnInitialValue) {

@@ -171,6 +171,7 @@ TEST(TypedActions, OneActionAndWhatGoesWithIt) {
               wrongTar("option '--directory' does not go with action '--list'"));
     EXPECT_EQ(parseLine(tar, {"-x"}), wrongTar("option '--directory' is required"));
     EXPECT_EQ(parseLine(tar, {"a"}), wrongTar("an action is missing"));
+    EXPECT_EQ(parseLine(tar, {}), wrongTar("an action is missing"));
 }
 
 } // namespace

@@ -25,7 +25,7 @@ LINES = [
      3, "v2 paper 1 day 1 at 4 sizes 2 names 2 wait 2000 limit 4096 '' 'x y' p fast\n", ""),
     (["print", "p"], 3, "v0 paper 0 day 7 at -1 sizes 0 names 0 wait 20 limit 1024 'none' '' p\n", ""),
     (["print", "--size=1,9001", "p"], 2, "",
-     "host: --size=1,9001: must be from 1 to 9000\nTry 'host print --help'.\n"),
+     "host: --size=1,9001: '9001' must be from 1 to 9000\nTry 'host print --help'.\n"),
     (["print", "--name=much-too-long", "p"], 2, "",
      "host: --name=much-too-long: must be short\nTry 'host print --help'.\n"),
     (["print", "--where=x", "p"], 2, "", "host: --where=x: is not valid\nTry 'host print --help'.\n"),

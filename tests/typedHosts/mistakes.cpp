@@ -40,7 +40,7 @@ int main(int argc, char** argv) {
     program.option<Open>("x", "");
 #elif MISTAKE == 9 // tarv: a body returns an int, the exit code, or nothing
     program.does([] { return true; });
-#elif MISTAKE == 10 // deleted
+#elif MISTAKE == 10 // tarv: hold a verb by reference
     auto verb = program.verb("log", "");
 #elif MISTAKE == 11 // tarv: a bound of range() is outside of the option's type
     program.option<unsigned char>("x", "").range(0, 300);
