@@ -5,6 +5,7 @@
 #include "typed/Work.h"
 #include "typed/enumerators.h"
 #include "typed/guarded.h"
+#include "typed/messages.h"
 
 namespace tarv_3_3::typed::engine {
 
@@ -60,7 +61,7 @@ Command* createProgram(const char* name, const char* version, const char* descri
         program->names.front() = name != nullptr ? name : "";
         program->hasVersion = version != nullptr;
         program->version = version != nullptr ? version : "";
-        program->outOfMemory = program->name() + ": out of memory\n";
+        program->outOfMemory = program->name() + ": " + messages::outOfMemory + "\n";
         return program.release();
     } catch (const std::exception&) {
         return nullptr;
