@@ -40,7 +40,7 @@ show --count --pattern=tarv_3_3 --exclude=internal,export.h,variant.h include
 say "Another action, which prints what the file would become."
 show --replace --pattern=--count --with=--search examples/seek.options
 
-say "An option file holds arguments, one a line."
+say "An option file holds an action and options, one a line."
 show --option-file=examples/seek.options include
 
 say "Bad command lines: an ambiguous name, a value that is not allowed, a missing file, a foreign option."
@@ -49,8 +49,7 @@ show --search --pattern=x --color=red include
 show --search --pattern=x nowhere.txt
 show --count --pattern=x --in-place include
 
-say "Help: in general, and for one action."
+say "Help."
 show --help
-show --help search
 
 say "Now try your own: ./demo.sh --search --pattern=TEXT FILE..."

@@ -123,7 +123,7 @@ private:
     }
 
     void visitDirectory(const fs::path& path, std::uint32_t depth) {
-        if (depth >= m_job.maxDepth) {
+        if (depth >= m_job.maxDepth.value_or(UINT32_MAX)) {
             skip(path, "too deep");
             return;
         }
@@ -153,7 +153,8 @@ private:
         }
         const bool mustBeRegular = !isGiven || m_job.inPlace;
         const OpenFile file(target, mustBeRegular ? OpenFile::Kind::regular : OpenFile::Kind::any);
-        if (file.isRegular() && static_cast<std::uint64_t>(file.state().st_size) > m_job.maxSize) {
+        if (file.isRegular() &&
+            static_cast<std::uint64_t>(file.state().st_size) > m_job.maxSize.value_or(UINT64_MAX)) {
             skip(path, "too large");
         } else if (m_job.inPlace) {
             replaceInPlace(path, target, file);
@@ -187,7 +188,8 @@ private:
 
     void findMatches(const std::string& path, const std::vector<std::string_view>& lines) {
         std::vector<std::size_t> matches;
-        for (std::size_t i = 0; i < lines.size() && matches.size() < m_job.maxCount; ++i) {
+        for (std::size_t i = 0; i < lines.size() && matches.size() < m_job.maxCount.value_or(UINT32_MAX);
+             ++i) {
             if (lines[i].find(m_job.pattern) != std::string_view::npos) {
                 matches.push_back(i);
             }

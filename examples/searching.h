@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -20,20 +21,20 @@ struct Job {
     bool inPlace = false;
     std::uint32_t contextLines = 0;
     /// Matching lines to look for in each file.
-    std::uint32_t maxCount = UINT32_MAX;
+    std::optional<std::uint32_t> maxCount;
 
     /// Files and directories; none means standard input.
     std::vector<std::string> paths;
     /// Shell patterns of names that are passed over.
     std::vector<std::string> exclude;
-    std::uint64_t maxSize = UINT64_MAX;
-    std::uint32_t maxDepth = UINT32_MAX;
+    std::optional<std::uint64_t> maxSize;
+    std::optional<std::uint32_t> maxDepth;
 
     bool color = false;
     bool verbose = false;
     bool statistics = false;
     /// Seconds of work before progress is shown.
-    double progressAfter = 0;
+    double progressAfter = 0.5;
 };
 
 /// Does the job: results on standard output, complaints and progress on standard error.

@@ -41,7 +41,8 @@ void warnOfDeprecated(CommandLine& line) {
 std::string tracedOccurrence(const CommandLine& line, const Occurrence& occurrence) {
     const Option& option = *occurrence.option;
     const bool isWord = option.isPositional() && occurrence.source == fromCommandLine;
-    const bool hasValue = option.takesValue() || occurrence.source != fromCommandLine;
+    const bool hasValue =
+        option.takesValue() || (occurrence.source != fromCommandLine && option.role != roleAction);
     const bool isOff = option.isSwitch() && *occurrence.text == '0';
     const std::string shown =
         isWord ? "'" + terminalText(occurrence.text) + "'" : shownOccurrence(line, occurrence);

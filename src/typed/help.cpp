@@ -59,7 +59,7 @@ private:
     }
 
     void appendUsage() {
-        std::string usage = m_command.path() + " [OPTION]...";
+        std::string usage = m_command.path() + (m_command.hasActions() ? " ACTION" : "") + " [OPTION]...";
         if (!m_command.verbs.empty()) {
             usage += m_command.body == nullptr ? " VERB [ARGUMENT]..." : " [VERB [ARGUMENT]...]";
         }

@@ -5,12 +5,7 @@
 set -u
 
 in_help() {
-    {
-        "$2" --help
-        for action in search count replace help; do
-            "$2" --help "$action"
-        done
-    } | sed -n '/^-/{s/=.*//;s/   *[^ -].*//;s/ (default)//;p}' | tr -s ' ,|' '\n' | sed 's/^-*//' | sort -u
+    "$2" --help | sed -n '/^  \(    \)\?-/{s/^ *//;s/=.*//;s/  .*//;p}' | tr -s ' ,' '\n' | sed 's/^-*//' | sort -u
 }
 
 in_page() {

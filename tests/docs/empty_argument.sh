@@ -12,7 +12,7 @@ set -u
 expected='
 readme 2 readme: unexpected argument '"''"'|Try '"'readme --help'"'.|
 tasks 2 tasks: unknown verb '"''"'|Try '"'tasks --help'"'.|
-seek 2 seek: No action defined.|Try '"'seek --help'"'.|
+seek 2 seek: FILE '"''"': must be an existing file or directory|Try '"'seek --help'"'.|
 vcs 2 vcs: unknown verb '"''"'|Try '"'vcs --help'"'.|
 convert 0 to png, linear, quality 85, gamma 1, 1 jobs, 268435456 bytes|in '"'.', title ''"', widths|file '"''"'|
 sort_lines 0 order text|buffer 0, batch 16, parallel 1|

@@ -236,7 +236,7 @@ TEST(TypedHelp, ListsActions) {
     const auto extract = program.action("extract,x", "Extract it.");
     program.flag("keep", "Keep it.").goesWith(extract);
     EXPECT_EQ(helpAt(program, "80", {"--help"}), R"(
-0 Usage: tar [OPTION]...
+0 Usage: tar ACTION [OPTION]...
 
 Actions:
   -t, --list     List it.

@@ -206,6 +206,14 @@ TEST(TypedLayers, AnActionOfTheCommandLineIsStrongerThanOneOfAFile) {
     EXPECT_EQ(*folder, "x");
     EXPECT_EQ(parseLine(tar, {"--list"}), "ok");
     EXPECT_TRUE(!*extract && *list && !folder.given());
+    EXPECT_EQ(parseLine(tar, {"tarvoption=tarvlogenable=1", "--list"}),
+              "okp: --list is action '--list'\n"
+              "p: " +
+                  directory.pathOf("conf") +
+                  ":1: --extract is action '--extract', which is not used\n"
+                  "p: " +
+                  directory.pathOf("conf") +
+                  ":2: --folder=x is option '--folder', value 'x', which is not used\n");
     tar.settingsFile(directory.write("conf", "extract=1\n").c_str());
     EXPECT_EQ(parseLine(tar, {}),
               wrong(directory.pathOf("conf") + ":1: extract=1: option 'extract' takes no value"));
