@@ -13,6 +13,10 @@ struct LineAnswer {
     bool isAccepted = false;
     /// Why it is not.
     std::string message;
+    /// Whether that is an argument without a name which its option does not take.
+    bool isWordRefused = false;
+    /// The option that each argument without a name goes to, where they fill several by their order.
+    std::vector<std::size_t> words;
     /// The values of each option that was given, "" for one without, and the arguments behind "--".
     std::map<std::size_t, std::vector<std::string>> values;
     std::vector<std::string> plain;

@@ -12,12 +12,8 @@ using namespace tarv_3_3;
 
 OlderLines::OlderLines(const Side& side, Examples& examples) : m_side(side), m_examples(examples) {
     for (std::size_t place = 0; place < side.line().options.size(); ++place) {
-        const Option& option = side.option(place);
-        if (option.isAction) {
+        if (side.option(place).isAction) {
             m_actions.push_back(place);
-        }
-        if (option.positional == Positional::filled && option.count && option.count->least > 0) {
-            m_neededPositionals.push_back(place);
         }
     }
     for (const Rule& rule : side.line().rules) {
@@ -29,22 +25,40 @@ OlderLines::OlderLines(const Side& side, Examples& examples) : m_side(side), m_e
 }
 
 std::optional<std::vector<std::string>> OlderLines::with(std::set<std::size_t> places) {
-    places.insert(m_neededPositionals.begin(), m_neededPositionals.end());
-    addWhatIsNeeded(places);
-    std::vector<std::string> arguments = argumentsOf(places);
-    if (askLine(m_side, arguments).isAccepted) {
-        return arguments;
-    }
-    for (const std::size_t action : m_actions) {
+    return accepted(places, std::nullopt);
+}
+
+std::optional<std::vector<std::string>> OlderLines::withWords(std::size_t count) {
+    return accepted({}, count);
+}
+
+// With an action where none of the line's own is enough.
+std::optional<std::vector<std::string>> OlderLines::accepted(const std::set<std::size_t>& places,
+                                                             std::optional<std::size_t> wordCount) {
+    auto arguments = ask(places, wordCount);
+    for (std::size_t i = 0; i < m_actions.size() && !arguments; ++i) {
         std::set<std::size_t> more = places;
-        more.insert(action);
-        addWhatIsNeeded(more);
-        arguments = argumentsOf(more);
-        if (askLine(m_side, arguments).isAccepted) {
-            return arguments;
+        more.insert(m_actions[i]);
+        arguments = ask(more, wordCount);
+    }
+    return arguments;
+}
+
+std::optional<std::vector<std::string>> OlderLines::ask(std::set<std::size_t> places,
+                                                        std::optional<std::size_t> wordCount) {
+    addWhatIsNeeded(places);
+    std::set<std::size_t> filled;
+    for (const std::size_t place : m_side.slots().places()) {
+        if (places.erase(place) != 0) {
+            filled.insert(place);
         }
     }
-    return std::nullopt;
+    const std::optional<std::size_t> count = wordCount ? wordCount : m_examples.wordCount(filled);
+    if (!count) {
+        return std::nullopt;
+    }
+    const std::vector<std::string> arguments = argumentsOf(places, *count);
+    return askLine(m_side, arguments).isAccepted ? std::optional(arguments) : std::nullopt;
 }
 
 // What one rule adds may be what another one asks about.
@@ -74,13 +88,15 @@ bool OlderLines::addOnce(std::set<std::size_t>& places, const std::vector<std::s
     return places.size() != before;
 }
 
-std::vector<std::string> OlderLines::argumentsOf(const std::set<std::size_t>& places) {
+std::vector<std::string> OlderLines::argumentsOf(const std::set<std::size_t>& places, std::size_t wordCount) {
     std::vector<std::string> arguments;
     for (const std::size_t place : places) {
         const std::vector<std::string> more = m_examples.argumentsOf(place);
         const bool isAction = m_side.option(place).isAction;
         arguments.insert(isAction ? arguments.begin() : arguments.end(), more.begin(), more.end());
     }
+    const std::vector<std::string> words = m_examples.words(wordCount);
+    arguments.insert(arguments.end(), words.begin(), words.end());
     return arguments;
 }
 

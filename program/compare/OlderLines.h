@@ -18,17 +18,23 @@ public:
     /// action where one is needed; none where no such line is accepted.
     std::optional<std::vector<std::string>> with(std::set<std::size_t> places);
 
+    /// The same, with this number of arguments without a name and no option that is not needed.
+    std::optional<std::vector<std::string>> withWords(std::size_t count);
+
     const std::vector<std::size_t>& actions() const { return m_actions; }
 
 private:
     void addWhatIsNeeded(std::set<std::size_t>& places) const;
     bool addOnce(std::set<std::size_t>& places, const std::vector<std::size_t>& rule, int kind) const;
-    std::vector<std::string> argumentsOf(const std::set<std::size_t>& places);
+    std::optional<std::vector<std::string>> accepted(const std::set<std::size_t>& places,
+                                                     std::optional<std::size_t> wordCount);
+    std::optional<std::vector<std::string>> ask(std::set<std::size_t> places,
+                                                std::optional<std::size_t> wordCount);
+    std::vector<std::string> argumentsOf(const std::set<std::size_t>& places, std::size_t wordCount);
 
     const Side& m_side;
     Examples& m_examples;
     std::vector<std::size_t> m_actions;
-    std::vector<std::size_t> m_neededPositionals;
     /// The places that each rule names.
     std::vector<std::vector<std::size_t>> m_rules;
 };

@@ -1,10 +1,14 @@
 #pragma once
 
+#include <map>
 #include <string>
 #include <unordered_map>
 #include <vector>
 
+#include <tarv_3_3/explain.h>
+
 #include "model/CommandLine.h"
+#include "model/Slots.h"
 #include "model/rebuild.h"
 
 namespace tarv_program {
@@ -33,18 +37,24 @@ public:
     /// What "--" and `typed` means.
     Meaning meaningOf(const std::string& typed) const;
 
-    static constexpr auto nowhere = static_cast<std::size_t>(-1);
-    /// The option that has exactly one of these names; the first names count most.
+    static constexpr auto nowhere = Slots::nowhere;
+    /// The option that has exactly one of these names; the first names count most. One whose name nobody
+    /// types is found where no other has it.
     std::size_t placeOf(const std::vector<std::string>& names) const;
 
     /// The options that have exactly this name, in their order: synonyms may repeat one.
     const std::vector<std::size_t>& placesOf(const std::string& name) const;
 
-    /// The option that positional arguments fill.
-    std::size_t filledPlace() const;
+    /// The options that positional arguments fill.
+    std::vector<std::size_t> filledPlaces() const;
+    const Slots& slots() const { return m_slots; }
+    /// Which option each positional argument of an explained line goes to, `nowhere` for one too many, by the
+    /// place of the argument. Nothing where an option has no count: then it takes all of them.
+    std::map<std::size_t, std::size_t> wordsOf(const tarv_3_3::Explanation& explanation) const;
 
 private:
     const CommandLine& m_line;
+    const Slots m_slots;
     Parser m_parser;
     std::unordered_map<std::string, std::vector<std::size_t>> m_places;
 };
@@ -62,6 +72,7 @@ public:
 
 private:
     std::size_t findTwin(std::size_t place) const;
+    std::size_t findFilledTwin(std::size_t place) const;
 
     std::vector<std::size_t> m_twins;
 };

@@ -18,6 +18,7 @@ CommandLine alone(const Option& option) {
     only.topic.clear();
     only.notes.clear();
     only.defaultText.reset();
+    only.separator = option.isSlot() ? '\0' : option.separator;
     only.positional = Positional::no;
     return line;
 }
@@ -77,13 +78,19 @@ void add(std::vector<std::string>& values, const std::vector<std::string>& more)
 
 } // namespace
 
-ValueQuestion::ValueQuestion(const Option& option) : m_kind(option.kind), m_parser(rebuild(alone(option))) {
+ValueQuestion::ValueQuestion(const Option& option)
+    : m_kind(option.kind),
+      m_takesEmptyWord(option.isSlot() && option.kind == vtString && option.allowed.empty()),
+      m_isSlot(option.isSlot()), m_parser(rebuild(alone(option))) {
     if (const std::string* const range = option.note("range")) {
         m_range = *range;
     }
 }
 
 std::optional<std::vector<std::string>> ValueQuestion::accept(const std::string& text) const {
+    if (m_isSlot && text.empty()) {
+        return m_takesEmptyWord ? std::optional<std::vector<std::string>>({""}) : std::nullopt;
+    }
     const std::string argument = text.empty() ? "--value" : "--value=" + text;
     const char* const argv[] = {"", argument.c_str()};
     const Result result = createResult(*m_parser);

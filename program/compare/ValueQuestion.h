@@ -23,6 +23,9 @@ private:
     bool isInRange(const std::string& text) const;
 
     tarv_3_3::das_variant_type_t m_kind;
+    /// An argument without a name that is empty is a text like any other.
+    bool m_takesEmptyWord;
+    bool m_isSlot;
     std::optional<std::string> m_range;
     Parser m_parser;
 };

@@ -23,7 +23,6 @@ public:
             if (m_sides.twin(place) != Side::nowhere) {
                 compareDefault(place);
                 compareEnvironment(place);
-                compareCount(place);
                 compareChecks(place);
             }
         }
@@ -46,6 +45,7 @@ private:
 
     std::string titleOf(std::size_t place) const {
         return older(place).names.empty() ? "the positional option"
+               : older(place).isSlot()    ? visible(older(place).shownName())
                                           : shellQuoted("--" + older(place).primaryName());
     }
 
@@ -70,23 +70,6 @@ private:
             report("environment", shellQuoted(*before + "=" + text) + " " + m_examples.shown({}),
                    "gives " + titleOf(place),
                    now == nullptr ? "is not read" : "is not read; " + shellQuoted(*now) + " is");
-        }
-    }
-
-    void compareCount(std::size_t place) {
-        const Count before = older(place).count.value_or(Count());
-        const Count now = newer(place).count.value_or(Count());
-        if (now.least > before.least) {
-            report("count", m_examples.shown({}),
-                   titleOf(place) + " takes " + std::to_string(before.least) + " arguments or more",
-                   "it takes " + std::to_string(now.least) + " or more");
-        }
-        if (now.most && (!before.most || *now.most < *before.most)) {
-            report("count", m_examples.shown({}),
-                   titleOf(place) + " takes " +
-                       (before.most ? std::to_string(*before.most) + " arguments at most"
-                                    : "any number of arguments"),
-                   "it takes " + std::to_string(*now.most) + " at most");
         }
     }
 

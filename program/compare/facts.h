@@ -6,8 +6,8 @@
 
 namespace tarv_program {
 
-/// Compares what no command line shows: defaults, environment variables, settings and option files, how many
-/// arguments an option takes, what is mended; and lists what nobody can judge.
+/// Compares what no command line shows: defaults, environment variables, settings and option files, what is
+/// mended; and lists what nobody can judge.
 void compareFacts(const Sides& sides, Examples& examples, Comparison& comparison);
 
 } // namespace tarv_program

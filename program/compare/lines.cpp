@@ -25,10 +25,14 @@ public:
         compareSingleOptions();
         compareActions();
         compareRules();
+        compareWordCounts();
         compareNameless();
     }
 
 private:
+    /// Nobody types more without an asterisk.
+    static constexpr std::size_t mostWords = 100;
+
     using Places = std::set<std::size_t>;
 
     std::size_t optionCount() const { return m_sides.older.line().options.size(); }
@@ -47,7 +51,8 @@ private:
         if (const auto arguments = m_lines.with(places)) {
             const LineAnswer now = askLine(m_sides.newer, *arguments);
             // One reason is shown once.
-            if (!now.isAccepted && m_reasons.insert(reasonOf(now.message)).second) {
+            const bool isJudged = !now.isAccepted && !isValueAlone(askLine(m_sides.older, *arguments), now);
+            if (isJudged && m_reasons.insert(reasonOf(now.message)).second) {
                 report(*arguments, "is accepted", "is refused: " + visible(now.message));
             }
         }
@@ -144,10 +149,39 @@ private:
             arguments.insert(arguments.end(), nameless.begin(), nameless.end());
             before = askLine(m_sides.older, arguments, Wanted::values);
         }
+        compareMeaning(arguments, before);
+    }
+
+    // Each number of arguments at which one of the sides takes them for others, or takes no more.
+    void compareWordCounts() {
+        std::set<std::size_t> counts;
+        for (const Side* const side : {&m_sides.older, &m_sides.newer}) {
+            std::size_t sum = 0;
+            for (const std::size_t place : side->slots().places()) {
+                const Count& count = *side->option(place).count;
+                for (const std::size_t more : {count.least, count.most.value_or(count.least + 1)}) {
+                    counts.insert({sum + more, sum + more + 1});
+                }
+                sum += std::max(count.least, count.most.value_or(count.least + 1));
+                counts.insert({sum, sum + 1});
+            }
+        }
+        for (const std::size_t count : counts) {
+            const auto arguments = count <= mostWords ? m_lines.withWords(count) : std::nullopt;
+            if (arguments) {
+                compareMeaning(*arguments, askLine(m_sides.older, *arguments, Wanted::values));
+            }
+        }
+    }
+
+    void compareMeaning(const std::vector<std::string>& arguments, const LineAnswer& before) {
         if (!before.isAccepted) {
             return;
         }
         const LineAnswer now = askLine(m_sides.newer, arguments, Wanted::values);
+        if (isValueAlone(before, now)) {
+            return;
+        }
         const std::string what = !now.isAccepted        ? "is refused: " + visible(now.message)
                                  : !isSame(before, now) ? "is understood in another way"
                                                         : "";
@@ -156,6 +190,19 @@ private:
         if (!what.empty() && reason != "Value validation problem" && m_reasons.insert(reason).second) {
             report(arguments, "is accepted", what);
         }
+    }
+
+    // Whether an argument went to the same option on both sides: values are compared by themselves.
+    bool isValueAlone(const LineAnswer& before, const LineAnswer& now) const {
+        return now.isWordRefused && areSameWords(before, now);
+    }
+
+    bool areSameWords(const LineAnswer& before, const LineAnswer& now) const {
+        const auto isTwin = [this](std::size_t older, std::size_t newer) {
+            return m_sides.twin(older) == newer;
+        };
+        return std::equal(before.words.begin(), before.words.end(), now.words.begin(), now.words.end(),
+                          isTwin);
     }
 
     // Without the argument that it is about.
@@ -168,7 +215,9 @@ private:
         for (const auto& [place, values] : before.values) {
             expected[m_sides.twin(place)] = values;
         }
-        return expected == now.values && before.plain == now.plain;
+        // Of two texts that are equal, it matters which is which.
+        const bool areOrdered = before.words.empty() || now.words.empty() || areSameWords(before, now);
+        return areOrdered && expected == now.values && before.plain == now.plain;
     }
 
     // Some option that can be told from a positional argument.

@@ -5,6 +5,7 @@
 #include <tuple>
 
 #include "compare/abbreviations.h"
+#include "model/mends.h"
 #include "text/shellQuoted.h"
 
 namespace tarv_program {
@@ -15,6 +16,9 @@ namespace {
 using Owner = std::tuple<std::size_t, bool>;
 
 std::vector<std::string> candidatesOf(const Option& option) {
+    if (option.isSlot()) {
+        return {};
+    }
     std::vector<std::string> names = option.names;
     if (option.isSwitch()) {
         for (const std::string& name : option.names) {
@@ -64,6 +68,9 @@ private:
     static void collect(const Side& side, std::map<std::string, std::multiset<Owner>>& owners,
                         PlaceOf placeOf) {
         for (std::size_t place = 0; place < side.line().options.size(); ++place) {
+            if (side.option(place).isSlot()) {
+                continue;
+            }
             for (const std::string& name : side.option(place).names) {
                 // A switch is turned off by whatever begins so, its own name included.
                 const bool isSwitch = side.option(place).isSwitch();
@@ -101,6 +108,11 @@ private:
         const Meaning now = m_sides.newer.meaningOf(typed.longest);
         if (now.kind == Meaning::one && now.place == m_sides.twin(before.place) &&
             now.isNegated == before.isNegated) {
+            return;
+        }
+        // Help and the version need no declaration in programs that have them by themselves.
+        if (now.kind == Meaning::nothing && mendOf(m_sides.newer.line(), "--" + typed.longest) ==
+                                                m_sides.older.option(before.place).primaryName()) {
             return;
         }
         const std::string what = said(now);
@@ -150,10 +162,18 @@ void listNewNames(const Sides& sides, const Examples& examples, Comparison& comp
     std::set<std::string> names;
     for (std::size_t place = 0; place < sides.older.line().options.size(); ++place) {
         twins.insert(sides.twin(place));
-        names.insert(sides.older.option(place).names.begin(), sides.older.option(place).names.end());
+        if (!sides.older.option(place).isSlot()) {
+            names.insert(sides.older.option(place).names.begin(), sides.older.option(place).names.end());
+        }
     }
     for (std::size_t place = 0; place < sides.newer.line().options.size(); ++place) {
         const Option& option = sides.newer.option(place);
+        if (option.isSlot()) {
+            if (twins.count(place) == 0) {
+                comparison.additions.push_back(examples.shown({option.shownName()}));
+            }
+            continue;
+        }
         for (const std::string& name : option.names) {
             if (names.count(name) == 0) {
                 const bool isNew = twins.count(place) == 0;

@@ -16,8 +16,8 @@ bool acceptsAlike(const Option& older, const Option& newer) {
     const std::string* const before = older.note("range");
     const std::string* const now = newer.note("range");
     const bool isSameRange = before == nullptr ? now == nullptr : now != nullptr && *before == *now;
-    return older.kind == newer.kind && older.allowed == newer.allowed && older.separator == newer.separator &&
-           isSameRange;
+    const bool isSplitAlike = older.isSlot() == newer.isSlot() && older.separator == newer.separator;
+    return older.kind == newer.kind && older.allowed == newer.allowed && isSplitAlike && isSameRange;
 }
 
 std::string said(const Values& values) {
@@ -37,7 +37,7 @@ std::string said(const Values& values) {
 class ValueComparison {
 public:
     ValueComparison(const Sides& sides, std::size_t place, Examples& examples, Comparison& comparison)
-        : m_older(sides.older.option(place)), m_newer(sides.newer.option(sides.twin(place))),
+        : m_place(place), m_older(sides.older.option(place)), m_newer(sides.newer.option(sides.twin(place))),
           m_examples(examples), m_comparison(comparison), m_before(m_older), m_now(m_newer) {}
 
     void compareAll() {
@@ -112,11 +112,10 @@ private:
     }
 
     std::string shown(const std::string& value) const {
-        const bool isPositional = m_older.positional == Positional::filled && !value.empty();
-        return m_examples.shown(
-            {isPositional ? value : "--" + m_older.primaryName() + (value.empty() ? "" : "=" + value)});
+        return m_examples.shown(m_examples.argumentsWith(m_place, value));
     }
 
+    const std::size_t m_place;
     const Option& m_older;
     const Option& m_newer;
     Examples& m_examples;
@@ -130,7 +129,10 @@ private:
 void compareValues(const Sides& sides, Examples& examples, Comparison& comparison) {
     for (std::size_t place = 0; place < sides.older.line().options.size(); ++place) {
         const std::size_t twin = sides.twin(place);
-        if (twin != Side::nowhere && !acceptsAlike(sides.older.option(place), sides.newer.option(twin))) {
+        // Behind arguments that take all there are, one may be that no command line gives.
+        const bool isOutOfReach = sides.older.option(place).isSlot() && !examples.wordCount({place});
+        if (twin != Side::nowhere && !isOutOfReach &&
+            !acceptsAlike(sides.older.option(place), sides.newer.option(twin))) {
             ValueComparison question(sides, place, examples, comparison);
             question.compareAll();
             question.listAdditions();

@@ -1,6 +1,7 @@
 #include "explain/explainLine.h"
 
 #include <algorithm>
+#include <map>
 #include <set>
 
 #include <tarv_3_3/explain.h>
@@ -9,7 +10,7 @@
 #include "compare/Side.h"
 #include "compare/ValueQuestion.h"
 #include "explain/levels.h"
-#include "explain/mends.h"
+#include "model/mends.h"
 #include "text/shellQuoted.h"
 
 namespace tarv_program {
@@ -51,7 +52,9 @@ std::string sourceOf(int source) {
 /// Explains arguments by the parser of one level: the program, or one of its verbs.
 class Level {
 public:
-    explicit Level(const LevelPart& part) : m_part(part), m_side(part.side), m_arguments(part.arguments) {}
+    explicit Level(const LevelPart& part)
+        : m_part(part), m_side(part.side), m_arguments(part.arguments),
+          m_words(part.side.wordsOf(part.explanation)) {}
 
     void add(ExplainedLine& line) {
         for (std::size_t i = 0; i < m_part.count; ++i) {
@@ -67,7 +70,8 @@ public:
                 (!option.defaultText && variable == nullptr)) {
                 continue;
             }
-            std::string text = shellQuoted("--" + option.primaryName());
+            std::string text =
+                shellQuoted(option.isSlot() ? option.shownName() : "--" + option.primaryName());
             text += option.defaultText ? " is " + shellQuoted(*option.defaultText) : " has no default";
             text += variable != nullptr ? ", unless " + shellQuoted(*variable) + " is set" : "";
             line.notGiven.push_back(text);
@@ -87,6 +91,11 @@ private:
         const ExplainedArgument& found = m_part.at(place);
         ExplainedWord word;
         word.argument = shellQuoted(m_arguments[place]);
+        const auto asWord = m_words.find(place);
+        if (asWord != m_words.end()) {
+            explainWord(word, found, asWord->second, m_arguments[place]);
+            return word;
+        }
         if (found.place >= 0) {
             m_given.insert(static_cast<std::size_t>(found.place));
         }
@@ -117,6 +126,22 @@ private:
         return word;
     }
 
+    void explainWord(ExplainedWord& word, const ExplainedArgument& found, std::size_t option,
+                     const std::string& argument) {
+        if (option == Side::nowhere) {
+            word.means = "?";
+            word.remark = "one argument too many";
+            return;
+        }
+        m_given.insert(option);
+        word.means = titleOf(static_cast<int>(option));
+        setValue(word, static_cast<int>(option), argument);
+        if (word.remark.empty()) {
+            word.remark =
+                found.role == explainedPlain ? "positional, behind the end of options" : "positional";
+        }
+    }
+
     void explainOthers(ExplainedWord& word, const ExplainedArgument& found, std::size_t place) {
         static const char* const meanings[] = {
             "switches the trace on",     "", "",        "", "the end of options",
@@ -125,7 +150,8 @@ private:
         const std::string mend = mendOf(m_side.line(), m_arguments[place]);
         if (found.role == explainedUnknown && !mend.empty()) {
             word.means = mend == "help" || mend == "version" ? "--" + mend : "?";
-            word.remark = word.means == "?" ? "the program mends it: " + mend : "";
+            const bool isWhole = m_arguments[place] == "--" + mend || m_arguments[place] == "-h";
+            word.remark = word.means == "?" ? "the program mends it: " + mend : isWhole ? "" : "abbreviated";
             m_isMended = m_isMended || word.means == "?";
             m_isAnswered = m_isAnswered || word.means != "?";
         } else if (found.role == explainedUnknown) {
@@ -179,14 +205,14 @@ private:
 
     std::string titleOf(int place) const {
         const Option& option = m_side.option(static_cast<std::size_t>(place));
-        const std::string name =
-            option.positional == Positional::no ? "--" + option.primaryName() : option.primaryName();
+        const std::string name = option.shownName();
         return name.empty() ? "positional" : shellQuoted(name);
     }
 
     const LevelPart& m_part;
     const Side& m_side;
     const std::vector<std::string>& m_arguments;
+    const std::map<std::size_t, std::size_t> m_words;
     std::set<std::size_t> m_given;
     std::string m_refusedValue;
     bool m_isMended = false;

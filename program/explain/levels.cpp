@@ -70,7 +70,6 @@ void forEachLevel(const CommandLine& program, const std::vector<std::string>& ar
         }
         first += count + 1;
         lines.push_back(within(line, line.verbs[part.verb.place]));
-        lines.back().mends = program.mends;
     }
 }
 

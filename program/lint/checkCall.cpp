@@ -4,7 +4,7 @@
 
 #include "compare/ValueQuestion.h"
 #include "explain/levels.h"
-#include "explain/mends.h"
+#include "model/mends.h"
 #include "text/shellQuoted.h"
 
 namespace tarv_program {

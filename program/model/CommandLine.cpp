@@ -1,5 +1,7 @@
 #include "model/CommandLine.h"
 
+#include <algorithm>
+
 namespace tarv_program {
 
 const std::string* Option::note(std::string_view key) const {
@@ -9,6 +11,23 @@ const std::string* Option::note(std::string_view key) const {
         }
     }
     return nullptr;
+}
+
+std::string Option::shownName() const {
+    if (positional == Positional::no) {
+        return "--" + primaryName();
+    }
+    if (!isSlot()) {
+        return primaryName();
+    }
+    if (const std::string* const value = note("value")) {
+        return *value;
+    }
+    std::string name = primaryName();
+    std::transform(name.begin(), name.end(), name.begin(), [](char byte) {
+        return 'a' <= byte && byte <= 'z' ? static_cast<char>(byte - 'a' + 'A') : byte;
+    });
+    return name;
 }
 
 } // namespace tarv_program

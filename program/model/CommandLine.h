@@ -34,6 +34,11 @@ struct Option {
     const std::string* note(std::string_view key) const;
     /// "" for a positional option without a name.
     std::string primaryName() const { return names.empty() ? "" : names.front(); }
+    /// What people read: "FILE" where arguments fill it by their order, else the primary name with its
+    /// dashes.
+    std::string shownName() const;
+    /// Whether arguments without a name fill it by their order. Nobody types its name then.
+    bool isSlot() const { return positional == Positional::filled && count.has_value(); }
     bool isSwitch() const { return kind == tarv_3_3::vtBool; }
     bool takesValue() const { return kind != tarv_3_3::vtBool && kind != tarv_3_3::vtNull; }
 

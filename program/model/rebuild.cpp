@@ -1,9 +1,12 @@
 #include "model/rebuild.h"
 
+#include <algorithm>
 #include <charconv>
 #include <new>
 
 #include <tarv_3_3/description.h>
+
+#include "model/Slots.h"
 
 namespace tarv_program {
 
@@ -48,7 +51,8 @@ std::size_t declaredTogether(const std::vector<std::string>& names) {
 /// Declares one command line to one parser.
 class Builder {
 public:
-    Builder(const CommandLine& line, OptionFiles files) : m_line(line), m_files(files) {
+    Builder(const CommandLine& line, OptionFiles files)
+        : m_line(line), m_files(files), m_hasSlots(!Slots(line).places().empty()) {
         IParser* parser = nullptr;
         if (createParser(&parser, line.flags) != parseOk) {
             throw std::bad_alloc();
@@ -64,12 +68,15 @@ public:
         for (m_place = 0; m_place < m_line.options.size(); ++m_place) {
             declare(m_line.options[m_place]);
         }
+        if (m_hasSlots) {
+            m_parser->option("", "", vtString).tokenize(0).positional();
+        }
         for (const Option& option : m_line.options) {
             annotateOne(option);
         }
         for (std::size_t i = 0; i < m_line.rules.size(); ++i) {
             const Rule& rule = m_line.rules[i];
-            if (addRule(m_parser.get(), rule.kind, joined(rule.names).c_str()) != remarkStored) {
+            if (addRule(m_parser.get(), rule.kind, joined(declaredNames(rule)).c_str()) != remarkStored) {
                 throw Failure("rules[" + std::to_string(i) + "]: does not hold of what is declared");
             }
         }
@@ -82,6 +89,10 @@ private:
     }
 
     void declare(const Option& option) {
+        if (option.isSlot()) {
+            refine(declareAs(option, slotName(m_place)), option);
+            return;
+        }
         const bool isOptionFile = m_line.readsOptionFiles && m_files == OptionFiles::areRead &&
                                   option.primaryName() == "option-file" && !option.isAction;
         if (isOptionFile) {
@@ -117,13 +128,24 @@ private:
         for (const std::string& text : option.allowed) {
             made.allowValue(value(option, text));
         }
-        made.tokenize(option.separator);
-        if (option.defaultText && !isListDefault(option)) {
+        made.tokenize(option.isSlot() ? '\0' : option.separator);
+        if (option.defaultText && !option.isSlot() && !isListDefault(option)) {
             made.defaultValue(value(option, *option.defaultText));
         }
-        if (option.positional != Positional::no) {
+        if (option.positional != Positional::no && !m_hasSlots) {
             made.positional();
         }
+    }
+
+    std::vector<std::string> declaredNames(const Rule& rule) const {
+        std::vector<std::string> names;
+        for (const std::string& name : rule.names) {
+            const Option* const option = owner(name);
+            const bool isSlot = option != nullptr && option->isSlot();
+            names.push_back(isSlot ? slotName(static_cast<std::size_t>(option - m_line.options.data()))
+                                   : name);
+        }
+        return names;
     }
 
     // Programs with lists of values have lists as defaults, which no parser knows.
@@ -142,6 +164,9 @@ private:
 
     // Under the first name that is no other's as well. What this library does not know is not needed.
     void annotateOne(const Option& option) {
+        if (option.isSlot()) {
+            return;
+        }
         for (const Note& note : option.notes) {
             for (const std::string& name : option.names) {
                 if (owner(name) == &option) {
@@ -152,19 +177,24 @@ private:
         }
     }
 
+    // What is typed goes before what is not.
     const Option* owner(const std::string& name) const {
+        const Option* slot = nullptr;
         for (const Option& option : m_line.options) {
-            for (const std::string& known : option.names) {
-                if (known == name) {
-                    return &option;
-                }
+            if (std::find(option.names.begin(), option.names.end(), name) == option.names.end()) {
+                continue;
             }
+            if (!option.isSlot()) {
+                return &option;
+            }
+            slot = slot != nullptr ? slot : &option;
         }
-        return nullptr;
+        return slot;
     }
 
     const CommandLine& m_line;
     const OptionFiles m_files;
+    const bool m_hasSlots;
     Parser m_parser;
     std::size_t m_place = 0;
 };
@@ -173,6 +203,10 @@ private:
 
 Parser rebuild(const CommandLine& line, OptionFiles files) {
     return Builder(line, files).build();
+}
+
+std::string slotName(std::size_t place) {
+    return "\x01" + std::to_string(place);
 }
 
 std::optional<variant_t> valueOf(das_variant_type_t kind, const std::string& text) {

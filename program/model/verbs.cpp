@@ -25,6 +25,8 @@ bool hasOption(const std::vector<Option>& options, const std::string& primaryNam
 
 CommandLine within(const CommandLine& owner, const CommandLine& verb) {
     CommandLine line = verb;
+    line.version = owner.version;
+    line.mends = owner.mends;
     putInFront(line.topics, owner.topics);
     std::vector<Option> named;
     for (const Option& option : owner.options) {
@@ -50,7 +52,7 @@ CommandLine withRequiredAsRules(CommandLine line) {
     for (const Option& option : line.options) {
         const std::string* const required = option.note("required");
         if (required != nullptr && *required == "1" && !option.names.empty() &&
-            option.positional != Positional::unused) {
+            option.positional != Positional::unused && !option.isSlot()) {
             line.rules.push_back({ruleRequired, {option.primaryName()}});
         }
     }

@@ -5,7 +5,7 @@
 namespace tarv_program {
 
 /// The command line of a verb: its own options, and in front of them those of the command line that it
-/// belongs to.
+/// belongs to, which also decides what is mended.
 CommandLine within(const CommandLine& owner, const CommandLine& verb);
 
 /// The same command line, in which every option that is said to be required is so by a rule, verbs included.

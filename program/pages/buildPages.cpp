@@ -33,6 +33,35 @@ void addIfNotEmpty(std::vector<Section>& sections, Section made) {
     }
 }
 
+// What a program of the typed face has without declaring it, as far as the names are not the host's.
+void addLastResort(Section& options, const CommandLine& line) {
+    const auto isTaken = [&](const std::string& name) {
+        return std::any_of(line.options.begin(), line.options.end(), [&](const Option& option) {
+            return !option.isSlot() &&
+                   std::find(option.names.begin(), option.names.end(), name) != option.names.end();
+        });
+    };
+    if (line.mends.empty()) {
+        return;
+    }
+    Option help;
+    help.text = "Show help.";
+    for (const char* const name : {"help", "h"}) {
+        if (!isTaken(name)) {
+            help.names.emplace_back(name);
+        }
+    }
+    if (!help.names.empty()) {
+        options.entries.push_back(entryOf(help, line));
+    }
+    if (!line.version.empty() && !isTaken("version")) {
+        Option version;
+        version.names = {"version"};
+        version.text = "Show the version.";
+        options.entries.push_back(entryOf(version, line));
+    }
+}
+
 // Options in the order of the topics, those without one first.
 void addOptions(std::vector<Section>& sections, const CommandLine& line, int level) {
     Section actions = section("Actions", level);
@@ -52,6 +81,9 @@ void addOptions(std::vector<Section>& sections, const CommandLine& line, int lev
             if (isShown(option) && !option.isAction && option.topic == topic) {
                 options.entries.push_back(entryOf(option, line));
             }
+        }
+        if (topic.empty()) {
+            addLastResort(options, line);
         }
         addIfNotEmpty(sections, options);
     }
@@ -83,7 +115,7 @@ Runs synopsis(const std::vector<std::string>& command, const CommandLine& line) 
     if (has(true)) {
         add("ACTION", false, false);
     }
-    if (has(false)) {
+    if (has(false) || !line.mends.empty()) {
         add("OPTION", true, true);
     }
     if (!line.verbs.empty()) {
@@ -93,7 +125,7 @@ Runs synopsis(const std::vector<std::string>& command, const CommandLine& line) 
     for (const Option& option : line.options) {
         if (option.positional == Positional::filled ||
             (option.positional != Positional::no && option.count)) {
-            const std::string name = option.primaryName().empty() ? "ARGUMENT" : option.primaryName();
+            const std::string name = option.primaryName().empty() ? "ARGUMENT" : option.shownName();
             const unsigned long least = option.count ? option.count->least : 0;
             const unsigned long shown = std::min(least, 3UL);
             for (unsigned long i = 1; i < shown; ++i) {
@@ -110,7 +142,7 @@ void addArguments(std::vector<Section>& sections, const CommandLine& line, int l
     Section arguments = section("Arguments", level);
     for (const Option& option : line.options) {
         if (option.positional != Positional::no && !option.text.empty() && !option.names.empty()) {
-            arguments.entries.push_back({{{{Run::placeholder, option.primaryName()}}}, {option.text}});
+            arguments.entries.push_back({{{{Run::placeholder, option.shownName()}}}, {option.text}});
         }
     }
     addIfNotEmpty(sections, arguments);

@@ -318,14 +318,84 @@ TEST(Compare, ComparesSettingsMendsCountsAndSaysWhatItCannotJudge) {
     older.options[0].count = Count{1, 3};
     newer.options[0].count = Count{2, 2};
     const Comparison comparison = compare(older, newer);
-    EXPECT_EQ(reportAsBaseline(comparison), "count: tool: it takes 2 or more\n"
-                                            "count: tool: it takes 2 at most\n"
-                                            "settings: tool: does not\n"
-                                            "line: tool: does not\n");
-    EXPECT_EQ(comparison.unjudged,
-              (std::vector<std::string>{"--file is checked by the program: even",
-                                        "command lines are mended: letters",
-                                        "the program checks more than before: handlers"}));
+    EXPECT_EQ(reportAsBaseline(comparison),
+              "line: tool text: is refused: argument FILE is needed at least 2 times\n"
+              "line: tool text text text: is refused: there are too many arguments\n"
+              "settings: tool: does not\n"
+              "line: tool: does not\n");
+    EXPECT_EQ(
+        comparison.unjudged,
+        (std::vector<std::string>{"FILE is checked by the program: even", "command lines are mended: letters",
+                                  "the program checks more than before: handlers"}));
+}
+
+/// An argument without a name, of a program that tells several apart by their order.
+Option argument(const char* name, das_variant_type_t kind, Count count) {
+    Option option;
+    option.kind = kind;
+    option.names = {name};
+    option.positional = Positional::filled;
+    option.count = count;
+    return option;
+}
+
+TEST(Compare, ComparesArgumentsByTheirOrder) {
+    const Option source = argument("source", vtString, {1, {}});
+    const Option target = argument("target", vtString, {1, 1});
+    const Option number = argument("target", vtInt32, {1, 1});
+    const Option place = argument("place", vtString, {1, 1});
+    const Option more = argument("more", vtString, {0, 1});
+    const struct {
+        const char* title;
+        std::vector<Option> older;
+        std::vector<Option> newer;
+        const char* expected;
+    } rows[] = {
+        {"nothing changed", {source, target}, {source, target}, ""},
+        {"another name, which nobody types", {source, target}, {source, place}, ""},
+        {"the other way round",
+         {source, target},
+         {target, source},
+         "line: tool text text: is understood in another way\n"},
+        {"one more that may be left out", {target}, {target, more}, ""},
+        {"one more in front",
+         {target},
+         {place, target},
+         "line: tool text: is refused: argument TARGET is missing\n"},
+        {"one less",
+         {target, more},
+         {target},
+         "line: tool text text: is refused: there are too many arguments\n"},
+        {"one that is a number now", {source, target}, {source, number}, "value: tool text '': is refused\n"},
+        {"one that is a text now, which a number was", {source, number}, {source, target}, ""},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.title);
+        CommandLine older = described(nothing);
+        CommandLine newer = older;
+        older.options = row.older;
+        newer.options = row.newer;
+        EXPECT_EQ(reportAsBaseline(compare(older, newer)), row.expected);
+    }
+}
+
+TEST(Compare, TakesHelpThatAProgramHasByItselfForTheSame) {
+    CommandLine older = described([](IParser& p) {
+        p.option("help,h", "", vtNull);
+        p.option("version", "", vtNull);
+    });
+    CommandLine newer = described(nothing);
+    older.verbs = {newer};
+    older.verbs[0].names = {"log"};
+    newer.verbs = older.verbs;
+    const std::string neither = "name: tool --help: is unknown\n"
+                                "name: tool --h: is unknown\n"
+                                "name: tool --version: is unknown\n";
+    EXPECT_EQ(reportAsBaseline(compare(older, newer)), neither);
+    newer.mends = {"loneDash"};
+    EXPECT_EQ(reportAsBaseline(compare(older, newer)), "name: tool --version: is unknown\n");
+    newer.version = "1.0";
+    EXPECT_EQ(reportAsBaseline(compare(older, newer)), "");
 }
 
 CommandLine verb(std::vector<std::string> names, Declare declare) {

@@ -1,4 +1,4 @@
-#include "explain/mends.h"
+#include "model/mends.h"
 
 #include <algorithm>
 #include <cctype>
@@ -44,10 +44,10 @@ std::string mendOf(const CommandLine& line, const std::string& argument) {
             return mend.name;
         }
     }
-    if (!line.mends.empty() && (beginsName(argument, "help") || beginsName(argument, "version"))) {
-        return beginsName(argument, "help") ? "help" : "version";
+    if (!line.mends.empty() && beginsName(argument, "help")) {
+        return "help";
     }
-    return "";
+    return !line.mends.empty() && !line.version.empty() && beginsName(argument, "version") ? "version" : "";
 }
 
 } // namespace tarv_program
