@@ -1,6 +1,7 @@
 #include "front/files.h"
 
 #include <cerrno>
+#include <cstdio>
 #include <cstdlib>
 #include <cstring>
 #include <ctime>
@@ -9,6 +10,13 @@
 #include "model/CommandLine.h"
 
 namespace tarv_program {
+
+void print(const std::string& text) {
+    const bool isWritten = std::fwrite(text.data(), 1, text.size(), stdout) == text.size();
+    if (!isWritten || std::fflush(stdout) != 0) {
+        throw Failure(std::string("cannot write: ") + std::strerror(errno));
+    }
+}
 
 void writeFile(const std::string& path, const std::string& contents) {
     std::ofstream file(path, std::ios::binary);

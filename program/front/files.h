@@ -4,6 +4,9 @@
 
 namespace tarv_program {
 
+/// Writes to standard output. Throws `Failure` when it cannot be written.
+void print(const std::string& text);
+
 /// Writes a whole file. Throws `Failure` when that fails.
 void writeFile(const std::string& path, const std::string& contents);
 

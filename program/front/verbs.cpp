@@ -1,105 +1,85 @@
+#include "front/verbs.h"
+
 #include <algorithm>
 #include <cstdio>
+#include <string>
+#include <vector>
 
 #include <tarv_3_3/completion.h>
-#include <tarv_3_3/description.h>
 
 #include "compare/compare.h"
 #include "compare/report.h"
 #include "explain/explainLine.h"
-#include "front/Verb.h"
 #include "front/files.h"
 #include "lint/lintScript.h"
 #include "model/loadDescription.h"
+#include "model/rebuild.h"
 #include "pages/Page.h"
 #include "text/shellQuoted.h"
 
 namespace tarv_program {
 
-using namespace tarv_3_3;
+namespace typed = tarv_3_3::typed;
 
 namespace {
 
-constexpr int filesEverywhere = flagRejectUnknown | flagDashIsNotPositional | flagPlainArePositional;
+using Text = typed::Handle<std::string>;
 
-void declareHelp(IParser& parser) {
-    parser.option("help,h", "Print this help.", vtNull);
+Text declareProgram(typed::Command& verb) {
+    return verb.positional<std::string>("program", "The program, or a file with its description.")
+        .required()
+        .completeAs("file");
 }
 
-void declareFile(IParser& parser, const char* names, const char* text) {
-    parser.option(names, text, vtString).tokenize(0);
-    annotate(&parser, names, "complete", "file");
-    annotate(&parser, names, "value", "FILE");
+enum class Format { text, json, baseline };
+
+void declareCompare(typed::Program& tool) {
+    auto& verb =
+        tool.verb("compare", "Say which command lines that OLD accepts NEW does not, or takes for others.");
+    const Text older = verb.positional<std::string>("old", "A program, or a file with its description.")
+                           .required()
+                           .completeAs("file");
+    const Text newer =
+        verb.positional<std::string>("new", "What takes its place.").required().completeAs("file");
+    const auto format = verb.option(
+        "format,f", "How to print what was found; baseline: as a file for --baseline.", Format::text);
+    const Text baseline = verb.option<std::string>("baseline", "Breaks that are accepted, one a line, as "
+                                                               "--format=baseline prints them.")
+                              .value("FILE")
+                              .completeAs("file");
+    verb.does([=] {
+        Comparison comparison = compare(loadDescription(*older), loadDescription(*newer));
+        if (baseline.given()) {
+            acceptBreaks(comparison, contentsOf(*baseline));
+        }
+        print(*format == Format::json       ? reportAsJson(comparison)
+              : *format == Format::baseline ? reportAsBaseline(comparison)
+                                            : reportAsText(comparison));
+        return comparison.breaks.empty() || *format == Format::baseline ? 0 : 1;
+    });
 }
 
-void declarePositional(IParser& parser, const char* name) {
-    parser.option(name, "", vtString).tokenize(0).positional();
-    annotate(&parser, name, "complete", "file");
+void declareExplain(typed::Program& tool) {
+    auto& verb = tool.verb("explain", "Show how a program understands arguments, without running it.");
+    const Text program = declareProgram(verb);
+    const auto arguments = verb.positional<std::vector<std::string>>(
+        "argument", "An argument of the program; all of them stand behind --.");
+    verb.does([=] {
+        const ExplainedLine line = explainLine(loadDescription(*program), *arguments);
+        print(table(line));
+        return line.isAccepted || line.isMended ? 0 : 1;
+    });
 }
 
-std::string programOf(const Arguments& arguments) {
-    return arguments.values("PROGRAM").front();
-}
-
-void declareCompare(IParser& parser) {
-    declarePositional(parser, "DESCRIPTION");
-    parser.option("format,f", "How to print what was found; baseline: as a file for --baseline.", vtString)
-        .allowValue("text")
-        .allowValue("json")
-        .allowValue("baseline")
-        .defaultValue("text")
-        .tokenize(0);
-    declareFile(parser, "baseline",
-                "Breaks that are accepted, one a line, as --format=baseline prints them.");
-}
-
-int runCompare(const Arguments& arguments) {
-    const std::vector<std::string> sources = arguments.values("DESCRIPTION");
-    Comparison comparison = compare(loadDescription(sources[0]), loadDescription(sources[1]));
-    if (const auto baseline = arguments.value("baseline")) {
-        acceptBreaks(comparison, contentsOf(*baseline));
-    }
-    const std::string format = arguments.value("format").value_or("text");
-    print(format == "json"       ? reportAsJson(comparison)
-          : format == "baseline" ? reportAsBaseline(comparison)
-                                 : reportAsText(comparison));
-    return comparison.breaks.empty() || format == "baseline" ? 0 : 1;
-}
-
-void declareProgram(IParser& parser) {
-    declarePositional(parser, "PROGRAM");
-}
-
-int runJson(const Arguments& arguments) {
-    print(loadJson(programOf(arguments)));
-    return 0;
-}
-
-int runExplain(const Arguments& arguments) {
-    const ExplainedLine line = explainLine(loadDescription(programOf(arguments)), arguments.plain());
-    print(table(line));
-    return line.isAccepted || line.isMended ? 0 : 1;
-}
-
-void declareLint(IParser& parser) {
-    declarePositional(parser, "SCRIPT");
-    declareFile(parser, "with", "The program whose calls are looked at, or its description.");
-    annotate(&parser, "with", "value", "PROGRAM");
-    addRule(&parser, ruleRequired, "with");
-    parser.option("name", "Another name that the scripts call it by.", vtString).tokenize(0);
-    annotate(&parser, "name", "complete", "none");
-    parser.option("fix", "Write whole names into the scripts, and say what is left.", vtNull);
-    parser.option("diff", "Print what --fix would change.", vtNull);
-    addRule(&parser, ruleAtMostOne, "fix,diff");
-}
+enum class Lint { report, fix, diff };
 
 // Whether something is left to be mended by hand.
-bool lintOne(LintedScript script, const Arguments& arguments) {
-    if (arguments.isGiven("diff")) {
+bool lintOne(LintedScript script, Lint wanted) {
+    if (wanted == Lint::diff) {
         print(differenceOf(script));
         return !script.diagnostics.empty();
     }
-    if (arguments.isGiven("fix")) {
+    if (wanted == Lint::fix) {
         replaceScript(script);
         auto& found = script.diagnostics;
         found.erase(std::remove_if(found.begin(), found.end(),
@@ -110,15 +90,14 @@ bool lintOne(LintedScript script, const Arguments& arguments) {
     return !script.diagnostics.empty();
 }
 
-int runLint(const Arguments& arguments) {
-    const CommandLine program = loadDescription(*arguments.value("with"));
-    std::vector<std::string> names = arguments.values("name");
+int lintAll(const CommandLine& program, std::vector<std::string> names,
+            const std::vector<std::string>& scripts, Lint wanted) {
     names.push_back(program.names.front());
     int exitCode = 0;
-    for (const std::string& path : arguments.values("SCRIPT")) {
+    for (const std::string& path : scripts) {
         // One script that cannot be read does not keep the others from being looked at.
         try {
-            if (lintOne(lintScript(program, names, path), arguments) && exitCode == 0) {
+            if (lintOne(lintScript(program, names, path), wanted) && exitCode == 0) {
                 exitCode = 1;
             }
         } catch (const Failure& failure) {
@@ -129,106 +108,116 @@ int runLint(const Arguments& arguments) {
     return exitCode;
 }
 
-void declarePages(IParser& parser) {
-    declarePositional(parser, "PROGRAM");
-    parser
-        .option("directory,d", "Write a page for the program and one for each verb into this folder.",
-                vtString)
-        .tokenize(0);
-    annotate(&parser, "directory", "complete", "directory");
-    annotate(&parser, "directory", "value", "FOLDER");
-    parser.option("purpose", "What the program is for, where its description does not say.", vtString)
-        .tokenize(0);
-    annotate(&parser, "purpose", "complete", "none");
+void declareLint(typed::Program& tool) {
+    auto& verb =
+        tool.verb("lint", "Find abbreviated, unknown and deprecated names in the calls of a program.");
+    const auto scripts =
+        verb.positional<std::vector<std::string>>("script", "A shell script.").required().completeAs("file");
+    const Text with =
+        verb.option<std::string>("with", "The program whose calls are looked at, or its description.")
+            .required()
+            .value("PROGRAM")
+            .completeAs("file");
+    const auto names =
+        verb.option<std::vector<std::string>>("name", "Another name that the scripts call it by.")
+            .separator('\0')
+            .completeAs("none");
+    const auto fix = verb.flag("fix", "Write whole names into the scripts, and say what is left.");
+    const auto diff = verb.flag("diff", "Print what --fix would change.");
+    verb.atMostOne(fix, diff);
+    verb.does([=] {
+        return lintAll(loadDescription(*with), *names, *scripts,
+                       *fix    ? Lint::fix
+                       : *diff ? Lint::diff
+                               : Lint::report);
+    });
 }
 
-void declareManual(IParser& parser) {
-    declarePages(parser);
-    parser.option("date", "The date of the page; otherwise SOURCE_DATE_EPOCH counts, or today.", vtString)
-        .tokenize(0);
-    parser.option("section", "The section of the manual.", vtString).defaultValue("1").tokenize(0);
-    annotate(&parser, "date", "complete", "none");
-    annotate(&parser, "section", "complete", "none");
+/// What pages are written of, and where.
+struct PageOptions {
+    Text program;
+    Text folder;
+    Text purpose;
+};
+
+PageOptions declarePages(typed::Command& verb) {
+    return {
+        declareProgram(verb),
+        verb.option<std::string>("directory,d",
+                                 "Write a page for the program and one for each verb into this folder.")
+            .value("FOLDER")
+            .completeAs("directory"),
+        verb.option<std::string>("purpose", "What the program is for, where its description does not say.")
+            .completeAs("none"),
+    };
 }
 
 template <class Write>
-int writePages(const Arguments& arguments, const std::string& ending, Write write) {
-    CommandLine program = loadDescription(programOf(arguments));
-    program.text = program.text.empty() ? arguments.value("purpose").value_or("") : program.text;
-    const auto folder = arguments.value("directory");
-    if (!folder) {
+void writePages(const PageOptions& options, const std::string& ending, Write write) {
+    CommandLine program = loadDescription(*options.program);
+    program.text = program.text.empty() ? *options.purpose : program.text;
+    if (!options.folder.given()) {
         print(write(wholePage(program)));
-        return 0;
+        return;
     }
     for (const Page& page : pageForEachVerb(program)) {
-        writeFile(*folder + "/" + fileNameOf(page) + ending, write(page));
+        writeFile(*options.folder + "/" + fileNameOf(page) + ending, write(page));
     }
-    return 0;
 }
 
-int runManual(const Arguments& arguments) {
-    const std::string section = arguments.value("section").value_or("1");
-    const std::string date = arguments.value("date").value_or(dateOfToday());
-    return writePages(arguments, "." + section,
-                      [&](const Page& page) { return asManual(page, section, date); });
+void declareManual(typed::Program& tool) {
+    auto& verb = tool.verb("man", "Write a manual page.");
+    const PageOptions options = declarePages(verb);
+    const Text date = verb.option<std::string>(
+                              "date", "The date of the page; otherwise SOURCE_DATE_EPOCH counts, or today.")
+                          .completeAs("none");
+    const Text section =
+        verb.option("section", "The section of the manual.", std::string("1")).completeAs("none");
+    verb.does([=] {
+        writePages(options, "." + *section, [&](const Page& page) {
+            return asManual(page, *section, date.given() ? *date : dateOfToday());
+        });
+    });
 }
 
-int runMarkdown(const Arguments& arguments) {
-    return writePages(arguments, ".md", asMarkdown);
+void declareMarkdown(typed::Program& tool) {
+    auto& verb = tool.verb("markdown", "Write the same as Markdown.");
+    const PageOptions options = declarePages(verb);
+    verb.does([=] { writePages(options, ".md", asMarkdown); });
 }
 
-void declareCompletion(IParser& parser) {
-    declarePositional(parser, "PROGRAM");
-    parser.option("shell,s", "The shell that the script is for.", vtString)
-        .allowValue("bash")
-        .allowValue("zsh")
-        .allowValue("fish")
-        .tokenize(0);
-    addRule(&parser, ruleRequired, "shell");
+void declareJson(typed::Program& tool) {
+    auto& verb = tool.verb("json", "Print the description of a program.");
+    const Text program = declareProgram(verb);
+    verb.does([=] { print(loadJson(*program)); });
 }
 
-int runCompletion(const Arguments& arguments) {
-    const CommandLine program = loadDescription(programOf(arguments));
-    const std::string request = "tarvoption=completion=" + *arguments.value("shell");
-    const char* const argv[] = {program.names.front().c_str(), request.c_str()};
-    answerCompletion(&arguments.parser(), 2, argv);
-    print("");
-    return 0;
+void declareCompletion(typed::Program& tool) {
+    auto& verb = tool.verb("completion", "Print the script that completes a program in a shell.");
+    const Text program = declareProgram(verb);
+    const Text shell = verb.option<std::string>("shell,s", "The shell that the script is for.")
+                           .required()
+                           .oneOf("bash", "zsh", "fish");
+    verb.does([=] {
+        const std::string name = loadDescription(*program).names.front();
+        const std::string request = "tarvoption=completion=" + *shell;
+        const char* const argv[] = {name.c_str(), request.c_str()};
+        // A script depends on nothing but the name.
+        tarv_3_3::answerCompletion(rebuild(CommandLine()).get(), 2, argv);
+        print("");
+    });
 }
 
 } // namespace
 
-const std::vector<Verb>& allVerbs() {
-    static const std::vector<Verb> verbs = {
-        {"compare", "OLD NEW", 2, 2,
-         "Say which command lines that OLD accepts NEW does not, or takes for others.", filesEverywhere,
-         declareCompare, runCompare},
-        {"explain", "PROGRAM -- ARGUMENT...", 1, 1,
-         "Show how a program understands arguments, without running it.",
-         flagRejectUnknown | flagDashIsNotPositional, declareProgram, runExplain},
-        {"lint", "--with=PROGRAM SCRIPT...", 1, Verb::anyNumber,
-         "Find abbreviated, unknown and deprecated names in the calls of a program.", filesEverywhere,
-         declareLint, runLint},
-        {"man", "PROGRAM", 1, 1, "Write a manual page.", filesEverywhere, declareManual, runManual},
-        {"markdown", "PROGRAM", 1, 1, "Write the same as Markdown.", filesEverywhere, declarePages,
-         runMarkdown},
-        {"json", "PROGRAM", 1, 1, "Print the description of a program.", filesEverywhere, declareProgram,
-         runJson},
-        {"completion", "PROGRAM", 1, 1, "Print the script that completes a program in a shell.",
-         filesEverywhere, declareCompletion, runCompletion},
-    };
-    return verbs;
-}
-
-Parser parserOf(const Verb& verb) {
-    IParser* parser = nullptr;
-    if (createParser(&parser, verb.flags) != parseOk) {
-        throw std::bad_alloc();
-    }
-    Parser owned(parser);
-    verb.declare(*owned);
-    declareHelp(*owned);
-    return owned;
+void declareVerbs(typed::Program& tool) {
+    declareCompare(tool);
+    declareExplain(tool);
+    declareLint(tool);
+    declareManual(tool);
+    declareMarkdown(tool);
+    declareJson(tool);
+    declareCompletion(tool);
 }
 
 } // namespace tarv_program
