@@ -220,9 +220,9 @@ private:
 /// good as long as the program.
 class Command {
 public:
-    /// Nowhere defined. Unlike a deleted one, it says what to do instead.
+    /// Cannot be called. Unlike a deleted one, it says what to do instead.
     __attribute__((unavailable("tarv: hold a verb by reference, as in auto& log = program.verb(...)")))
-    Command(const Command&);
+    Command(const Command&) : m_record(nullptr) {}
     Command& operator=(const Command&) = delete;
 
     /// An option without a default: it holds a `T()` until it is given. A `bool` makes a switch.

@@ -67,7 +67,7 @@ TEST_F(TypedKinds, AreShownByHelp) {
 All kinds.
 
 Arguments:
-  NAME...                The names.
+  NAME...                The names. (1 to 3 times)
 
 Options:
   -o, --on               A switch.
