@@ -69,7 +69,7 @@ void Admission::excludeByRules() {
     if (m_parser.remarks() == nullptr) {
         return;
     }
-    for (const Remarks::Rule& rule : m_parser.remarks()->rules) {
+    for (const internal::Remarks::Rule& rule : m_parser.remarks()->rules) {
         const auto isOn = [&](std::size_t index) { return m_states[index] == State::given; };
         const auto first = std::find_if(rule.indexes.begin(), rule.indexes.end(), isOn);
         const bool isForOne = rule.kind == ruleAtMostOne || rule.kind == ruleExactlyOne;

@@ -124,7 +124,7 @@ int ValueOffer::filesToAdd() const {
     if (!m_option.m_allowedValues.empty()) {
         return completeNoFiles;
     }
-    const Remarks* const remarks = m_parser.remarks();
+    const internal::Remarks* const remarks = m_parser.remarks();
     if (remarks != nullptr && m_index < remarks->notes.size()) {
         for (const auto& [key, value] : remarks->notes[m_index]) {
             if (key == "complete") {

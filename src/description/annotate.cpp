@@ -30,7 +30,7 @@ bool isAcceptable(std::string_view key, std::string_view value) {
     return isOneOf(key, {"environment", "value", "deprecated", "range"});
 }
 
-void note(Remarks::Notes& notes, const char* key, const char* value) {
+void note(internal::Remarks::Notes& notes, const char* key, const char* value) {
     const auto known =
         std::find_if(notes.begin(), notes.end(), [&](const auto& entry) { return entry.first == key; });
     if (known == notes.end()) {
@@ -46,7 +46,7 @@ int annotateOwn(BasicParser& parser, const char* name, const char* key, const ch
     if (index == options.size() || !isAcceptable(key, value)) {
         return remarkRefused;
     }
-    std::vector<Remarks::Notes>& all = parser.ownRemarks().notes;
+    std::vector<internal::Remarks::Notes>& all = parser.ownRemarks().notes;
     if (all.size() <= index) {
         all.resize(index + 1);
     }

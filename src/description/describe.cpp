@@ -69,7 +69,7 @@ Declaration describeOne(KeptDescription& kept, const OptionDescription& option, 
     return record;
 }
 
-void addNotes(KeptDescription& kept, Declaration& record, const Remarks::Notes& notes) {
+void addNotes(KeptDescription& kept, Declaration& record, const internal::Remarks::Notes& notes) {
     std::vector<Note>& list = kept.noteLists.emplace_back();
     for (const auto& [key, value] : notes) {
         list.push_back({kept.keep(key), kept.keep(value)});
@@ -78,12 +78,12 @@ void addNotes(KeptDescription& kept, Declaration& record, const Remarks::Notes& 
     record.noteCount = static_cast<unsigned>(list.size());
 }
 
-void addRemarks(KeptDescription& kept, const Remarks& remarks,
+void addRemarks(KeptDescription& kept, const internal::Remarks& remarks,
                 const std::vector<OptionDescription>& options) {
     for (std::size_t index = 0; index < remarks.notes.size(); ++index) {
         addNotes(kept, kept.declarationList[index], remarks.notes[index]);
     }
-    for (const Remarks::Rule& rule : remarks.rules) {
+    for (const internal::Remarks::Rule& rule : remarks.rules) {
         Rule record = {rule.kind, nullptr, 0};
         record.names = kept.keepList(rule.indexes, record.nameCount,
                                      [&](std::size_t index) { return options[index].primaryName(); });

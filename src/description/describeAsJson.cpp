@@ -39,7 +39,7 @@ void writePositional(JsonWriter& json, const OptionDescription& option, bool isF
     }
 }
 
-void writeNotes(JsonWriter& json, const Remarks::Notes& notes) {
+void writeNotes(JsonWriter& json, const internal::Remarks::Notes& notes) {
     if (notes.empty()) {
         return;
     }
@@ -51,7 +51,7 @@ void writeNotes(JsonWriter& json, const Remarks::Notes& notes) {
 }
 
 void writeDeclaration(JsonWriter& json, const OptionDescription& option, bool isFilled,
-                      const Remarks::Notes& notes) {
+                      const internal::Remarks::Notes& notes) {
     json.breakLine();
     json.open('{');
     json.member("role", option.m_kind == Action ? "action" : "option");
@@ -76,21 +76,21 @@ void writeDeclaration(JsonWriter& json, const OptionDescription& option, bool is
 }
 
 void writeDeclarations(JsonWriter& json, const std::vector<OptionDescription>& options,
-                       const Remarks& remarks) {
+                       const internal::Remarks& remarks) {
     const std::size_t filled = positionalIndex(options);
     json.open('[', "declarations");
     for (std::size_t index = 0; index < options.size(); ++index) {
         const bool hasNotes = index < remarks.notes.size();
         writeDeclaration(json, options[index], index == filled,
-                         hasNotes ? remarks.notes[index] : Remarks::Notes());
+                         hasNotes ? remarks.notes[index] : internal::Remarks::Notes());
     }
     json.close(']');
 }
 
-void writeRules(JsonWriter& json, const std::vector<Remarks::Rule>& rules,
+void writeRules(JsonWriter& json, const std::vector<internal::Remarks::Rule>& rules,
                 const std::vector<OptionDescription>& options) {
     json.open('[', "rules");
-    for (const Remarks::Rule& rule : rules) {
+    for (const internal::Remarks::Rule& rule : rules) {
         json.breakLine();
         json.open('{');
         json.member("kind", internal::ruleName(rule.kind));
@@ -114,8 +114,8 @@ void writeChecks(JsonWriter& json, bool asksHandlers) {
 }
 
 std::string write(const BasicParser& parser) {
-    const Remarks none{};
-    const Remarks& remarks = parser.remarks() != nullptr ? *parser.remarks() : none;
+    const internal::Remarks none{};
+    const internal::Remarks& remarks = parser.remarks() != nullptr ? *parser.remarks() : none;
     const RegisteredOptionStorage& registry = parser.registry();
     JsonWriter json;
     json.open('{');

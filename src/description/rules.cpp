@@ -25,11 +25,11 @@ struct Given {
 };
 
 bool isGiven(const OptionDescription& option, const ParseResult& result) {
-    const Entries::Entry* const entry = result.entries().find(option.primaryName());
+    const internal::Entries::Entry* const entry = result.entries().find(option.primaryName());
     if (entry == nullptr || entry->group().positions.empty()) {
         return false;
     }
-    const Entries::Group& given = entry->group();
+    const internal::Entries::Group& given = entry->group();
     const bool isTurnedOff =
         option.m_type == vtBool && !given.values.empty() && !given.values.back().value.get<bool>();
     return !isTurnedOff;
@@ -118,7 +118,7 @@ int checkOwnRules(BasicParser& parser, const ParseResult& result) {
     if (parser.remarks() == nullptr) {
         return parseOk;
     }
-    for (const Remarks::Rule& rule : parser.remarks()->rules) {
+    for (const internal::Remarks::Rule& rule : parser.remarks()->rules) {
         Options options;
         for (const std::size_t index : rule.indexes) {
             options.push_back(&parser.registry().m_options[index]);
@@ -136,7 +136,7 @@ int addOwnRule(BasicParser& parser, int kind, const char* names) {
     const std::vector<OptionDescription>& options = parser.registry().m_options;
     std::vector<std::string> words;
     split(names, words);
-    Remarks::Rule rule = {kind, {}};
+    internal::Remarks::Rule rule = {kind, {}};
     for (const std::string& word : words) {
         const std::size_t index = internal::indexOfExactName(word, options);
         const bool isRepeated =

@@ -73,9 +73,9 @@ void BasicParser::setLastError(const std::string& text) {
     m_lastError = text;
 }
 
-Remarks& BasicParser::ownRemarks() {
+internal::Remarks& BasicParser::ownRemarks() {
     if (!m_remarks) {
-        m_remarks = std::make_unique<Remarks>();
+        m_remarks = std::make_unique<internal::Remarks>();
     }
     return *m_remarks;
 }

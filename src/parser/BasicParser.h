@@ -15,8 +15,11 @@ namespace tarv_3_3 {
 
 class IArgumentParser;
 class ParseResult;
+
+namespace internal {
 enum class Listeners;
 struct Remarks;
+} // namespace internal
 
 /// The one concrete parser. Its sources, by job: BasicParser.cpp (declarations, events, errors),
 /// BasicParserParsing.cpp (the road of a command line), BasicParserStreams.cpp (streams and option
@@ -103,10 +106,10 @@ public:
     ///@}
 
     /// Null as long as nothing was remarked.
-    const Remarks* remarks() const { return m_remarks.get(); }
+    const internal::Remarks* remarks() const { return m_remarks.get(); }
 
     /// To be added to; made when they are first asked for.
-    Remarks& ownRemarks();
+    internal::Remarks& ownRemarks();
 
     /// Keeps a text as long as the parser lives.
     const char* keep(const std::string& text) { return m_garbage.init(text.c_str()); }
@@ -115,7 +118,7 @@ private:
     template <class Call>
     void forEachHandler(Call call);
 
-    TARV_HIDDEN Listeners listeners() const;
+    TARV_HIDDEN internal::Listeners listeners() const;
     TARV_HIDDEN int parseArguments(int argc, const char* const* argv, IParseResult* result);
     TARV_HIDDEN int parseUpToMarker(const std::string& endMarker, std::vector<std::string>& arguments,
                                     IParseResult* result);
@@ -133,7 +136,7 @@ private:
     bool m_optionFileDeclared = false;
     /// Unlike that of any other parser of the process, also of one that lay in the same place.
     std::uint64_t m_number;
-    std::unique_ptr<Remarks> m_remarks;
+    std::unique_ptr<internal::Remarks> m_remarks;
 };
 
 } // namespace tarv_3_3

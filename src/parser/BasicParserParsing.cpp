@@ -89,14 +89,14 @@ int BasicParser::parse_phase_one(const std::string& endMarker, std::vector<std::
     }
     const RegisteredOptionStorage::Pin pin(m_registry);
     const auto flags = static_cast<unsigned int>(m_flags);
-    Binding binding(listeners());
+    internal::Binding binding(listeners());
     PositionalOptionsParser positional(this, &m_garbage, flags, binding);
     AbbreviationParser abbreviation(this, &m_garbage, flags, binding);
     IResultCollector* const collector = static_cast<ParseResult*>(result);
     const std::vector<OptionDescription>& options = m_registry.m_options;
-    ConsumedArguments consumed(arguments);
+    internal::ConsumedArguments consumed(arguments);
     while (consumed.count < arguments.size() && arguments[consumed.count] != endMarker) {
-        const ArgumentSpan left = consumed.left();
+        const internal::ArgumentSpan left = consumed.left();
         // Both look at the argument; the named option has the higher priority.
         const bool mayBePositional = positional.takes(left.front(), options);
         int status = parseOk;
@@ -115,8 +115,9 @@ int BasicParser::parse_phase_one(const std::string& endMarker, std::vector<std::
 }
 
 // Without handlers the events of this class do nothing; those of a class derived from it may.
-Listeners BasicParser::listeners() const {
-    return m_handlers.empty() && typeid(*this) == typeid(BasicParser) ? Listeners::none : Listeners::some;
+internal::Listeners BasicParser::listeners() const {
+    return m_handlers.empty() && typeid(*this) == typeid(BasicParser) ? internal::Listeners::none
+                                                                      : internal::Listeners::some;
 }
 
 int BasicParser::dropUnknown(const std::string& argument, std::string& message, std::size_t& consumed) {
@@ -159,7 +160,7 @@ int BasicParser::parseAsPositional(const std::string& argument, ParseResult* res
         result->noteParser(m_number);
     }
     const RegisteredOptionStorage::Pin pin(m_registry);
-    Binding binding(listeners());
+    internal::Binding binding(listeners());
     PositionalOptionsParser recognizer(
         this, &m_garbage, static_cast<unsigned int>(m_flags & ~flagDashIsNotPositional), binding);
     const bool isTaken = recognizer.takes(argument, m_registry.m_options);

@@ -5,7 +5,7 @@
 #include <utility>
 #include <vector>
 
-namespace tarv_3_3 {
+namespace tarv_3_3::internal {
 
 /// What a host said of its declarations that no parse reads. Declarations go by their index in the
 /// registry, which they keep.
@@ -23,4 +23,4 @@ struct Remarks {
     std::vector<Rule> rules;
 };
 
-} // namespace tarv_3_3
+} // namespace tarv_3_3::internal

@@ -36,7 +36,7 @@ int checkStoredOptions(BasicParser& parser, const ParseResult& result, std::stri
     RegisteredOptionStorage& registry = parser.registry();
     const OptionDescription* action = nullptr;
     std::vector<StoredOption> others;
-    for (const Entries::Entry* const entry : result.entries().listByName()) {
+    for (const internal::Entries::Entry* const entry : result.entries().listByName()) {
         unsigned long index = 0;
         const int status = registry.find(entry->name(), index);
         if (status != 0) {

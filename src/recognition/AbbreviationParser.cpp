@@ -35,7 +35,7 @@ AbbreviationParser::AbbreviationParser(EventHandler* handler, Garbage* garbage, 
 }
 
 AbbreviationParser::AbbreviationParser(EventHandler* handler, Garbage* garbage, unsigned int flags,
-                                       Binding& binding)
+                                       internal::Binding& binding)
     : IArgumentParser(handler, garbage, flags, parserName, binding) {}
 
 AbbreviationParser::~AbbreviationParser() = default;
@@ -86,11 +86,11 @@ int AbbreviationParser::parse(std::vector<std::string>& args, IResultCollector* 
                               std::string& message) {
     index = static_cast<unsigned long>(m_matcher.index());
     static_cast<void>(args.at(0));
-    ConsumedArguments consumed(args);
+    internal::ConsumedArguments consumed(args);
     return bind(consumed.left(), collector, options, message, consumed.count);
 }
 
-int AbbreviationParser::bind(ArgumentSpan left, IResultCollector* collector,
+int AbbreviationParser::bind(internal::ArgumentSpan left, IResultCollector* collector,
                              const std::vector<OptionDescription>& options, std::string& message,
                              std::size_t& consumed) {
     const std::string& argument = left.front();
@@ -128,8 +128,8 @@ int AbbreviationParser::bind(ArgumentSpan left, IResultCollector* collector,
 }
 
 // Leaves in `value` what the option is to be given.
-int AbbreviationParser::findValue(const OptionDescription& option, ArgumentSpan left, std::string_view& value,
-                                  std::size_t& used, std::string& message) {
+int AbbreviationParser::findValue(const OptionDescription& option, internal::ArgumentSpan left,
+                                  std::string_view& value, std::size_t& used, std::string& message) {
     const ValueSource source = valueSource(option.m_type, value, left.next());
     switch (source) {
     case ValueSource::none:
@@ -149,8 +149,8 @@ int AbbreviationParser::findValue(const OptionDescription& option, ArgumentSpan 
     }
 }
 
-int AbbreviationParser::refuseValue(ValueSource source, const OptionDescription& option, ArgumentSpan left,
-                                    std::string& message) {
+int AbbreviationParser::refuseValue(ValueSource source, const OptionDescription& option,
+                                    internal::ArgumentSpan left, std::string& message) {
     const std::string& name = option.primaryName();
     if (source == ValueSource::unwanted) {
         return fail(message, messages::takesNoValue(name, inArgument(left.front())));

@@ -21,7 +21,7 @@ class TARV_API AbbreviationParser : public IArgumentParser {
 public:
     AbbreviationParser(EventHandler* handler, Garbage* garbage, unsigned int flags);
     TARV_HIDDEN AbbreviationParser(EventHandler* handler, Garbage* garbage, unsigned int flags,
-                                   Binding& binding);
+                                   internal::Binding& binding);
     ~AbbreviationParser() override;
 
     /// Takes an argument that begins with a dash and names a declared option, or several equally
@@ -40,7 +40,7 @@ public:
     /// What `recognize` and `parse` do, for the options of a registry, and without removing anything: what is
     /// consumed is added to `consumed`.
     TARV_HIDDEN bool takes(const std::string& argument, RegisteredOptionStorage& registry);
-    TARV_HIDDEN int bind(ArgumentSpan left, IResultCollector* collector,
+    TARV_HIDDEN int bind(internal::ArgumentSpan left, IResultCollector* collector,
                          const std::vector<OptionDescription>& options, std::string& message,
                          std::size_t& consumed);
     ///@}
@@ -75,10 +75,10 @@ private:
                                  RegisteredOptionStorage* registry, std::string& message);
     TARV_HIDDEN NameOutcome tellOutcome(std::string& message) const;
     TARV_HIDDEN std::string inArgument(std::string argument);
-    TARV_HIDDEN int findValue(const OptionDescription& option, ArgumentSpan left, std::string_view& value,
-                              std::size_t& used, std::string& message);
-    TARV_HIDDEN int refuseValue(ValueSource source, const OptionDescription& option, ArgumentSpan left,
-                                std::string& message);
+    TARV_HIDDEN int findValue(const OptionDescription& option, internal::ArgumentSpan left,
+                              std::string_view& value, std::size_t& used, std::string& message);
+    TARV_HIDDEN int refuseValue(ValueSource source, const OptionDescription& option,
+                                internal::ArgumentSpan left, std::string& message);
 
     /// Holds what the last `recognize` found.
     NameMatcher m_matcher;

@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-namespace tarv_3_3 {
+namespace tarv_3_3::internal {
 
 /// The arguments that are left to be recognised, the front one first. There is always a front one.
 struct ArgumentSpan {
@@ -37,4 +37,4 @@ private:
     std::vector<std::string>& m_arguments;
 };
 
-} // namespace tarv_3_3
+} // namespace tarv_3_3::internal

@@ -6,7 +6,7 @@
 #include "options/OptionDescription.h"
 #include "tarv_3_3/internal/OptionData.h"
 
-namespace tarv_3_3 {
+namespace tarv_3_3::internal {
 
 /// Who is told of events while a recognizer is in use.
 enum class Listeners {
@@ -32,4 +32,4 @@ struct Binding {
     std::string piece;
 };
 
-} // namespace tarv_3_3
+} // namespace tarv_3_3::internal

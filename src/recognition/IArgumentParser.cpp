@@ -33,10 +33,11 @@ bool mayHaveThreads() {
 
 IArgumentParser::IArgumentParser(EventHandler* handler, Garbage* garbage, unsigned int flags)
     : m_handler(handler), m_name("UndefinedParser"), m_garbage(garbage), m_flags(flags), m_hasListeners(true),
-      m_ownBinding(std::make_unique<Binding>(Listeners::some)), m_binding(*m_ownBinding) {}
+      m_ownBinding(std::make_unique<internal::Binding>(internal::Listeners::some)), m_binding(*m_ownBinding) {
+}
 
 IArgumentParser::IArgumentParser(EventHandler* handler, Garbage* garbage, unsigned int flags,
-                                 const char* name, Binding& binding)
+                                 const char* name, internal::Binding& binding)
     : m_handler(handler), m_name(name), m_garbage(garbage), m_flags(flags),
       m_hasListeners(binding.hasListeners()), m_binding(binding) {}
 

@@ -14,8 +14,11 @@ class EventHandler;
 class Garbage;
 class IResultCollector;
 class OptionDescription;
-struct Binding;
 struct OptionValue;
+
+namespace internal {
+struct Binding;
+}
 
 /// A recognizer of arguments. The parse driver shows the argument at the front to every recognizer;
 /// of those that take it, the one with the highest priority parses it.
@@ -28,7 +31,7 @@ public:
     /// parser's. So does `binding`; a recognizer without one has its own, and takes it that somebody listens.
     IArgumentParser(EventHandler* handler, Garbage* garbage, unsigned int flags);
     TARV_HIDDEN IArgumentParser(EventHandler* handler, Garbage* garbage, unsigned int flags, const char* name,
-                                Binding& binding);
+                                internal::Binding& binding);
     ///@}
     IArgumentParser(const IArgumentParser&) = delete;
     IArgumentParser& operator=(const IArgumentParser&) = delete;
@@ -107,8 +110,8 @@ private:
     TARV_HIDDEN int failVetoed(const std::string& value, const OptionDescription& option,
                                const std::string& argument, std::string& message);
 
-    std::unique_ptr<Binding> m_ownBinding;
-    Binding& m_binding;
+    std::unique_ptr<internal::Binding> m_ownBinding;
+    internal::Binding& m_binding;
 };
 
 } // namespace tarv_3_3

@@ -30,7 +30,7 @@ PositionalOptionsParser::PositionalOptionsParser(EventHandler* handler, Garbage*
 }
 
 PositionalOptionsParser::PositionalOptionsParser(EventHandler* handler, Garbage* garbage, unsigned int flags,
-                                                 Binding& binding)
+                                                 internal::Binding& binding)
     : IArgumentParser(handler, garbage, flags, parserName, binding) {}
 
 PositionalOptionsParser::~PositionalOptionsParser() = default;
@@ -51,11 +51,11 @@ int PositionalOptionsParser::parse(std::vector<std::string>& args, IResultCollec
                                    std::string& message) {
     static_cast<void>(args.at(0));
     index = findPositional(options);
-    ConsumedArguments consumed(args);
+    internal::ConsumedArguments consumed(args);
     return bind(consumed.left(), collector, options, message, consumed.count);
 }
 
-int PositionalOptionsParser::bind(ArgumentSpan left, IResultCollector* collector,
+int PositionalOptionsParser::bind(internal::ArgumentSpan left, IResultCollector* collector,
                                   const std::vector<OptionDescription>& options, std::string& message,
                                   std::size_t& consumed) {
     log(": parsing argument '", left.front(), "'");

@@ -17,7 +17,7 @@ class TARV_API PositionalOptionsParser : public IArgumentParser {
 public:
     PositionalOptionsParser(EventHandler* handler, Garbage* garbage, unsigned int flags);
     TARV_HIDDEN PositionalOptionsParser(EventHandler* handler, Garbage* garbage, unsigned int flags,
-                                        Binding& binding);
+                                        internal::Binding& binding);
     ~PositionalOptionsParser() override;
 
     /// Takes every argument when some option is positional; under `flagDashIsNotPositional` not one
@@ -36,7 +36,7 @@ public:
     /// What `recognize` and `parse` do, without removing anything: what is consumed is added to `consumed`.
     /// `options` is the same table every time, which may only have grown.
     TARV_HIDDEN bool takes(const std::string& argument, const std::vector<OptionDescription>& options);
-    TARV_HIDDEN int bind(ArgumentSpan left, IResultCollector* collector,
+    TARV_HIDDEN int bind(internal::ArgumentSpan left, IResultCollector* collector,
                          const std::vector<OptionDescription>& options, std::string& message,
                          std::size_t& consumed);
     ///@}

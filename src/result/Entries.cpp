@@ -4,7 +4,7 @@
 
 #include "options/NameOrder.h"
 
-namespace tarv_3_3 {
+namespace tarv_3_3::internal {
 
 namespace {
 
@@ -18,7 +18,7 @@ Entries::Default defaultIn(const OptionData& data) {
 
 } // namespace
 
-Entries::Entries(internal::Arena& memory) : m_memory(memory), m_entries(memory), m_names(memory) {
+Entries::Entries(Arena& memory) : m_memory(memory), m_entries(memory), m_names(memory) {
     m_entries.reserve(typicalNames);
 }
 
@@ -76,7 +76,7 @@ void Entries::storeFirst(NameIndex::Entry& firstName, const Names& names, const 
 }
 
 // An entry that has to be made joins `group`, which is made for the first of them.
-void Entries::storeDefault(Group*& group, const internal::HashedText& name, Default&& byDefault) {
+void Entries::storeDefault(Group*& group, const HashedText& name, Default&& byDefault) {
     NameIndex::Entry& known = m_names.insert(name);
     if (known.value.index != noEntry) {
         m_entries[known.value.index].byDefault = std::move(byDefault);
@@ -164,7 +164,7 @@ std::vector<const Entries::Entry*> Entries::listByName() const {
     return ordered;
 }
 
-std::size_t Entries::indexOf(const internal::HashedText& name) const {
+std::size_t Entries::indexOf(const HashedText& name) const {
     const NameIndex::Entry* const known = m_names.find(name);
     return known != nullptr ? known->value.index : noEntry;
 }
@@ -174,4 +174,4 @@ const Entries::Entry* Entries::find(std::string_view name) const {
     return index != noEntry ? &m_entries[index] : nullptr;
 }
 
-} // namespace tarv_3_3
+} // namespace tarv_3_3::internal

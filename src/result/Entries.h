@@ -14,7 +14,7 @@
 #include "result/StoredValue.h"
 #include "tarv_3_3/internal/OptionData.h"
 
-namespace tarv_3_3 {
+namespace tarv_3_3::internal {
 
 /// What a result has stored: a map from option names to entries. It only grows, and an entry keeps its index.
 ///
@@ -25,18 +25,17 @@ class Entries {
     struct EntryIndex {
         std::size_t index = noEntry;
     };
-    using NameIndex = internal::TextMap<EntryIndex>;
+    using NameIndex = TextMap<EntryIndex>;
 
 public:
     /// What was given to the names of a group.
     struct Group {
-        Group(internal::Arena& memory, std::size_t first)
-            : positions(memory), values(memory), firstEntry(first) {}
+        Group(Arena& memory, std::size_t first) : positions(memory), values(memory), firstEntry(first) {}
 
         /// The position index of each occurrence, in the order stored.
-        internal::SmallVector<int> positions;
+        SmallVector<int> positions;
         /// The values of all occurrences, in the order stored.
-        internal::SmallVector<StoredValue> values;
+        SmallVector<StoredValue> values;
         /// Whether every position index, of both lists, is above the one stored before. It is unless a
         /// handler parses into the same result while it is told of an occurrence, or the counter of the
         /// process has wrapped around.
@@ -65,7 +64,7 @@ public:
             : byDefault(std::forward<OwnDefault>(ownDefault)), m_name(&name), m_group(&group) {}
 
         /// Lies in the memory of the entries.
-        internal::HashedText name() const { return m_name->text(); }
+        HashedText name() const { return m_name->text(); }
 
         /// What was given to the name; that of other entries as well, where they are a group.
         const Group& group() const { return *m_group; }
@@ -78,13 +77,13 @@ public:
         const NameIndex::Entry* m_name;
         Group* m_group;
     };
-    using List = std::vector<Entry, internal::ArenaAllocator<Entry>>;
+    using List = std::vector<Entry, ArenaAllocator<Entry>>;
 
     /// The index of a name that has no entry.
     static constexpr std::size_t noEntry = std::numeric_limits<std::size_t>::max();
 
     /// Everything goes with `memory`, which takes nothing back before.
-    explicit Entries(internal::Arena& memory);
+    explicit Entries(Arena& memory);
     Entries(const Entries&) = delete;
     Entries& operator=(const Entries&) = delete;
     ~Entries();
@@ -103,7 +102,7 @@ public:
         }
     }
 
-    std::size_t indexOf(const internal::HashedText& name) const;
+    std::size_t indexOf(const HashedText& name) const;
     const Entry& operator[](std::size_t index) const { return m_entries[index]; }
 
     /// The entry of `name`, null for none.
@@ -118,7 +117,7 @@ private:
     void storeFirst(NameIndex::Entry& firstName, const Names& names, const OptionData& data);
     bool areGroup(std::size_t first, const Names& names) const;
     void separate(Group& group);
-    void storeDefault(Group*& group, const internal::HashedText& name, Default&& byDefault);
+    void storeDefault(Group*& group, const HashedText& name, Default&& byDefault);
     Entry& ownEntry(NameIndex::Entry& name);
     void append(Group& group, const OptionData& data);
     template <class... Parts>
@@ -126,11 +125,11 @@ private:
     template <class OwnDefault>
     Entry& add(NameIndex::Entry& name, Group& group, OwnDefault&& byDefault);
 
-    internal::Arena& m_memory;
+    Arena& m_memory;
     List m_entries;
     Group* m_lastGroup = nullptr;
     /// Has every name of an entry, and may have names without one, since memory ran out.
     NameIndex m_names;
 };
 
-} // namespace tarv_3_3
+} // namespace tarv_3_3::internal

@@ -4,7 +4,7 @@
 
 #include "tarv_3_3/internal/Garbage.h"
 
-namespace tarv_3_3 {
+namespace tarv_3_3::internal {
 
 namespace {
 
@@ -127,4 +127,4 @@ Value Iteration::value(const char* text, const variant_t& typed, int position) {
     return {m_garbage.init(text), typed, position};
 }
 
-} // namespace tarv_3_3
+} // namespace tarv_3_3::internal

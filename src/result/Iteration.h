@@ -10,6 +10,8 @@ namespace tarv_3_3 {
 
 class Garbage;
 
+namespace internal {
+
 /// An iteration over what a result has under one name. Every query by a name begins another one.
 ///
 /// Its cursors are indexes of lists that a further parse may lengthen, so it may go on after one. A parse may
@@ -64,5 +66,7 @@ private:
     int m_lowerBound = 0;
     int m_upperBound = noPosition;
 };
+
+} // namespace internal
 
 } // namespace tarv_3_3

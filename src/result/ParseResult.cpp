@@ -73,7 +73,7 @@ int ParseResult::get(const std::string& name, char** text, variant_t& value, int
         return handOut(first(name, lo, hi), text, value, position);
     }
     const bool isFound = m_iteration.find(name, lo, hi);
-    if (const Entries::Default* const found = m_iteration.foundDefault()) {
+    if (const internal::Entries::Default* const found = m_iteration.foundDefault()) {
         value = found->value;
         position = found->position;
     }

@@ -42,7 +42,7 @@ public:
     void storePlainArgument(const std::string& argument, int position);
 
     /// What is stored, apart from plain arguments.
-    const Entries& entries() const { return m_entries; }
+    const internal::Entries& entries() const { return m_entries; }
 
     void destroy() override;
     bool present(const char* name, int lo, int hi) override;
@@ -65,8 +65,8 @@ private:
 
     /// Holds the entries and their lists, which only go with the result.
     internal::ArenaWithRoom<6144> m_memory;
-    Entries m_entries;
-    Iteration m_iteration;
+    internal::Entries m_entries;
+    internal::Iteration m_iteration;
     Garbage m_garbage;
     /// What stood behind "--", with its position indices.
     std::vector<std::pair<std::string, int>> m_freeArguments;

@@ -14,7 +14,8 @@ int ParseResult::applyDefault(std::vector<OptionDescription>& options, std::stri
         if (option.m_type != vtNull && option.m_hasDefault) {
             m_entries.storeDefaults(option.m_names, [&option] {
                 const variant_t& text = option.defaultText();
-                return Entries::Default{text, option.m_default, IArgumentParser::getNewPositionIndex()};
+                return internal::Entries::Default{text, option.m_default,
+                                                  IArgumentParser::getNewPositionIndex()};
             });
         }
     }

@@ -9,7 +9,7 @@
 #include "tarv_3_3/internal/OptionData.h"
 #include "tarv_3_3/variant.h"
 
-namespace tarv_3_3 {
+namespace tarv_3_3::internal {
 
 /// One value as a result keeps it, in 32 bytes: there may be very many.
 ///
@@ -18,7 +18,7 @@ namespace tarv_3_3 {
 class StoredValue {
 public:
     /// Copies `given`, with its text into `memory` where that is needed.
-    StoredValue(const OptionValue& given, internal::Arena& memory)
+    StoredValue(const OptionValue& given, Arena& memory)
         : value(given.value), position(given.position), m_text{} {
         if (value.type() == vtString && (given.text.empty() || given.text == value.get<const char*>())) {
             m_text.back() = inVariant;
@@ -49,7 +49,7 @@ private:
     /// The last character of `m_text`, unless that ends in the zero of a text.
     enum Place : char { inVariant = 1, inArena = 2 };
 
-    static const char* keep(const std::string& text, internal::Arena& memory) {
+    static const char* keep(const std::string& text, Arena& memory) {
         const std::size_t size = text.size() + 1;
         return static_cast<const char*>(std::memcpy(memory.take(size, 1), text.c_str(), size));
     }
@@ -63,4 +63,4 @@ private:
     std::array<char, 12> m_text;
 };
 
-} // namespace tarv_3_3
+} // namespace tarv_3_3::internal

@@ -79,7 +79,7 @@ struct DeclaringItself : testing::TestWithParam<DeclaringParser::When> {
 
     std::string stored() const {
         std::string line;
-        for (const Entries::Entry* const entry : result.entries().listByName()) {
+        for (const internal::Entries::Entry* const entry : result.entries().listByName()) {
             line += (line.empty() ? "" : " ") + describe(*entry, positions);
         }
         return line;

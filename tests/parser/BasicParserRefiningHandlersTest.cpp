@@ -126,7 +126,7 @@ TEST(RefiningParser, RestrictsTheNextArgumentAndNotTheRestOfThisOne) {
         ParseResult result;
         const int count = static_cast<int>(row.line.size());
         EXPECT_EQ(parser.parseArgsVector(count, row.line.data(), &result), 2);
-        const std::vector<const Entries::Entry*> stored = result.entries().listByName();
+        const std::vector<const internal::Entries::Entry*> stored = result.entries().listByName();
         ASSERT_EQ(stored.size(), 1U);
         EXPECT_EQ(describe(*stored[0], positions), row.stored);
     }

@@ -24,7 +24,7 @@ public:
     /// The entries of the result, in its order; see `describe`.
     std::string stored() const {
         std::string line;
-        for (const tarv_3_3::Entries::Entry* const entry : result.entries().listByName()) {
+        for (const tarv_3_3::internal::Entries::Entry* const entry : result.entries().listByName()) {
             line += (line.empty() ? "" : " ") + describe(*entry, positions);
         }
         return line;

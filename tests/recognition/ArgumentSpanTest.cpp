@@ -12,10 +12,10 @@ using Arguments = std::vector<std::string>;
 
 TEST(ArgumentSpan, HasAFrontAndPerhapsANextArgument) {
     const Arguments arguments = {"a", "b"};
-    const ArgumentSpan two = {arguments.data(), arguments.data() + 2};
+    const internal::ArgumentSpan two = {arguments.data(), arguments.data() + 2};
     EXPECT_EQ(two.front(), "a");
     EXPECT_EQ(two.next(), &arguments[1]);
-    const ArgumentSpan last = {arguments.data() + 1, arguments.data() + 2};
+    const internal::ArgumentSpan last = {arguments.data() + 1, arguments.data() + 2};
     EXPECT_EQ(last.front(), "b");
     EXPECT_EQ(last.next(), nullptr);
 }
@@ -33,7 +33,7 @@ TEST(ConsumedArguments, RemovesWhatWasConsumedAtItsEnd) {
         SCOPED_TRACE(row.count);
         Arguments arguments = {"a", "b", "c"};
         {
-            ConsumedArguments consumed(arguments);
+            internal::ConsumedArguments consumed(arguments);
             consumed.count = row.count;
             EXPECT_EQ(arguments.size(), 3U);
         }
@@ -43,7 +43,7 @@ TEST(ConsumedArguments, RemovesWhatWasConsumedAtItsEnd) {
 
 TEST(ConsumedArguments, ShowsWhatIsLeft) {
     Arguments arguments = {"a", "b", "c"};
-    ConsumedArguments consumed(arguments);
+    internal::ConsumedArguments consumed(arguments);
     EXPECT_EQ(consumed.left().first, arguments.data());
     consumed.count = 2;
     EXPECT_EQ(consumed.left().front(), "c");
@@ -55,7 +55,7 @@ TEST(ConsumedArguments, ShowsWhatIsLeft) {
 TEST(ConsumedArguments, RemovesWhatWasConsumedWhenSomethingIsThrown) {
     Arguments arguments = {"a", "b"};
     try {
-        ConsumedArguments consumed(arguments);
+        internal::ConsumedArguments consumed(arguments);
         consumed.count = 1;
         throw 0;
     } catch (int) {

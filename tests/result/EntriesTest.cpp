@@ -19,10 +19,10 @@ class StoredEntries : public ::testing::Test {
 protected:
     /// The names of a list in its order, one character each; a '+' behind those that share the group
     /// of the one before.
-    static std::string describe(const Entries::List& list) {
+    static std::string describe(const internal::Entries::List& list) {
         std::string line;
-        const Entries::Group* before = nullptr;
-        for (const Entries::Entry& entry : list) {
+        const internal::Entries::Group* before = nullptr;
+        for (const internal::Entries::Entry& entry : list) {
             line.append(entry.name().text);
             line += &entry.group() == before ? "+" : "";
             before = &entry.group();
@@ -33,13 +33,13 @@ protected:
     std::string inOrder() const { return describe(entries.list()); }
 
     internal::ArenaWithRoom<512> memory;
-    Entries entries{memory};
+    internal::Entries entries{memory};
 };
 
 TEST_F(StoredEntries, AreNowhereAtFirst) {
     EXPECT_EQ(inOrder(), "");
     EXPECT_EQ(entries.find("a"), nullptr);
-    EXPECT_EQ(entries.indexOf("a"), Entries::noEntry);
+    EXPECT_EQ(entries.indexOf("a"), internal::Entries::noEntry);
 }
 
 TEST_F(StoredEntries, HaveTheirPlacesInTheOrderInWhichTheyCame) {
@@ -50,10 +50,10 @@ TEST_F(StoredEntries, HaveTheirPlacesInTheOrderInWhichTheyCame) {
     EXPECT_EQ(entries.indexOf("b"), 1U);
     EXPECT_EQ(entries.indexOf("a"), 2U);
     EXPECT_EQ(entries.indexOf("c"), 3U);
-    EXPECT_EQ(entries.indexOf("d"), Entries::noEntry);
+    EXPECT_EQ(entries.indexOf("d"), internal::Entries::noEntry);
     EXPECT_EQ(inOrder(), "zbac");
     std::string byName;
-    for (const Entries::Entry* const entry : entries.listByName()) {
+    for (const internal::Entries::Entry* const entry : entries.listByName()) {
         byName.append(entry->name().text);
     }
     EXPECT_EQ(byName, "abcz");
@@ -93,7 +93,7 @@ TEST_F(StoredEntries, ShareNothingOnceTheyWereStoredApart) {
     };
     for (const auto& row : rows) {
         SCOPED_TRACE(row.list);
-        Entries fresh(memory);
+        internal::Entries fresh(memory);
         fresh.store({"a", "b", "c"}, occurrences({1}));
         fresh.store(row.names, occurrences({2}));
         EXPECT_EQ(describe(fresh.list()), row.list);
@@ -102,7 +102,7 @@ TEST_F(StoredEntries, ShareNothingOnceTheyWereStoredApart) {
 
 TEST_F(StoredEntries, HaveADefaultEachAndShareWhatIsGivenLater) {
     int position = 4;
-    const auto makeDefault = [&] { return Entries::Default{"7", std::int32_t{7}, ++position}; };
+    const auto makeDefault = [&] { return internal::Entries::Default{"7", std::int32_t{7}, ++position}; };
     entries.storeDefaults({"a", "b"}, makeDefault);
     EXPECT_EQ(inOrder(), "ab+");
     EXPECT_EQ(entries[0].byDefault.position, 5);
@@ -119,7 +119,7 @@ TEST_F(StoredEntries, HaveADefaultEachAndShareWhatIsGivenLater) {
 // A synonym may be that of another option, or stand twice.
 TEST_F(StoredEntries, HaveTheLastDefaultAndTheOccurrencesThatTheyHad) {
     int position = 0;
-    const auto makeDefault = [&] { return Entries::Default{"7", std::int32_t{7}, ++position}; };
+    const auto makeDefault = [&] { return internal::Entries::Default{"7", std::int32_t{7}, ++position}; };
     entries.store({"a", "b"}, occurrences({10}));
     entries.storeDefaults({"c", "b", "d", "c"}, makeDefault);
     EXPECT_EQ(inOrder(), "ab+cd+");
@@ -136,10 +136,10 @@ TEST_F(StoredEntries, HaveTheLastDefaultAndTheOccurrencesThatTheyHad) {
 }
 
 TEST_F(StoredEntries, HaveNoDefaultWithoutAText) {
-    EXPECT_TRUE(Entries::Default().isEmpty());
-    EXPECT_TRUE((Entries::Default{"", "", 1}.isEmpty()));
-    EXPECT_TRUE((Entries::Default{variant_t(), std::int32_t{7}, 1}.isEmpty()));
-    EXPECT_FALSE((Entries::Default{"7", std::int32_t{7}, 1}.isEmpty()));
+    EXPECT_TRUE(internal::Entries::Default().isEmpty());
+    EXPECT_TRUE((internal::Entries::Default{"", "", 1}.isEmpty()));
+    EXPECT_TRUE((internal::Entries::Default{variant_t(), std::int32_t{7}, 1}.isEmpty()));
+    EXPECT_FALSE((internal::Entries::Default{"7", std::int32_t{7}, 1}.isEmpty()));
 }
 
 TEST_F(StoredEntries, NeedAName) {
@@ -170,7 +170,7 @@ TEST_F(StoredEntries, AreWholeOrNowhereWhenMemoryRunsOut) {
         SCOPED_TRACE(size);
         std::vector<std::byte> room(size);
         internal::Arena little(room.data(), room.size());
-        Entries few(little);
+        internal::Entries few(little);
         std::size_t stored = 0;
         failing::arm(1, failing::Mode::forGood);
         try {
@@ -183,7 +183,7 @@ TEST_F(StoredEntries, AreWholeOrNowhereWhenMemoryRunsOut) {
         failing::disarm();
         ASSERT_GE(few.list().size(), 2 * stored);
         ASSERT_LE(few.list().size(), 2 * stored + 1);
-        for (const Entries::Entry& entry : few.list()) {
+        for (const internal::Entries::Entry& entry : few.list()) {
             ASSERT_EQ(few.find(entry.name().text), &entry);
             ASSERT_EQ(entry.group().positions.size(), 1U);
             ASSERT_EQ(entry.group().values.size(), 1U);

@@ -16,7 +16,7 @@ namespace {
 class IterationOverEntries : public ::testing::Test {
 protected:
     void storeDefault() {
-        entries.storeDefaults({"level"}, [] { return Entries::Default{"7", std::int32_t{7}, 4}; });
+        entries.storeDefaults({"level"}, [] { return internal::Entries::Default{"7", std::int32_t{7}, 4}; });
     }
 
     /// What `first` and then `next` give, up to the first that is missing, or to the third.
@@ -29,9 +29,9 @@ protected:
     }
 
     internal::ArenaWithRoom<512> memory;
-    Entries entries{memory};
+    internal::Entries entries{memory};
     Garbage garbage;
-    Iteration iteration{entries, garbage};
+    internal::Iteration iteration{entries, garbage};
 };
 
 TEST_F(IterationOverEntries, GivesNothingBeforeAQuery) {

@@ -13,7 +13,7 @@ namespace {
 
 std::string entriesOf(const ParseResult& result, const RelativePositions& positions) {
     std::string line;
-    for (const Entries::Entry* const entry : result.entries().listByName()) {
+    for (const internal::Entries::Entry* const entry : result.entries().listByName()) {
         line += (line.empty() ? "" : " ") + ::describe(*entry, positions);
     }
     return line;

@@ -16,7 +16,7 @@ TEST(TextOf, IsEmptyForAValueOfAnotherKindWithoutAText) {
 
 TEST(StoredValue, HasTheTextWhateverItsLength) {
     internal::ArenaWithRoom<64> memory;
-    std::vector<StoredValue> values;
+    std::vector<internal::StoredValue> values;
     std::vector<std::string> texts;
     for (std::size_t size = 1; size <= 40; ++size) {
         texts.emplace_back(size, static_cast<char>('a' + size % 26));
@@ -36,21 +36,21 @@ TEST(StoredValue, HasTheTextWhateverItsLength) {
 
 TEST(StoredValue, HasTheTextOfTheVariantWhereItHasNoneOfItsOwn) {
     internal::ArenaWithRoom<64> memory;
-    EXPECT_STREQ(StoredValue({"", variant_t("short"), 1}, memory).text(), "short");
-    EXPECT_STREQ(StoredValue({"", variant_t("a text of twenty characters"), 1}, memory).text(),
+    EXPECT_STREQ(internal::StoredValue({"", variant_t("short"), 1}, memory).text(), "short");
+    EXPECT_STREQ(internal::StoredValue({"", variant_t("a text of twenty characters"), 1}, memory).text(),
                  "a text of twenty characters");
-    EXPECT_STREQ(StoredValue({"", variant_t(5), 1}, memory).text(), "");
+    EXPECT_STREQ(internal::StoredValue({"", variant_t(5), 1}, memory).text(), "");
 }
 
 TEST(StoredValue, OutlivesWhatItWasGiven) {
     internal::ArenaWithRoom<64> memory;
-    std::vector<StoredValue> values;
+    std::vector<internal::StoredValue> values;
     {
         const OptionValue same = {"a text of twenty characters", variant_t("a text of twenty characters"), 1};
         const OptionValue other = {"a text of twenty characters", variant_t(), 1};
-        values = {StoredValue(same, memory), StoredValue(other, memory)};
+        values = {internal::StoredValue(same, memory), internal::StoredValue(other, memory)};
     }
-    const std::vector<StoredValue> copies = values;
+    const std::vector<internal::StoredValue> copies = values;
     values.clear();
     EXPECT_STREQ(copies[0].text(), "a text of twenty characters");
     EXPECT_STREQ(copies[1].text(), "a text of twenty characters");
@@ -58,9 +58,9 @@ TEST(StoredValue, OutlivesWhatItWasGiven) {
 
 // Hosts give lists of a million numbers.
 TEST(StoredValue, TakesTheRoomOfTwoVariantsWithTheTextOfA32BitNumber) {
-    EXPECT_EQ(sizeof(StoredValue), 2 * sizeof(variant_t));
+    EXPECT_EQ(sizeof(internal::StoredValue), 2 * sizeof(variant_t));
     internal::ArenaWithRoom<16> memory;
-    const StoredValue lowest({"-2147483648", variant_t(1), 1}, memory);
+    const internal::StoredValue lowest({"-2147483648", variant_t(1), 1}, memory);
     EXPECT_STREQ(lowest.text(), "-2147483648");
     EXPECT_EQ(lowest.text(), reinterpret_cast<const char*>(&lowest) + sizeof lowest - 12);
 }
