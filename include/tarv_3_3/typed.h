@@ -1,7 +1,6 @@
 #pragma once
 
 #include <new>
-#include <type_traits>
 
 #include "tarv_3_3/internal/typedEngine.h"
 #include "tarv_3_3/internal/typedValues.h"
@@ -116,7 +115,7 @@ public:
     /// Only these values. Of a text, a beginning that fits only one stands for it on the command line.
     template <class... Choices>
     Handle oneOf(const Choices&... choices) const {
-        static_assert(values::isText<Element> || std::is_arithmetic_v<Element>,
+        static_assert(values::isText<Element> || values::isArithmetic<Element>,
                       "tarv: oneOf() is for texts and numbers");
         (values::addChoice<Element>(option(), choices), ...);
         return *this;
@@ -126,7 +125,7 @@ public:
     /// bool; it is called while the command line is parsed.
     template <class F>
     Handle check(const char* must, F accepts) const {
-        static_assert(std::is_invocable_r_v<bool, const F&, const Element&>,
+        static_assert(values::isCallable<bool, const F&, void(const Element&)>,
                       "tarv: a check takes the type of the option's elements, and returns a bool");
         values::addCheck(m_slot, must, static_cast<F&&>(accepts));
         return *this;
@@ -184,7 +183,7 @@ public:
     /// word is what was typed of the value so far. It is called when a shell asks.
     template <class F>
     Handle completeWith(F completer) const {
-        static_assert(std::is_invocable_v<const F&, const char*, Candidates&>,
+        static_assert(values::isCallable<void, const F&, void(const char*, Candidates&)>,
                       "tarv: a completer takes a const char* and a Candidates&");
         values::setCompleter<Candidates>(m_slot, static_cast<F&&>(completer));
         return *this;
@@ -289,8 +288,8 @@ public:
     /// nothing for 0. The body is kept: capture handles by value.
     template <class F>
     Command& does(F body) {
-        using Returned = std::invoke_result_t<F&>;
-        static_assert(std::is_void_v<Returned> || std::is_same_v<Returned, int>,
+        using Returned = decltype(values::given<F&>()());
+        static_assert(values::isSame<Returned, void> || values::isSame<Returned, int>,
                       "tarv: a body returns an int, the exit code, or nothing");
         engine::setBody(m_record, values::makeBody(static_cast<F&&>(body)));
         return *this;

@@ -1,9 +1,9 @@
 #pragma once
 
 #include <new>
-#include <type_traits>
 
 #include "tarv_3_3/internal/typedEngine.h"
+#include "tarv_3_3/internal/typedTraits.h"
 #include "tarv_3_3/typedTypes.h"
 
 /// How a C++ type is made of text. Hosts use `tarv_3_3/typed.h`.
@@ -21,31 +21,29 @@ inline constexpr bool never = false;
 template <class T, class = void>
 inline constexpr bool isForeign = false;
 template <class T>
-inline constexpr bool
-    isForeign<T, std::void_t<decltype(fromText(static_cast<const char*>(nullptr), std::declval<T&>()))>> =
-        true;
+inline constexpr bool isForeign<T, Void<decltype(fromText(static_cast<const char*>(nullptr), given<T&>()))>> =
+    true;
 
 template <class T, class = void>
 inline constexpr bool isOptional = false;
 template <class T>
-inline constexpr bool isOptional<T, std::void_t<typename T::value_type, decltype(&T::has_value)>> = true;
+inline constexpr bool isOptional<T, Void<typename T::value_type, decltype(&T::has_value)>> = true;
 
 template <class T>
-inline constexpr bool isText =
-    std::is_class_v<T>&& std::is_convertible_v<const char*, T> && !isForeign<T> && !isOptional<T>;
+inline constexpr bool isText = __is_class(T) && isConvertible<const char*, T> && !isForeign<T> &&
+                               !isOptional<T>;
 
 template <class T, class = void>
 inline constexpr bool hasPushBack = false;
 template <class T>
-inline constexpr bool hasPushBack<
-    T, std::void_t<decltype(std::declval<T&>().push_back(std::declval<typename T::value_type>()))>> = true;
+inline constexpr bool hasPushBack<T, Void<decltype(given<T&>().push_back(given<typename T::value_type>()))>> =
+    true;
 
 template <class T, class = void>
 inline constexpr bool hasInsert = false;
 template <class T>
-inline constexpr bool
-    hasInsert<T, std::void_t<decltype(std::declval<T&>().insert(std::declval<typename T::value_type>()))>> =
-        true;
+inline constexpr bool hasInsert<T, Void<decltype(given<T&>().insert(given<typename T::value_type>()))>> =
+    true;
 
 template <class T>
 inline constexpr bool isList = !isText<T> && !isForeign<T> && (hasPushBack<T> || hasInsert<T>);
@@ -53,51 +51,45 @@ inline constexpr bool isList = !isText<T> && !isForeign<T> && (hasPushBack<T> ||
 template <class T, class = void>
 inline constexpr bool isDuration = false;
 template <class T>
-inline constexpr bool isDuration<T, std::void_t<typename T::rep, typename T::period>> = true;
+inline constexpr bool isDuration<T, Void<typename T::rep, typename T::period>> = true;
 
 template <class T, class = void>
 inline constexpr bool isPath = false;
 template <class T>
-inline constexpr bool isPath<T, std::void_t<decltype(T::preferred_separator)>> = true;
+inline constexpr bool isPath<T, Void<decltype(T::preferred_separator)>> = true;
 
 template <class T, class = void>
 inline constexpr bool hasData = false;
 template <class T>
-inline constexpr bool hasData<T, std::void_t<decltype(std::declval<const T&>().data() + 0),
-                                             decltype(std::declval<const T&>().size())>> = true;
+inline constexpr bool
+    hasData<T, Void<decltype(given<const T&>().data() + 0), decltype(given<const T&>().size())>> = true;
 
 template <class T, class = void>
 inline constexpr bool hasCString = false;
 template <class T>
-inline constexpr bool hasCString<
-    T, std::enable_if_t<std::is_convertible_v<decltype(std::declval<const T&>().c_str()), const char*>>> =
-    true;
+inline constexpr bool hasCString<T, Void<decltype(accept<const char*>(given<const T&>().c_str()))>> = true;
 
 template <class T, class = void>
 inline constexpr bool isNamed = false;
 template <class T>
-inline constexpr bool isNamed<T, std::void_t<decltype(Names<T>::list)>> = true;
+inline constexpr bool isNamed<T, Void<decltype(Names<T>::list)>> = true;
 
 template <class T, class = void>
 inline constexpr bool hasFixedType = false;
 template <class T>
-inline constexpr bool hasFixedType<T, std::void_t<decltype(T{0})>> = true;
+inline constexpr bool hasFixedType<T, Void<decltype(T{0})>> = true;
 
 template <class T>
-inline constexpr bool isWide =
-    std::is_same_v<T, wchar_t> || std::is_same_v<T, char16_t> || std::is_same_v<T, char32_t>;
+inline constexpr bool
+    isNumber = (isArithmetic<T> && !isSame<T, bool> && !isSame<T, char>) || isSame<T, Size> ||
+               (isDuration<T> && !isForeign<T>);
 
-template <class T>
-inline constexpr bool isNumber = (std::is_arithmetic_v<T> && !std::is_same_v<T, bool> &&
-                                  !std::is_same_v<T, char>) ||
-                                 std::is_same_v<T, Size> || (isDuration<T> && !isForeign<T>);
-
-template <class T, class = void>
+template <class T, bool = isList<T> || isOptional<T>>
 struct ElementOf {
     using Type = T;
 };
 template <class T>
-struct ElementOf<T, std::enable_if_t<isList<T> || isOptional<T>>> {
+struct ElementOf<T, true> {
     using Type = typename T::value_type;
 };
 
@@ -121,17 +113,17 @@ template <class T>
 constexpr int kindOf() {
     if constexpr (isForeign<T>) {
         return engine::kindForeign;
-    } else if constexpr (std::is_same_v<T, bool>) {
+    } else if constexpr (isSame<T, bool>) {
         return engine::kindSwitch;
-    } else if constexpr (std::is_same_v<T, char>) {
+    } else if constexpr (isSame<T, char>) {
         return engine::kindByte;
-    } else if constexpr (std::is_integral_v<T> && !isWide<T>) {
-        return std::is_signed_v<T> ? engine::kindSigned : engine::kindUnsigned;
-    } else if constexpr (std::is_same_v<T, float> || std::is_same_v<T, double>) {
+    } else if constexpr (isWhole<T>) {
+        return isSigned<T> ? engine::kindSigned : engine::kindUnsigned;
+    } else if constexpr (isSame<T, float> || isSame<T, double>) {
         return engine::kindReal;
-    } else if constexpr (std::is_enum_v<T>) {
+    } else if constexpr (__is_enum(T)) {
         return engine::kindChoice;
-    } else if constexpr (std::is_same_v<T, Size>) {
+    } else if constexpr (isSame<T, Size>) {
         return engine::kindSize;
     } else if constexpr (isDuration<T>) {
         return engine::kindDuration;
@@ -191,15 +183,33 @@ constexpr const char* behindLabel(const char* text) {
     return text;
 }
 
-// A value with a name ends in its name, "ns::Paper::a4"; one without in a number, "(ns::Paper)7".
+// Of the value that begins here: the comma or the bracket behind it.
+constexpr const char* endOfValue(const char* text) {
+    for (int depth = 0; *text != '\0'; ++text) {
+        const bool closes = *text == ')' || *text == '>' || *text == '}';
+        if (depth == 0 && (*text == ',' || closes)) {
+            break;
+        }
+        depth += *text == '(' || *text == '<' || *text == '{' ? 1 : closes ? -1 : 0;
+    }
+    return text;
+}
+
+// A value with a name ends in its name, "ns::Paper::a4"; one without in a number, "(ns::Paper)7". Nearly all
+// have none; behind the first of them, the type in brackets is skipped, since compilers take their time for
+// each byte.
 constexpr Spelled scan(const char* text) {
     Spelled found;
-    int depth = 0;
-    int place = 0;
-    for (text = behindLabel(text); *text != '\0'; ++text) {
-        const bool opens = *text == '(' || *text == '<' || *text == '{';
-        const bool closes = *text == ')' || *text == '>' || *text == '}';
-        if ((*text == ',' && depth == 1) || (closes && depth == 1)) {
+    long typeLength = 0;
+    const char* const end = text + __builtin_strlen(text);
+    text = behindLabel(text) + 1;
+    for (int place = 0; text < end; ++place) {
+        const bool isSkipped =
+            typeLength != 0 && typeLength < end - text && *text == '(' && text[typeLength - 1] == ')' &&
+            (text[typeLength] == '-' || ('0' <= text[typeLength] && text[typeLength] <= '9'));
+        const char* const begin = text;
+        text = endOfValue(isSkipped ? text + typeLength : text);
+        if (!isSkipped) {
             const char* name = text;
             while (isNameByte(name[-1])) {
                 --name;
@@ -208,13 +218,14 @@ constexpr Spelled scan(const char* text) {
                 ++found.named;
                 found.lastNamed = place;
                 found.longest = text - name > found.longest ? static_cast<int>(text - name) : found.longest;
+            } else {
+                typeLength = name - begin - (name[-1] == '-' ? 1 : 0);
             }
-            ++place;
         }
-        depth += opens ? 1 : closes ? -1 : 0;
-        if (depth == 0) {
+        if (*text != ',') {
             break;
         }
+        text += 2;
     }
     return found;
 }
@@ -223,14 +234,13 @@ template <class E>
 constexpr const char* spellingOf() {
     if constexpr (isNamed<E>) {
         return nullptr;
-    } else if constexpr (!hasFixedType<E> || std::is_same_v<std::underlying_type_t<E>, bool>) {
+    } else if constexpr (!hasFixedType<E> || isSame<__underlying_type(E), bool>) {
         static_assert(never<E>, "tarv: this enumeration has no fixed underlying type; specialize "
                                 "tarv_3_3::typed::Names for it");
     } else {
         constexpr Spelled found = scan(spelling<E, 0>(FirstValues<128>()));
-        constexpr int below = std::is_signed_v<std::underlying_type_t<E>>
-                                  ? scan(spelling<E, -128>(FirstValues<128>())).named
-                                  : 0;
+        constexpr int below =
+            isSigned<__underlying_type(E)> ? scan(spelling<E, -128>(FirstValues<128>())).named : 0;
         static_assert(found.named > 0 && found.lastNamed + 1 == found.named && below == 0,
                       "tarv: the values of this enumeration do not count up from 0; specialize "
                       "tarv_3_3::typed::Names for it");
@@ -315,12 +325,12 @@ struct InitialSlot : Slot<T> {
 
 template <class N>
 [[gnu::cold]] bool readNumber(engine::Taking* taking, const char* text, N& number) {
-    if constexpr (std::is_floating_point_v<N>) {
+    if constexpr (isReal<N>) {
         double value = 0;
         const bool isRead = engine::readReal(taking, text, &value);
         number = static_cast<N>(value);
         return isRead;
-    } else if constexpr (std::is_signed_v<N>) {
+    } else if constexpr (isSigned<N>) {
         long long value = 0;
         const bool isRead = engine::readSigned(taking, text, &value);
         number = static_cast<N>(value);
@@ -338,20 +348,20 @@ template <class E>
 [[gnu::cold]] bool read(engine::Taking* taking, const char* text, E& element) {
     if constexpr (isForeign<E>) {
         return fromText(text, element) || engine::refuse(taking, nullptr);
-    } else if constexpr (std::is_same_v<E, bool>) {
+    } else if constexpr (isSame<E, bool>) {
         return engine::readSwitch(taking, text, &element);
-    } else if constexpr (std::is_same_v<E, char>) {
+    } else if constexpr (isSame<E, char>) {
         const char* const byte = engine::readText(taking, text, false);
         element = byte != nullptr ? *byte : element;
         return byte != nullptr;
-    } else if constexpr (std::is_enum_v<E>) {
+    } else if constexpr (__is_enum(E)) {
         int place = 0;
         const bool isRead = engine::readChoice(taking, text, &place);
         element = isRead ? valueAt<E>(place) : element;
         return isRead;
     } else if constexpr (isText<E>) {
         // What owns nothing points to what the program keeps.
-        const char* const whole = engine::readText(taking, text, std::is_trivially_copyable_v<E>);
+        const char* const whole = engine::readText(taking, text, __is_trivially_copyable(E));
         if (whole == nullptr) {
             return false;
         }
@@ -362,7 +372,7 @@ template <class E>
         const bool isRead = readNumber(taking, text, number);
         element = E(number);
         return isRead;
-    } else if constexpr (std::is_same_v<E, Size>) {
+    } else if constexpr (isSame<E, Size>) {
         return engine::readUnsigned(taking, text, &element.bytes);
     } else {
         return readNumber(taking, text, element);
@@ -427,11 +437,10 @@ template <class Made>
 
 template <class N>
 constexpr engine::Shape withLimits(engine::Shape shape) {
-    if constexpr (std::is_integral_v<N>) {
-        constexpr bool isSigned = std::is_signed_v<N>;
-        constexpr int bits = static_cast<int>(sizeof(N)) * 8 - (isSigned ? 1 : 0);
+    if constexpr (isWhole<N>) {
+        constexpr int bits = static_cast<int>(sizeof(N)) * 8 - (isSigned<N> ? 1 : 0);
         shape.most = ~0ULL >> (64 - bits);
-        shape.least = isSigned ? -static_cast<long long>(shape.most) - 1 : 0;
+        shape.least = isSigned<N> ? -static_cast<long long>(shape.most) - 1 : 0;
     }
     return shape;
 }
@@ -443,20 +452,24 @@ constexpr engine::Shape makeShape(int kind) {
     shape.size = sizeof(engine::Shape);
     shape.kind = kind;
     shape.holds = isList<T> ? engine::holdsMany : isOptional<T> ? engine::holdsOptional : engine::holdsOne;
-    shape.isFloat = std::is_same_v<Element, float>;
+    shape.isFloat = isSame<Element, float>;
     shape.isPath = isPath<Element>;
     shape.restore = restore<T, hasInitial>;
     shape.take = take<T>;
-    shape.destroy = destroy<std::conditional_t<hasInitial, InitialSlot<T>, Slot<T>>>;
-    if constexpr (std::is_enum_v<Element> && !isForeign<Element>) {
+    if constexpr (hasInitial) {
+        shape.destroy = destroy<InitialSlot<T>>;
+    } else {
+        shape.destroy = destroy<Slot<T>>;
+    }
+    if constexpr (__is_enum(Element) && !isForeign<Element>) {
         shape.spelling = spellingOf<Element>();
         shape.choiceAt = isNamed<Element> ? choiceAt<Element> : nullptr;
-    } else if constexpr (std::is_same_v<Element, Size>) {
+    } else if constexpr (isSame<Element, Size>) {
         return withLimits<unsigned long long>(shape);
     } else if constexpr (isDuration<Element> && !isForeign<Element>) {
         shape.periodNumerator = Element::period::num;
         shape.periodDenominator = Element::period::den;
-        shape.isFloat = std::is_floating_point_v<typename Element::rep>;
+        shape.isFloat = isReal<typename Element::rep>;
         return withLimits<typename Element::rep>(shape);
     }
     return withLimits<Element>(shape);
@@ -479,17 +492,17 @@ template <class T>
         for (const auto& element : value) {
             showDefault<typename ElementOf<T>::Type>(option, element);
         }
-    } else if constexpr (std::is_enum_v<T>) {
+    } else if constexpr (__is_enum(T)) {
         engine::addDefaultSigned(option, placeOf(value));
     } else if constexpr (isDuration<T>) {
         showDefault(option, value.count());
-    } else if constexpr (std::is_same_v<T, char>) {
+    } else if constexpr (isSame<T, char>) {
         engine::addDefaultText(option, &value, 1);
-    } else if constexpr (std::is_floating_point_v<T>) {
+    } else if constexpr (isReal<T>) {
         engine::addDefaultReal(option, static_cast<double>(value));
-    } else if constexpr (std::is_integral_v<T> && std::is_signed_v<T>) {
+    } else if constexpr (isWhole<T> && isSigned<T>) {
         engine::addDefaultSigned(option, value);
-    } else if constexpr (std::is_integral_v<T> || std::is_same_v<T, Size>) {
+    } else if constexpr (isWhole<T> || isSame<T, Size>) {
         engine::addDefaultUnsigned(option, value);
     } else if constexpr (hasData<T>) {
         engine::addDefaultText(option, value.data(), static_cast<unsigned long>(value.size()));
@@ -510,10 +523,10 @@ template <class T>
 
 template <class N, class Bound>
 constexpr bool isOutside(Bound bound) {
-    if constexpr (!std::is_integral_v<N>) {
+    if constexpr (!isWhole<N>) {
         return false;
     } else if (bound < Bound()) {
-        return !std::is_signed_v<N> || static_cast<long long>(bound) < withLimits<N>({}).least;
+        return !isSigned<N> || static_cast<long long>(bound) < withLimits<N>({}).least;
     } else {
         return static_cast<unsigned long long>(bound) > withLimits<N>({}).most;
     }
@@ -522,7 +535,7 @@ constexpr bool isOutside(Bound bound) {
 /// Whether one of the bounds is no value of the type N, as far as both are whole numbers.
 template <class N, class Low, class High>
 constexpr bool areOutside(Low low, High high) {
-    if constexpr (std::is_integral_v<N> && std::is_integral_v<Low> && std::is_integral_v<High>) {
+    if constexpr (isWhole<N> && isWhole<Low> && isWhole<High>) {
         return isOutside<N>(low) || isOutside<N>(high);
     } else {
         return false;
@@ -531,13 +544,12 @@ constexpr bool areOutside(Low low, High high) {
 
 template <class N, class Low, class High>
 [[gnu::always_inline]] inline void setRangeOfNumber(engine::Option* option, Low low, High high) {
-    static_assert(std::is_arithmetic_v<Low> && std::is_arithmetic_v<High>,
-                  "tarv: the bounds of range() are numbers");
-    if constexpr (std::is_floating_point_v<N>) {
+    static_assert(isArithmetic<Low> && isArithmetic<High>, "tarv: the bounds of range() are numbers");
+    if constexpr (isReal<N>) {
         engine::setRangeReal(option, static_cast<double>(low), static_cast<double>(high));
     } else {
         static_assert(
-            std::is_integral_v<Low> && std::is_integral_v<High>,
+            isWhole<Low> && isWhole<High>,
             "tarv: the bounds of range() are outside of the option's type, which is a whole number");
 #if !defined(__clang__)
         const bool isWrong = areOutside<N>(low, high);
@@ -558,7 +570,7 @@ template <class Element, class Low, class High>
 [[gnu::always_inline]] inline void setRange(engine::Option* option, Low low, High high) {
     if constexpr (isDuration<Element>) {
         setRangeOfNumber<typename Element::rep>(option, Element(low).count(), Element(high).count());
-    } else if constexpr (std::is_same_v<Element, Size>) {
+    } else if constexpr (isSame<Element, Size>) {
         setRange<unsigned long long>(option, static_cast<unsigned long long>(low),
                                      static_cast<unsigned long long>(high));
     } else {
@@ -568,14 +580,14 @@ template <class Element, class Low, class High>
 
 template <class Element, class C>
 void addChoice(engine::Option* option, const C& choice) {
-    if constexpr (std::is_convertible_v<const C&, const char*>) {
+    if constexpr (isConvertible<const C&, const char*>) {
         engine::refine(option, engine::refineChoice, choice);
     } else if constexpr (hasCString<C>) {
         engine::refine(option, engine::refineChoice, choice.c_str());
     } else {
-        static_assert(std::is_arithmetic_v<C> && std::is_arithmetic_v<Element>,
+        static_assert(isArithmetic<C> && isArithmetic<Element>,
                       "tarv: a value of oneOf() is of another type than the option");
-        if constexpr (std::is_floating_point_v<Element>) {
+        if constexpr (isReal<Element>) {
             engine::addChoiceReal(option, static_cast<double>(choice));
         } else {
             engine::addChoiceSigned(option, static_cast<long long>(choice));
@@ -645,7 +657,7 @@ template <class F>
     With* const made = new (std::nothrow) With(static_cast<F&&>(function));
     if (made != nullptr) {
         made->call = [](engine::Body* body) -> int {
-            if constexpr (std::is_void_v<decltype(static_cast<With*>(body)->runs())>) {
+            if constexpr (isSame<decltype(static_cast<With*>(body)->runs()), void>) {
                 static_cast<With*>(body)->runs();
                 return 0;
             } else {
