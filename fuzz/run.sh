@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # Fuzzes one target for a while, starting from the corpus; new inputs stay in the build directory.
 #   fuzz/run.sh TARGET SECONDS [LIBFUZZER-OPTION...]
-# TARGET is arguments, calls, declarations, description, reading, scripts, streams or texts.
+# TARGET is arguments, calls, declarations, description, reading, scripts, streams, texts or typed.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 
