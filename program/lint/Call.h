@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -33,8 +34,24 @@ using Call = std::vector<Word>;
 /// `Failure` when it is not one.
 std::vector<Call> readCalls(const std::string& tree, const std::string& script);
 
+/// The name of the command that a word runs, without the folders in front of it.
+std::string commandName(const Word& word);
+
+/// The places of the words that name commands: the first, and those behind commands that run others, such as
+/// sudo, env and xargs.
+std::vector<std::size_t> commandPlaces(const Call& call);
+
+/// The syntax tree of a script that stands in an argument, as for `readCalls`; "" where there is none.
+using TreeOf = std::function<std::string(const std::string& script)>;
+
+/// The commands that a command is given to run in other ways: those behind -exec of find, and those of a
+/// script behind -c of a shell, if it is known as a whole. Their words stand where they stand in `script`,
+/// the one that `call` is from. A word of which nobody says where it stands has the place of the argument
+/// that it is in.
+std::vector<Call> innerCalls(const Call& call, const std::string& script, const TreeOf& treeOf);
+
 /// The place of the word that runs `program`, by its name or any path that ends in it, also behind commands
-/// that run others, such as sudo, env and xargs; the number of words when none does.
+/// that run others; the number of words when none does.
 std::size_t programPlace(const Call& call, const std::string& program);
 
 } // namespace tarv_program

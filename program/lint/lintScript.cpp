@@ -1,6 +1,10 @@
 #include "lint/lintScript.h"
 
 #include <algorithm>
+#include <cerrno>
+#include <cstdio>
+#include <cstring>
+#include <memory>
 
 #include "model/askProgram.h"
 #include "model/loadDescription.h"
@@ -10,10 +14,17 @@ namespace tarv_program {
 
 namespace {
 
+/// Nobody writes a script in a script in a script in a script.
+constexpr unsigned deepestScript = 3;
+
+std::string treeOfFile(const std::string& path) {
+    return outputOf({"shfmt", "--to-json", "-ln=bash"},
+                    Limits{std::chrono::seconds(60), 1024UL * 1024 * 1024}, path);
+}
+
 std::string treeOf(const std::string& path) {
     try {
-        return outputOf({"shfmt", "--to-json", "-ln=bash"},
-                        Limits{std::chrono::seconds(60), 1024UL * 1024 * 1024}, path);
+        return treeOfFile(path);
     } catch (const NotFound&) {
         throw Failure("shfmt is not installed, which reads the scripts; on Debian: apt install shfmt");
     } catch (const Failure& failure) {
@@ -21,31 +32,87 @@ std::string treeOf(const std::string& path) {
     }
 }
 
-} // namespace
+struct CloseFile {
+    void operator()(std::FILE* file) const { std::fclose(file); }
+};
 
-std::vector<Diagnostic> lintTree(const CommandLine& program, const std::vector<std::string>& names,
-                                 const std::string& tree, const std::string& script) {
-    std::vector<Diagnostic> all;
-    for (const Call& call : readCalls(tree, script)) {
-        for (const std::string& name : names) {
+// The syntax tree of a script in memory; "" for what is none.
+std::string treeOfText(const std::string& script) {
+    const std::unique_ptr<std::FILE, CloseFile> file(std::tmpfile());
+    if (file == nullptr || std::fwrite(script.data(), 1, script.size(), file.get()) != script.size() ||
+        std::fflush(file.get()) != 0) {
+        throw Failure(std::string("cannot write a temporary file: ") + std::strerror(errno));
+    }
+    try {
+        return treeOfFile("/proc/self/fd/" + std::to_string(fileno(file.get())));
+    } catch (const Failure&) {
+        return "";
+    }
+}
+
+/// Looks at calls, and at those that stand in them.
+class Lint {
+public:
+    Lint(const CommandLine& program, const std::vector<std::string>& names, const std::string& script,
+         TreeOf treeOfScript)
+        : m_program(program), m_names(names), m_script(script), m_treeOf(std::move(treeOfScript)) {}
+
+    void look(const std::vector<Call>& calls, unsigned depth) {
+        for (const Call& call : calls) {
+            check(call);
+            if (depth < deepestScript) {
+                look(innerCalls(call, m_script, m_treeOf), depth + 1);
+            }
+        }
+    }
+
+    std::vector<Diagnostic> take() {
+        std::stable_sort(m_found.begin(), m_found.end(), [](const Diagnostic& one, const Diagnostic& other) {
+            return one.line != other.line ? one.line < other.line : one.column < other.column;
+        });
+        return std::move(m_found);
+    }
+
+private:
+    void check(const Call& call) {
+        for (const std::string& name : m_names) {
             const std::size_t place = programPlace(call, name);
             if (place < call.size()) {
-                const std::vector<Diagnostic> found = checkCall(program, call, place);
-                all.insert(all.end(), found.begin(), found.end());
+                const std::vector<Diagnostic> found = checkCall(m_program, call, place);
+                m_found.insert(m_found.end(), found.begin(), found.end());
                 break;
             }
         }
     }
-    std::stable_sort(all.begin(), all.end(), [](const Diagnostic& one, const Diagnostic& other) {
-        return one.line != other.line ? one.line < other.line : one.column < other.column;
-    });
-    return all;
+
+    const CommandLine& m_program;
+    const std::vector<std::string>& m_names;
+    const std::string& m_script;
+    const TreeOf m_treeOf;
+    std::vector<Diagnostic> m_found;
+};
+
+} // namespace
+
+std::vector<Diagnostic> lintTree(const CommandLine& program, const std::vector<std::string>& names,
+                                 const std::string& tree, const std::string& script,
+                                 const TreeOf& treeOfScript) {
+    Lint lint(program, names, script, treeOfScript);
+    lint.look(readCalls(tree, script), 0);
+    return lint.take();
 }
 
 LintedScript lintScript(const CommandLine& program, const std::vector<std::string>& names,
                         const std::string& path) {
     LintedScript script = {path, contentsOf(path), {}};
-    script.diagnostics = lintTree(program, names, treeOf(path), script.contents);
+    script.diagnostics =
+        lintTree(program, names, treeOf(path), script.contents, [&](const std::string& inner) {
+            // Most do not even name the program, and need no reading.
+            const bool isNamed = std::any_of(names.begin(), names.end(), [&](const std::string& name) {
+                return inner.find(name) != std::string::npos;
+            });
+            return isNamed ? treeOfText(inner) : "";
+        });
     return script;
 }
 

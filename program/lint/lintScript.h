@@ -20,9 +20,11 @@ struct LintedScript {
 LintedScript lintScript(const CommandLine& program, const std::vector<std::string>& names,
                         const std::string& path);
 
-/// What is to be said of the calls in a script with this syntax tree.
+/// What is to be said of the calls in a script with this syntax tree. `treeOfScript` reads scripts that stand
+/// in arguments.
 std::vector<Diagnostic> lintTree(const CommandLine& program, const std::vector<std::string>& names,
-                                 const std::string& tree, const std::string& script);
+                                 const std::string& tree, const std::string& script,
+                                 const TreeOf& treeOfScript);
 
 /// As compilers say it: "FILE:LINE:COLUMN: warning: ...", one a line.
 std::string reportOf(const LintedScript& script);

@@ -34,12 +34,8 @@ const Runner runners[] = {
     {"command", "", " ", 0},
     {"builtin", "", " ", 0},
     {"exec", "a", " ", 0},
+    {"busybox", "", " ", 0},
 };
-
-std::string baseName(const std::string& text) {
-    const std::size_t slash = text.rfind('/');
-    return slash == std::string::npos ? text : text.substr(slash + 1);
-}
 
 const Runner* runnerCalled(const std::string& name) {
     for (const Runner& runner : runners) {
@@ -89,18 +85,30 @@ std::size_t commandBehind(const Runner& runner, const Call& call, std::size_t pl
 
 } // namespace
 
-std::size_t programPlace(const Call& call, const std::string& program) {
+std::string commandName(const Word& word) {
+    const std::size_t slash = word.text.rfind('/');
+    return slash == std::string::npos ? word.text : word.text.substr(slash + 1);
+}
+
+std::vector<std::size_t> commandPlaces(const Call& call) {
+    std::vector<std::size_t> places;
     std::size_t place = 0;
     while (place < call.size() && call[place].firstUnknown == Word::none) {
-        const std::string name = baseName(call[place].text);
-        if (name == program) {
-            return place;
-        }
-        const Runner* const runner = runnerCalled(name);
+        places.push_back(place);
+        const Runner* const runner = runnerCalled(commandName(call[place]));
         if (runner == nullptr) {
             break;
         }
         place = commandBehind(*runner, call, place + 1);
+    }
+    return places;
+}
+
+std::size_t programPlace(const Call& call, const std::string& program) {
+    for (const std::size_t place : commandPlaces(call)) {
+        if (commandName(call[place]) == program) {
+            return place;
+        }
     }
     return call.size();
 }

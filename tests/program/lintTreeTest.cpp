@@ -52,6 +52,107 @@ TEST(ProgramPlace, IsBehindCommandsThatRunOthers) {
     }
 }
 
+Call callOf(const std::vector<const char*>& words) {
+    Call call;
+    for (const char* const text : words) {
+        call.push_back(known(text));
+    }
+    return call;
+}
+
+TEST(InnerCalls, AreThoseBehindExecOfFind) {
+    const struct {
+        std::vector<const char*> words;
+        std::vector<std::vector<std::string>> expected;
+    } rows[] = {
+        {{"find", "-exec", "pack", "x", ";"}, {{"pack", "x"}}},
+        {{"find", ".", "-execdir", "pack", "{}", "+", "-ok", "ls", "+", ";", "-okdir", "rm", "{}", ";"},
+         {{"pack", "{}"}, {"ls", "+"}, {"rm", "{}"}}},
+        {{"sudo", "/usr/bin/find", "-exec", "pack"}, {{"pack"}}},
+        {{"find", "-exec", ";", "-print"}, {}},
+        {{"find", "-name", "pack"}, {}},
+        {{"echo", "-exec", "pack", ";"}, {}},
+        {{"find", "-exec"}, {}},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(testing::PrintToString(row.words));
+        std::vector<std::vector<std::string>> found;
+        for (const Call& inner : innerCalls(callOf(row.words), "", nullptr)) {
+            found.emplace_back();
+            for (const Word& word : inner) {
+                found.back().push_back(word.text);
+            }
+        }
+        EXPECT_EQ(found, row.expected);
+    }
+}
+
+TEST(InnerCalls, AreInTheScriptThatAShellIsGiven) {
+    const struct {
+        std::vector<const char*> words;
+        const char* expected;
+    } rows[] = {
+        {{"sh", "-c", "script"}, "script"},
+        {{"/bin/bash", "-ec", "script", "name"}, "script"},
+        {{"env", "A=b", "bash", "--norc", "-euo", "pipefail", "-c", "script"}, "script"},
+        {{"bash", "--rcfile", "file", "+o", "history", "-c", "-x", "script"}, "script"},
+        {{"busybox", "sh", "-c", "--", "script"}, "script"},
+        {{"dash", "-c", "-", "script"}, "script"},
+        {{"sh", "file", "-c", "script"}, ""},
+        {{"sh", "-e", "script"}, ""},
+        {{"sh", "--color", "script"}, ""},
+        {{"sh", "-c"}, ""},
+        {{"sh", "-c", "-o"}, ""},
+        {{"fish", "-c", "script"}, ""},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(testing::PrintToString(row.words));
+        std::string asked;
+        innerCalls(callOf(row.words), "", [&](const std::string& script) {
+            asked += script;
+            return "";
+        });
+        EXPECT_EQ(asked, row.expected);
+    }
+}
+
+// A script of two words, of which the second begins at the ninth byte.
+const char treeOfTwoWords[] = R"({"Type": "File", "Stmts": [{"Cmd": {"Type": "CallExpr", "Args": [
+    {"Pos": {"Offset": 0, "Line": 1, "Col": 1}, "Parts": [
+        {"Type": "Lit", "Value": "pack", "ValuePos": {"Offset": 0, "Line": 1, "Col": 1}}]},
+    {"Pos": {"Offset": 8, "Line": 2, "Col": 3}, "Parts": [
+        {"Type": "Lit", "Value": "--out", "ValuePos": {"Offset": 8, "Line": 2, "Col": 3}}]}]}}]})";
+
+TEST(InnerCalls, StandWhereTheirBytesStandInTheScriptAround) {
+    const std::string script = "true\nsh -c 'pack \\\n --out'";
+    Call call = callOf({"sh", "-c", "pack \\\n --out"});
+    Word& argument = call[2];
+    argument.line = 2;
+    argument.column = 7;
+    argument.offset = 11;
+    for (std::size_t i = 0; i < argument.text.size(); ++i) {
+        argument.offsets.push_back(12 + i);
+    }
+    const auto read = [](const std::string&) { return treeOfTwoWords; };
+    std::vector<Call> inner = innerCalls(call, script, read);
+    ASSERT_EQ(inner.size(), 1U);
+    EXPECT_EQ(inner[0][0].line, 2U);
+    EXPECT_EQ(inner[0][0].column, 8U);
+    EXPECT_EQ(inner[0][1].text, "--out");
+    EXPECT_EQ(inner[0][1].line, 3U);
+    EXPECT_EQ(inner[0][1].column, 2U);
+    EXPECT_TRUE(inner[0][1].isContiguous(0, 5));
+
+    argument.offsets.assign(argument.text.size(), Word::none);
+    inner = innerCalls(call, script, read);
+    EXPECT_EQ(inner[0][1].line, 2U);
+    EXPECT_EQ(inner[0][1].column, 7U);
+    EXPECT_FALSE(inner[0][1].isContiguous(0, 5));
+
+    argument.firstUnknown = 5;
+    EXPECT_EQ(innerCalls(call, script, read).size(), 0U);
+}
+
 TEST(ReadCalls, RefusesWhatIsNoSyntaxTree) {
     for (const char* const tree :
          {"", "{", "[]", "null", R"({"Type": "CallExpr"})", R"({"Type": 1})",
