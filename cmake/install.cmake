@@ -56,6 +56,18 @@ install(FILES share/tarv/description.schema.json
     DESTINATION ${CMAKE_INSTALL_DATADIR}/tarv
     COMPONENT development)
 
+# No example is installed as a program. The sources of the largest one are, with what it takes to build it: its
+# manual page and its completion come with it then.
+set(tarv_examples_dir ${CMAKE_INSTALL_DATADIR}/doc/tarv/examples/seek)
+if(TARV_DEBIAN)
+    set(tarv_examples_dir ${CMAKE_INSTALL_DATADIR}/doc/libtarv-dev/examples/seek)
+endif()
+file(GLOB tarv_example_files CONFIGURE_DEPENDS
+    examples/seek.* examples/searching.* examples/replacing.* examples/escaping.* examples/OpenFile.*)
+install(FILES ${tarv_example_files} examples/installed/CMakeLists.txt
+    DESTINATION ${tarv_examples_dir}
+    COMPONENT development)
+
 # A project that contains this one may have an `uninstall` of its own.
 if(PROJECT_IS_TOP_LEVEL)
     add_custom_target(uninstall COMMAND ${CMAKE_COMMAND}
