@@ -25,8 +25,25 @@ enum ParserFlag : int {
     flagNoLists = 0x20
 };
 
-/// Knows what a command line may hold, and reads it. Made by `createParser`, owned by the host,
-/// released with `destroy`.
+/// Holds the declarations of a program's options, and parses command lines. Made by `createParser`, owned by
+/// the host, released with `destroy`. For example:
+///
+///     tarv_3_3::IParser* parser = nullptr;
+///     if (tarv_3_3::createParser(&parser, tarv_3_3::flagRejectUnknown) != tarv_3_3::parseOk) {
+///         return 2;
+///     }
+///     parser->option("level,l", "How much to say.", tarv_3_3::vtInt32).defaultValue(1);
+///     parser->option("file", "What to read.", tarv_3_3::vtString).positional();
+///     tarv_3_3::IParseResult* result = nullptr;
+///     parser->createResult(&result);
+///     if (parser->parseArgsVector(argc, argv, result) != tarv_3_3::parseOk) {
+///         std::fprintf(stderr, "%s\n", parser->getErrorDesc());
+///     } else if (result->present("level")) {
+///         const int level = tarv_3_3::getLastValue(result, "level").value.get<std::int32_t>();
+///         // ...
+///     }
+///     result->destroy();
+///     parser->destroy();
 ///
 /// A parser and the results that it parses into are used by one thread at a time. Several parsers may work on
 /// several threads at once, each with results of its own. They share the counter of positions, which
@@ -62,6 +79,13 @@ public:
     /// The topic "tarv_hidden" is left out of help, unless it is asked for. A null topic or
     /// description counts as the empty text.
     ///
+    /// For example, with what a command line may then hold:
+    ///
+    ///     parser->option("output-file,o", "", vtString);  // --output-file=x, --out-f x, -o x
+    ///     parser->option("verbose,v", "", vtBool);        // --verbose, -v, --no-verbose
+    ///     parser->option("quiet", "", vtNull);            // --quiet
+    ///     parser->option("sizes", "", vtInt32);           // --sizes=1,2,3, which are three values
+    ///
     /// Returns the new declaration to be refined, valid until the next one. A refused one has `m_status`
     /// `declarationRefused`. Throws `std::bad_alloc` when there is no memory. A name that is taken is also
     /// written to the trace: if that is on, and the host has told `std::cout` to throw exceptions, they
@@ -76,7 +100,11 @@ public:
                             const char* topic = "") = 0;
 
     /// Declares an option that goes only with the actions that `tags` names, separated by commas.
-    /// An option declared with `option` goes with all of them.
+    /// An option declared with `option` goes with all of them. For example:
+    ///
+    ///     parser->action("build,b", "", vtNull);
+    ///     parser->action("clean", "", vtNull);
+    ///     parser->modifier("jobs,j", "build", "", vtInt32);  // --build --jobs=4, not --clean --jobs=4
     virtual IOption& modifier(const char* names, const char* tags, const char* description,
                               das_variant_type_t type, const char* topic = "") = 0;
 
@@ -129,15 +157,19 @@ public:
     /// Removes a handler; false when it is not registered. Remove it before it is destroyed.
     virtual bool removeHandler(EventHandler* handler) = 0;
 
-    /// Declares the string option "option-file" and reads every file that a command line names
-    /// with it, in order, behind the command line itself: one argument a line, as `parseStream`
-    /// has it, up to the first zero byte. A file may name further files. Every further parse into
-    /// the same result reads all of its files again. The names are read with `IParseResult::next` between the
-    /// files. A handler that queries the same result meanwhile redirects that: instead of the files that are
-    /// left, the values that are left of the option it asked for are read as files. A file that names itself,
-    /// also by way of others, is read again and again until memory is exhausted; a chain of files of which
-    /// each names the next one twice doubles the work with every file. Hosts that let strangers write option
-    /// files must not use this. Always returns true.
+    /// Declares the string option "option-file". After a command line, a parse reads every file that it names
+    /// with this option, in order: one argument a line, as for `parseStream`, up to the first zero byte. A
+    /// file may name further files. Every further parse into the same result reads all of its files again.
+    ///
+    /// A handler must not query the same result meanwhile. The names of the files are read from the result
+    /// with `IParseResult::next`, and a query starts another iteration: the remaining values of the option
+    /// that the handler asked for would then be read as files.
+    ///
+    /// Hosts that let strangers write option files must not use this. A file that names itself, also through
+    /// other files, is read until memory is exhausted. In a chain of files, each of which names the next one
+    /// twice, every file doubles the work.
+    ///
+    /// Always returns true.
     virtual bool addOptionFileOption(const char* description, const char* topic = "") = 0;
 
     virtual ~IParser();

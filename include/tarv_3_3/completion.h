@@ -16,23 +16,23 @@ enum CompletionFiles : int { completeNoFiles = 0, completeFiles = 1, completeDir
 /// A word that may stand at the cursor. The library makes these records; fields are only ever added at
 /// the end, and `Completion::stride` says how far one is from the next.
 struct Candidate {
-    /// The whole word, without a shell's quotes; never null. Where it ends in '=', a value is to follow
-    /// without a blank.
+    /// The whole word, without a shell's quotes; never null. If it ends in '=', the user goes on with a
+    /// value, and the shell must not add a blank.
     const char* text;
-    /// What is said of it; empty when nothing is, never null.
+    /// Its description; may be empty, never null.
     const char* description;
 };
 
 /// What may stand at the cursor. The library makes these records, and owns all that they point to;
 /// fields are only ever added at the end.
 struct Completion {
-    /// Of this record, in bytes.
+    /// The size of this record in bytes.
     unsigned size;
-    /// Of a `Candidate`, in bytes.
+    /// The size of a `Candidate` in bytes.
     unsigned stride;
     /// A `CompletionFiles`.
     int files;
-    /// Where in the word the file name begins, in bytes: behind `--file=`, for one. 0 when `files` is
+    /// The byte offset of the file name in the word, for instance behind `--file=`. 0 when `files` is
     /// `completeNoFiles`.
     unsigned fileOffset;
     /// How many `candidates` there are.
@@ -47,8 +47,8 @@ struct Completion {
 /// Takes the values that a host offers.
 class CandidateSink {
 public:
-    /// Offers `value`; both texts are copied. A null `description` says nothing, a null `value` is
-    /// ignored, as is one that does not begin with the word asked for.
+    /// Offers `value`; both texts are copied. A null `description` is empty. A value that is null, or that
+    /// does not begin with the word asked for, is ignored.
     virtual void add(const char* value, const char* description) = 0;
 
 protected:
@@ -61,24 +61,24 @@ protected:
     ///@}
 };
 
-/// A host's own values for the option of the primary name `option`. `word` is what was typed of the
-/// value, or of the last piece of a list. Returns whether it knows the option; if not, the shell adds
-/// files where the option takes texts. The pointers are valid during the call only.
+/// A host's function that offers values for the option with the primary name `option`. `word` is the typed
+/// part of the value, or of the last element of a list. Returns whether it knows the option. If not, and the
+/// option takes texts, the shell offers files. The pointers are valid during the call only.
 using ValueCompleter = bool (*)(void* context, const char* option, const char* word, CandidateSink& sink);
 
-/// Answers what may stand in place of the last of `count` words, of which the first is the program.
-/// Nothing is parsed, stored or told to handlers. `completer` may be null; `context` is passed on to it.
-/// The caller ends the answer with `release`. Null when memory is exhausted, when `count` is less than 2
-/// or `words` or one of them is null, or when `parser` was not made by `createParser`.
+/// Tells what may replace the last of `count` words, of which the first is the program. Nothing is stored,
+/// and no handlers are called. `completer` may be null; `context` is passed on to it. The caller ends the
+/// answer with `release`. Null when memory is exhausted, when `count` is less than 2 or `words` or one of
+/// them is null, or when `parser` was not made by `createParser`.
 TARV_API const Completion* complete(IParser* parser, int count, const char* const* words,
                                     ValueCompleter completer = nullptr, void* context = nullptr);
 
 /// Ends what `complete` returned; null is ignored.
 TARV_API void release(const Completion* completion);
 
-/// Answers the requests that a program's only argument can be, on standard output, and returns whether
-/// it was one; then the host leaves with exit code 0. Call it when all options are declared, before
-/// anything is printed or read from standard input.
+/// If the only argument is one of the requests below, answers it on standard output and returns true; the
+/// host then leaves with exit code 0. Call it when all options are declared, before anything is printed or
+/// read from standard input.
 ///
 /// - `tarvoption=completion=SHELL` prints the script for `bash`, `zsh` or `fish`.
 /// - `tarvoption=complete=SHELL` is what the scripts ask. The words come on standard input, each ended

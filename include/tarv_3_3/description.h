@@ -4,8 +4,8 @@
 #include "tarv_3_3/IParser.h"
 #include "tarv_3_3/export.h"
 
-/// What a parser was told, for whoever makes something of it: pages, completion, a model for other
-/// programs, a check of scripts. Also rules over several options, and what a user may have meant.
+/// Describes what was declared on a parser, for manual pages, completion, other programs and checks of
+/// scripts. Also adds notes, checks rules over several options, and suggests what a user may have meant.
 ///
 /// A parser or a result that is null, or was not made by this library, is refused by every function
 /// here. None of them throws.
@@ -21,9 +21,9 @@ enum DeclarationRole : int {
 /// `Declaration::isPositional`.
 enum PositionalUse : unsigned {
     positionalNot = 0,
-    /// The option that arguments without a name are values of.
+    /// The option that takes arguments without a name.
     positionalFilled = 1,
-    /// Declared as positional behind that one: never filled, and left out of help all the same.
+    /// Declared as positional after that one. It is never filled, and help does not show it either.
     positionalUnused = 2
 };
 
@@ -52,15 +52,15 @@ enum RemarkStatus : int {
     remarkException = 3
 };
 
-/// What was said of a declaration with `annotate`. Gets no further fields within 3.3.
+/// A note that `annotate` added to a declaration. Gets no further fields within 3.3.
 struct Note {
-    /// Which note it is.
+    /// The key.
     const char* key;
-    /// What it says.
+    /// The text under that key.
     const char* value;
 };
 
-/// What was said with `addRule`. Gets no further fields within 3.3.
+/// A rule that `addRule` added. Gets no further fields within 3.3.
 struct Rule {
     /// A `RuleKind`; skip one that you do not know.
     int kind;
@@ -109,13 +109,13 @@ struct Declaration {
     /// The default as it would be typed, null for none. An empty one is none to queries and help, but
     /// counts where actions are declared; see `IParser::action`.
     const char* defaultText;
-    /// What `annotate` said of it, in the order in which the keys were first used.
+    /// The notes that `annotate` added, in the order in which the keys were first used.
     const Note* notes;
     /// How many there are.
     unsigned noteCount;
 };
 
-/// Everything that a parser was told at some time. Fields are only ever added, at the end.
+/// Everything that was declared on a parser up to some time. Fields are only ever added, at the end.
 struct Description {
     /// The size of this record in bytes. A field that lies behind it is not there.
     unsigned size;
@@ -146,9 +146,8 @@ inline const Declaration& declarationAt(const Description& description, unsigned
                                                  static_cast<unsigned long>(index) * description.stride);
 }
 
-/// Describes what `parser` has been told so far. The description is a copy: it is not touched by what
-/// is declared later, may outlive its parser, and is the caller's, who ends it with `release`. Null when
-/// memory is exhausted.
+/// Describes what is declared on `parser` now. The description is a copy: later declarations do not change
+/// it, and it may outlive its parser. The caller ends it with `release`. Null when memory is exhausted.
 ///
 /// Like help, it calls the assertion handler for a default or an allowed value of another kind than its
 /// option's.
@@ -157,9 +156,9 @@ TARV_API const Description* describe(IParser* parser);
 /// Ends a description, with every text and list of it. Null is ignored.
 TARV_API void release(const Description* description);
 
-/// Says something of the declaration that has exactly the name `name`; of the first, if a synonym
-/// repeats it. Parsing does not use it: notes are for those who describe. `value` replaces what was said
-/// under the same key before. All texts are copied. Returns a `RemarkStatus`.
+/// Adds a note to the declaration that has exactly the name `name`; to the first, if a synonym repeats it.
+/// Notes are part of descriptions; parsing does not use them. `value` replaces the note under the same key,
+/// if there is one. All texts are copied. Returns a `RemarkStatus`.
 ///
 /// Keys with a dot in them are the host's own, such as "seek.icon"; any text may stand under them. Keys
 /// without a dot are the library's, so a misspelt one is refused. There are:
@@ -201,7 +200,7 @@ TARV_API int checkRules(IParser* parser, IParseResult* result);
 /// it is kept by the parser. Null when memory is exhausted.
 TARV_API const char* describeAsJson(IParser* parser);
 
-/// What the user may have meant by an argument that the parse did not take: a sentence such as
+/// Suggests what the user may have meant by an argument that the parse did not take, in a sentence such as
 /// "Did you mean '--max-count'?", kept by the parser. `argument` is as it was typed, with its dashes; a
 /// value in it is not looked at. Null when nothing is near, when the argument is null or does not begin
 /// with a dash, when it names an option as it is, and when memory is exhausted.

@@ -2,7 +2,7 @@
 
 #include "tarv_3_3/export.h"
 
-/// How the arguments of a command line are understood, for whoever explains or checks command lines
+/// Tells what each argument of a command line means, for programs that explain or check command lines
 /// without running them.
 
 namespace tarv_3_3 {
@@ -25,9 +25,9 @@ enum ExplainedRole : int {
     explainedPlain = 5,
     /// Nothing takes it.
     explainedUnknown = 6,
-    /// It fits a name, but is empty behind the dashes or has a third dash; no parse takes that.
+    /// A parse refuses it: its name fits, but is empty or begins with a third dash.
     explainedMisnamed = 7,
-    /// It gives several names equally well: its candidates.
+    /// It fits several names equally well: its candidates.
     explainedAmbiguous = 8
 };
 
@@ -41,7 +41,7 @@ enum ExplainedSource : int {
     sourceSameArgument = 2,
     /// From the argument behind it.
     sourceNextArgument = 3,
-    // Behind these, the argument is refused.
+    // From here on, the argument is refused.
     /// It takes none, and the argument has one.
     sourceUnwanted = 4,
     /// A switch, and the argument has a value.
@@ -59,12 +59,12 @@ enum ExplainedSource : int {
 struct ExplainedArgument {
     /// An `ExplainedRole`.
     int role;
-    /// Of the declaration, among those of `describe`; -1 for an argument that belongs to none.
+    /// The index of its declaration among those of `describe`; -1 when it belongs to none.
     int place;
-    /// Of a named one: the whole name that it gives, "no-" included; "" for others.
+    /// The whole name that a named argument stands for, with its "no-"; "" for other roles.
     const char* name;
     ///@{
-    /// Of one that begins with a dash: where in it, in bytes, its name and value stand.
+    /// The byte offsets of name and value in an argument that begins with a dash.
     unsigned nameStart;
     unsigned nameEnd;
     unsigned valueStart;
@@ -73,12 +73,11 @@ struct ExplainedArgument {
     unsigned isAbbreviated;
     /// 1 for a name that turns a switch off.
     unsigned isNegated;
-    /// 1 where a parse ends with an error. Whether a value is one of the option's, and what handlers say,
-    /// is not asked.
+    /// 1 where a parse ends with an error. Values are not validated for this, and handlers are not asked.
     unsigned isRefused;
-    /// Of a named one: an `ExplainedSource`.
+    /// An `ExplainedSource`, for a named argument.
     int source;
-    /// Of an ambiguous one: the names that it gives, in the order declared.
+    /// The names that an ambiguous argument fits, in the order declared.
     const char* const* candidates;
     /// How many there are.
     unsigned candidateCount;
@@ -86,9 +85,9 @@ struct ExplainedArgument {
 
 /// The arguments of a command line. Fields are only ever added, at the end.
 struct Explanation {
-    /// Of this record, in bytes.
+    /// The size of this record in bytes.
     unsigned size;
-    /// Of an `ExplainedArgument`, in bytes.
+    /// The size of an `ExplainedArgument` in bytes.
     unsigned stride;
     /// How many `arguments` there are.
     unsigned argumentCount;
@@ -104,10 +103,10 @@ inline const ExplainedArgument& explainedAt(const Explanation& explanation, unsi
                                                                    explanation.stride);
 }
 
-/// Says of `argv[1]` to `argv[argc - 1]` what they are to `parser`, also behind one that a parse refuses.
-/// It asks what a parse asks, but nothing is parsed, stored, read from option files or told to handlers. The
-/// explanation is a copy, and the caller's, who ends it with `release`. Null when memory is exhausted, when
-/// an argument is null, or when `parser` was not made by `createParser`. Never throws.
+/// Tells what `argv[1]` to `argv[argc - 1]` mean to `parser`, also those behind one that a parse refuses. It
+/// uses the rules of a parse, but stores nothing, reads no option files and calls no handlers. The caller
+/// owns the explanation and ends it with `release`. Null when memory is exhausted, when an argument is null,
+/// or when `parser` was not made by `createParser`. Never throws.
 TARV_API const Explanation* explain(IParser* parser, int argc, const char* const* argv);
 
 /// Ends what `explain` returned; null is ignored.

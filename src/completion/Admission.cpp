@@ -12,7 +12,7 @@ Admission::Admission(const BasicParser& parser)
     : m_parser(parser), m_options(parser.registry().m_options), m_states(m_options.size(), State::notGiven),
       m_maySwitchOff(m_options.size(), true), m_isExcluded(m_options.size(), false) {}
 
-void Admission::note(const ReadArgument& argument) {
+void Admission::add(const ReadArgument& argument) {
     if (argument.index == ReadArgument::nowhere || argument.role == ArgumentRole::value) {
         return;
     }
@@ -29,8 +29,8 @@ void Admission::settle() {
     excludeByRules();
 }
 
-// Without an action yet, all those are possible that go with the modifiers given, and so are the modifiers
-// of all these.
+// While no action is given, every action is possible that goes with all modifiers given, and so is every
+// modifier of a possible action.
 void Admission::admitByActions() {
     std::set<std::set<std::string>> givenTags;
     for (std::size_t index = 0; index < m_options.size(); ++index) {

@@ -10,16 +10,16 @@
 
 namespace tarv_3_3 {
 
-/// Which declarations may still be given, behind those that are: only one action, only what goes with it,
-/// and nothing that a rule excludes.
+/// Tells which declarations a command line may still give, after those that it gives already: only one
+/// action, only what goes with it, and nothing that a rule excludes.
 class Admission {
 public:
     explicit Admission(const BasicParser& parser);
 
-    /// Takes notice of an argument of the line.
-    void note(const ReadArgument& argument);
+    /// Adds an argument of the line.
+    void add(const ReadArgument& argument);
 
-    /// What may follow is asked when all arguments are noted.
+    /// To be called when all arguments are added, and before the questions below.
     void settle();
     bool isGiven(std::size_t index) const { return m_states[index] != State::notGiven; }
     bool maySwitchOff(std::size_t index) const { return m_maySwitchOff[index]; }

@@ -16,7 +16,7 @@ bool takesValue(const OptionDescription& option) {
 
 } // namespace
 
-// A dash alone does not say yet whether there will be two.
+// After one dash, the user may still type a second one.
 NameOffer::NameOffer(const BasicParser& parser, Reader& reader, const Admission& admission,
                      const std::string& word, const ReadArgument& read)
     : m_options(parser.registry().m_options), m_reader(reader), m_admission(admission), m_dashes("--") {
@@ -53,12 +53,13 @@ void NameOffer::offer(std::size_t index, KeptCompletion& kept) {
     }
 }
 
-// What is not offered before its name is begun.
+// Whether an option is offered before a letter of its name is typed.
 bool NameOffer::mayBegin(std::size_t index) const {
     return internal::maySuggest(m_options[index]) && !m_admission.isGiven(index);
 }
 
-// "n" alone begins many names, and no parse takes it for the "no" of one of two words.
+// Whether "no-" is typed, or "no", or a word and a dash that abbreviate it. "n" alone does not count, since
+// it begins many names.
 bool NameOffer::isNegationTyped() const {
     return m_typed + "-" == negation || mayBeNegated(m_typed);
 }
@@ -76,7 +77,8 @@ void NameOffer::offerOneOf(std::size_t index, bool isNegated, KeptCompletion& ke
     }
 }
 
-// Another declaration may have the name as well, and some names cannot be typed.
+// Whether a parse takes `name` for this declaration. Another one may have the same name, and some names
+// cannot be typed.
 bool NameOffer::isGivenBy(const std::string& name, std::size_t index) {
     const ReadArgument read = m_reader.look(m_dashes + name, nullptr);
     return read.role == ArgumentRole::named && read.index == index && read.name == name &&

@@ -11,8 +11,8 @@ namespace tarv_3_3 {
 
 class BasicParser;
 
-/// Offers the names that a word may be lengthened to. `word` is empty, or begins with a dash and has no
-/// value; `read` is what the reader says of it.
+/// Offers the names that `word` may be completed to. `word` is empty, or begins with a dash and has no value;
+/// `read` is what the reader tells of it.
 class NameOffer {
 public:
     NameOffer(const BasicParser& parser, Reader& reader, const Admission& admission, const std::string& word,
@@ -32,7 +32,7 @@ private:
     const Admission& m_admission;
     std::string m_dashes;
     std::string m_typed;
-    /// Those offered.
+    /// The names that were offered.
     std::vector<std::string> m_names;
 };
 

@@ -28,7 +28,7 @@ ValueOffer::ValueOffer(const BasicParser& parser, Reader& reader, std::size_t in
     }
 }
 
-// What is in the list already; it may be cut short there.
+// Records the elements that the list has already. They may be abbreviated.
 void ValueOffer::noteList(const std::string& list) {
     std::istringstream rest(list);
     for (std::string piece; std::getline(rest, piece, m_option.m_tokenizer);) {
@@ -67,7 +67,7 @@ void ValueOffer::offerDeclared() {
     }
 }
 
-// The host's code calls it, through which nothing may be thrown.
+// Called by the host's code, through which no exception may pass.
 void ValueOffer::add(const char* value, const char* description) {
     if (value == nullptr) {
         return;
@@ -90,7 +90,7 @@ void ValueOffer::offer(std::string value, const char* description) {
     }
 }
 
-// Whether a parse takes it for a value of the option, and for this one.
+// Whether a parse takes `whole` as this value of this option.
 bool ValueOffer::isTaken(const std::string& value, const std::string& whole) {
     const bool isSplit = m_option.m_tokenizer != 0 && value.find(m_option.m_tokenizer) != std::string::npos;
     if (isSplit || !hasPlace(whole)) {
@@ -100,7 +100,7 @@ bool ValueOffer::isTaken(const std::string& value, const std::string& whole) {
     return isValue(text);
 }
 
-// Completes it where it is cut short.
+// Whether `text` is a value of the option. Completes it if it is abbreviated.
 bool ValueOffer::isValue(std::string& text) const {
     variant_t converted;
     std::string reason;
@@ -119,7 +119,7 @@ bool ValueOffer::hasPlace(const std::string& whole) {
                                             : m_offset > 0 && read.token.valueStart == m_offset;
 }
 
-// What was noted of the option counts more than its kind.
+// The note "complete" of an option takes precedence over its kind.
 int ValueOffer::filesToAdd() const {
     if (!m_option.m_allowedValues.empty()) {
         return completeNoFiles;

@@ -20,7 +20,7 @@ struct HostValues {
     void* context;
 };
 
-/// Offers the values of one option, the beginning of which is typed in a word from `offset` on.
+/// Offers the values of one option. `word` has the beginning of the value, from byte `offset` on.
 class ValueOffer final : private CandidateSink {
 public:
     ValueOffer(const BasicParser& parser, Reader& reader, std::size_t index, const std::string& word,
@@ -42,7 +42,7 @@ private:
     Reader& m_reader;
     const std::size_t m_index;
     const std::size_t m_offset;
-    /// What keeps the texts that are made while values are tried, instead of the parser.
+    /// Keeps the texts that are made while values are tried, so that the parser need not.
     Garbage m_garbage;
     OptionDescription m_option;
     /// The word up to the last piece of a list, and that piece.
@@ -52,7 +52,7 @@ private:
     std::unordered_set<std::string> m_known;
     std::vector<std::string> m_texts;
     KeptCompletion* m_kept = nullptr;
-    /// Whether the list has a piece that no parse takes.
+    /// Whether the list has an element that no parse takes.
     bool m_isRefused = false;
     bool m_isOutOfMemory = false;
 };

@@ -15,7 +15,7 @@ std::string_view nameOf(int files) {
     return files == completeFiles ? "file" : files == completeDirectories ? "directory" : "none";
 }
 
-/// `word` as the shell is to insert it; none when it does not begin with what the shell leaves alone.
+/// `word` as the shell is to insert it. None when it does not begin with the part that the shell keeps.
 std::optional<std::string> makeInsertion(const Question& question, std::string_view word) {
     if (question.shell != Shell::bash) {
         return std::string(word);

@@ -11,7 +11,7 @@ std::string_view sharedStart(std::string_view left, std::string_view right) {
     return left.substr(0, static_cast<std::size_t>(end - left.begin()));
 }
 
-// A character of several bytes is not to be cut.
+// Does not cut a character of several bytes.
 std::string_view withoutCutCharacter(std::string_view start, std::string_view whole) {
     std::size_t end = start.size();
     while (end > 0 && end < whole.size() && (static_cast<unsigned char>(whole[end]) & 0xC0U) == 0x80U) {

@@ -6,12 +6,12 @@
 
 namespace tarv_3_3 {
 
-/// `typed`, lengthened as far as all of `texts` begin alike; `typed` where they do not even begin so, and
-/// where there are none.
+/// The longest beginning that all of `texts` have in common, if it begins with `typed`; else `typed`, also
+/// when there are no texts.
 std::string commonBeginning(std::string_view typed, const std::vector<std::string>& texts);
 
-/// The same for a name cut short: each typed word is lengthened as far as that of all `names` is alike.
-/// They have as many words or more.
+/// The same for an abbreviated name, word by word: each typed word is lengthened to what the same words of
+/// all `names` begin with. Each of `names` has as many words or more.
 std::string commonWords(std::string_view typed, const std::vector<std::string>& names);
 
 } // namespace tarv_3_3

@@ -32,7 +32,7 @@ public:
             const std::string& next = i + 1 < before.size() ? before[i + 1] : m_word;
             const ReadArgument read = m_reader.look(before[i], &next);
             m_reader.pass(read);
-            m_admission.note(read);
+            m_admission.add(read);
             m_isRefused = read.source == ValueSource::nextLooksLikeOption;
         }
         m_admission.settle();
@@ -62,7 +62,7 @@ private:
         }
     }
 
-    // A name in this place would be read as one.
+    // Whether all further arguments are positional, which even "--" is then.
     bool isRestPositional(const ReadArgument& read) {
         return read.role == ArgumentRole::positional &&
                m_reader.look(std::string(endMarkerText), nullptr).role == ArgumentRole::positional;
@@ -91,7 +91,7 @@ private:
     Reader m_reader;
     Admission m_admission;
     std::unique_ptr<KeptCompletion> m_kept;
-    /// Whether the argument in front of the cursor is refused, whatever stands there.
+    /// Whether the argument before the cursor is refused, whatever the word at the cursor is.
     bool m_isRefused = false;
 };
 

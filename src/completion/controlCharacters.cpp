@@ -20,7 +20,7 @@ Character firstOf(std::string_view text) {
     if (length != 0) {
         return {length, internal::isControl(text.substr(0, length))};
     }
-    // No byte of ASCII gets here.
+    // The byte is not ASCII here.
     return {1, static_cast<unsigned char>(text.front()) < 0xA0U};
 }
 

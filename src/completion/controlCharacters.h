@@ -5,8 +5,8 @@
 
 namespace tarv_3_3 {
 
-/// Whether a terminal might obey a part of `text` instead of showing it: the control characters of
-/// ASCII, those from U+0080 to U+009F, and the bytes 0x80 to 0x9F where they are not part of UTF-8.
+/// Whether `text` has control characters, which a terminal may obey instead of showing them: those of ASCII,
+/// those from U+0080 to U+009F, and the bytes 0x80 to 0x9F where they are not part of UTF-8.
 bool hasControlCharacters(std::string_view text);
 
 /// The first line of `text`, with a blank in place of every control character.

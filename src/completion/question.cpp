@@ -12,7 +12,8 @@ namespace {
 constexpr std::size_t maxBytes = std::size_t{1} << 24U;
 constexpr std::size_t maxWords = 1000000;
 
-/// What was sent, each word ended by a zero byte. Empty when it is not whole or too long.
+/// The words of `text`, each of which ends in a zero byte. Empty when the last one does not, or when there
+/// are too many.
 std::vector<std::string_view> cutIntoWords(std::string_view text) {
     std::vector<std::string_view> words;
     if (text.empty() || text.back() != '\0') {
@@ -29,7 +30,7 @@ std::vector<std::string_view> cutIntoWords(std::string_view text) {
     return words;
 }
 
-/// Reads one byte more than may be there, so that a longer input is seen.
+/// Reads up to one byte more than the limit, so that the caller notices a longer input.
 std::string readUpToTheLimit(std::FILE* input) {
     std::string text;
     char block[16384];

@@ -9,19 +9,19 @@
 
 namespace tarv_3_3 {
 
-/// What a script asks: what may stand in place of the last of these words?
+/// The question of a script: what may replace the last of these words?
 struct Question {
     Shell shell = Shell::unknown;
     /// Without quotes, the program first; at least two.
     std::vector<std::string> words;
-    /// Bash replaces only the end of the word at the cursor: what stands before that, without quotes, and
-    /// the quote that is open there, or 0. Empty in other shells, which replace all of it.
+    /// Bash replaces only the end of the word at the cursor. `kept` is the part before that, without quotes,
+    /// and `openQuote` the quote that is open there, or 0. Other shells replace the whole word: empty.
     std::string kept;
     char openQuote = 0;
 };
 
-/// Reads a question to the end of `input`. None when it is not whole, or longer than any command line:
-/// more than 16 MiB or a million words.
+/// Reads a question to the end of `input`. None when it is incomplete, or longer than any command line: more
+/// than 16 MiB or a million words.
 std::optional<Question> readQuestion(std::FILE* input, Shell shell);
 
 } // namespace tarv_3_3

@@ -4,8 +4,8 @@ namespace tarv_3_3 {
 
 namespace {
 
-// In double quotes a backslash escapes these only; what bash reads as a line that goes on cannot be
-// typed where TAB is pressed.
+// The characters that a backslash escapes in double quotes. A newline is another one, but it cannot be typed
+// in a word that is completed.
 constexpr std::string_view escapedInDoubleQuotes = "\"\\$`";
 constexpr std::string_view specialOutsideQuotes = " \t\n\"'\\$`&;|<>(){}[]*?!#~^";
 
@@ -13,10 +13,10 @@ bool isOneOf(char byte, std::string_view bytes) {
     return bytes.find(byte) != std::string_view::npos;
 }
 
-/// How many bytes at `place` open a quote; `$` may stand in front of it.
-std::size_t openingLength(std::string_view word, std::size_t place) {
-    const std::size_t dollar = word[place] == '$' ? 1 : 0;
-    const bool opens = place + dollar < word.size() && isOneOf(word[place + dollar], "\"'");
+/// How many bytes at `index` open a quote, with the `$` that may stand in front of it; 0 if none do.
+std::size_t openingLength(std::string_view word, std::size_t index) {
+    const std::size_t dollar = word[index] == '$' ? 1 : 0;
+    const bool opens = index + dollar < word.size() && isOneOf(word[index + dollar], "\"'");
     return opens ? dollar + 1 : 0;
 }
 

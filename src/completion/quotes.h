@@ -5,7 +5,7 @@
 
 namespace tarv_3_3 {
 
-/// A word without the quotes that bash takes off. What bash would expand stays as it is.
+/// A word without the quotes that bash removes. Variables and the like are not expanded.
 struct Unquoted {
     std::string text;
     /// The quote that is still open at the end, 0 when none is.
@@ -14,8 +14,8 @@ struct Unquoted {
 
 Unquoted unquote(std::string_view word);
 
-/// `text` as it is typed so that bash takes it literally, behind an `openQuote` that bash will close,
-/// or outside quotes when that is 0.
+/// `text`, quoted so that bash takes it literally. It is to stand behind `openQuote`, which bash closes
+/// itself, or outside quotes when that is 0.
 std::string quote(std::string_view text, char openQuote);
 
 } // namespace tarv_3_3

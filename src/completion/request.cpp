@@ -102,7 +102,7 @@ bool answerRequest(int argc, const char* const* argv, Answerer& answerer) {
             break;
         }
     } catch (const std::exception&) {
-        // There is no answer without memory, and nothing has been printed of one.
+        // Memory is exhausted. No part of an answer has been printed.
     }
     return request.kind != Request::Kind::none;
 }

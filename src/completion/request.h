@@ -5,23 +5,23 @@
 
 namespace tarv_3_3 {
 
-/// What a command line asks of the program besides its work.
+/// A request of a shell script or a tool, which a program answers instead of doing its work.
 struct Request {
     enum class Kind { none, script, answer, description };
 
     Kind kind;
-    /// Whose script, or who asks.
+    /// The shell of the script, or the shell that asks.
     Shell shell;
 };
 
 /// Only a command line with one argument is a request.
 Request recognizeRequest(int argc, const char* const* argv);
 
-/// What is asked for requests. Both may throw standard exceptions.
+/// Makes the answers to requests. Both functions may throw standard exceptions.
 class Answerer {
 public:
-    /// What may stand in place of the last of the words; null when there is no telling. What is returned
-    /// belongs to the answerer, and is read before it is asked again.
+    /// What may replace the last of the words; null when that is unknown. The answerer owns what it returns,
+    /// which is valid until the next call.
     virtual const Completion* complete(int count, const char* const* words) = 0;
 
     /// Null when there is none.
@@ -34,9 +34,9 @@ protected:
     ~Answerer() = default;
 };
 
-/// Answers a request on standard output, and returns whether it was one. Words are read from standard
-/// input. Where there is no answer, or no memory for it, nothing is printed; that no script can be made
-/// is said on standard error. Never throws.
+/// Answers a request on standard output, and returns whether the command line was one. Words are read from
+/// standard input. Prints nothing when there is no answer or no memory for it. When no script can be made,
+/// says so on standard error. Never throws.
 bool answerRequest(int argc, const char* const* argv, Answerer& answerer);
 
 } // namespace tarv_3_3

@@ -8,7 +8,7 @@ namespace {
 
 #include "completion/scripts.inc"
 
-// Independent of the locale, as the shells are here.
+// Independent of the locale. The shells are, too, in such names.
 bool isLetterOrDigit(char byte) {
     return ('a' <= byte && byte <= 'z') || ('A' <= byte && byte <= 'Z') || ('0' <= byte && byte <= '9');
 }
@@ -22,7 +22,7 @@ bool isPlainWord(std::string_view name) {
     return !name.empty() && name.front() != '-';
 }
 
-/// The name as a part of a function's name; different ones for different programs.
+/// The name of a program as a part of the name of a shell function. Two programs never get the same one.
 std::string makeFunctionName(std::string_view program) {
     std::string name;
     for (const char byte : program) {
@@ -66,7 +66,7 @@ std::string makeScript(Shell shell, const char* path) {
         return "";
     }
     std::string script(templateFor(shell));
-    // The first one first: a program may be called FUNCTION.
+    // In this order, since a program may be called FUNCTION.
     replaceAll(script, "FUNCTION", makeFunctionName(program));
     replaceAll(script, "PROGRAM", std::string(program));
     return script;

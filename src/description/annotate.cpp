@@ -15,8 +15,8 @@ bool isOneOf(std::string_view text, std::initializer_list<std::string_view> text
     return std::find(texts.begin(), texts.end(), text) != texts.end();
 }
 
-// A key of the library's must be one that it knows: hosts would not notice that one is misspelt, and a
-// later library may give a new one a meaning.
+// A key without a dot must be known. Otherwise a misspelt key would go unnoticed, and a later library could
+// not give a new key a meaning.
 bool isAcceptable(std::string_view key, std::string_view value) {
     if (key.find('.') != std::string_view::npos) {
         return true;

@@ -101,7 +101,7 @@ void writeRules(JsonWriter& json, const std::vector<internal::Remarks::Rule>& ru
     json.close(']');
 }
 
-// What the host's own code decides, which nobody can read from a description.
+// Names what the host's own code decides, which a description cannot tell.
 void writeChecks(JsonWriter& json, bool asksHandlers) {
     json.open('[', "checks");
     if (asksHandlers) {

@@ -21,7 +21,7 @@ bool converts(const OptionDescription& option, const std::string& value) {
     return option.fromString(value.c_str(), &texts).type() != vtNull;
 }
 
-// The value that stands behind a letter: what is left of the letters, or what the token has for a value.
+// The value behind a letter: the rest of the letters, or the value of the token.
 std::string valueBehind(std::string_view argument, std::size_t letter, const Token& token) {
     const bool isLast = letter + 1 == token.nameEnd;
     return std::string(isLast ? token.valueIn(argument) : argument.substr(letter + 1));

@@ -6,11 +6,11 @@
 #include "description/JsonWriter.h"
 #include "tarv_3_3/variant.h"
 
-/// The members that descriptions as JSON are made of.
+/// Writes the members of a description as JSON.
 namespace tarv_3_3::internal {
 
-// A member is only ever added here with its place in share/tarv/description.schema.json, and a higher
-// number behind the point. A change that would mislead a reader takes a higher number in front of it.
+// A new member must be added to share/tarv/description.schema.json, too, and increases the number behind the
+// point. A change that breaks readers increases the number in front of it.
 inline constexpr char formatName[] = "tarv-description";
 inline constexpr char formatVersion[] = "1.0";
 
@@ -21,7 +21,7 @@ const char* kindName(das_variant_type_t kind);
 const char* ruleName(int kind);
 
 ///@{
-/// Nothing where there is nothing to say.
+/// Writes a member; nothing when the value is false or empty.
 void writeTrue(JsonWriter& json, const char* name, bool isTrue);
 void writeText(JsonWriter& json, const char* name, std::string_view text);
 ///@}
@@ -29,7 +29,7 @@ void writeText(JsonWriter& json, const char* name, std::string_view text);
 /// The names of `ParserFlag` bits.
 void writeFlags(JsonWriter& json, int flags);
 
-/// A list of texts, which `textOf` makes of its elements; nothing where there are none.
+/// Writes a list of the texts that `textOf` returns for the elements; nothing when there are none.
 template <class Elements, class TextOf>
 void writeList(JsonWriter& json, const char* name, const Elements& elements, TextOf textOf) {
     if (elements.empty()) {

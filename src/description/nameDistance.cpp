@@ -7,8 +7,8 @@ namespace tarv_3_3::internal {
 
 namespace {
 
-/// The least distances from the beginnings of a typed name to the beginnings of another, row by row. Where
-/// a word of the other has begun, what is left of it may be skipped.
+/// The table of an edit distance, row by row: the distances from each prefix of a typed name to each prefix
+/// of a declared one. The rest of a word of the declared name may be skipped, once a letter of it is typed.
 class DistanceTable {
 public:
     DistanceTable(std::string_view typed, std::string_view name)
@@ -39,7 +39,7 @@ private:
         }
     }
 
-    // The last letters are the same, or one of them is other, superfluous, missing or swapped.
+    // The last letters are the same, or one is different, superfluous, missing or swapped.
     NameDistance nearest(std::size_t row, std::size_t column) {
         const char last = m_typed[row - 1];
         const char lastWanted = m_name[column - 1];
@@ -74,7 +74,7 @@ std::size_t countWords(std::string_view name) {
     return 1 + static_cast<std::size_t>(std::count(name.begin(), name.end(), '-'));
 }
 
-// What is typed must stand in the name in the same order, each word as it is or cut short.
+// The typed words must occur in the name in the same order, each of them whole or abbreviated.
 NameDistance leftOutDistance(std::string_view typed, std::string_view name, std::size_t words) {
     NameDistance sum = {1, 0};
     std::string_view wanted = takeWord(typed);

@@ -8,10 +8,10 @@ namespace tarv_3_3::internal {
 
 /// How far a typed name is from a declared one.
 struct NameDistance {
-    /// Letters that are missing, superfluous, other or swapped with their neighbour; a left-out word
-    /// counts as one.
+    /// The number of letters that are missing, superfluous, different or swapped with their neighbour. A
+    /// missing word counts as one.
     std::size_t edits = std::numeric_limits<std::size_t>::max() / 2;
-    /// Letters that were not typed because words were cut short.
+    /// The number of letters that abbreviated words lack.
     std::size_t cut = 0;
 
     friend bool operator<(NameDistance left, NameDistance right) {
@@ -19,9 +19,8 @@ struct NameDistance {
     }
 };
 
-/// The least distance between two names, read as whole texts or word by word. Each word of `typed` may be
-/// cut short, and words of `name` may be left out if all that are typed fit without an edit. Distances
-/// of more than `maxEdits` edits are not told apart: some larger number of edits.
+/// The least distance between two names, compared as whole texts or word by word. Each word of `typed` may be
+/// abbreviated. Words of `name` may be missing if all typed words fit without an edit.
 NameDistance nameDistance(std::string_view typed, std::string_view name);
 
 } // namespace tarv_3_3::internal

@@ -18,7 +18,7 @@ namespace messages = internal::messages;
 
 using Options = std::vector<const OptionDescription*>;
 
-/// What is given of a rule's options and what is not, both in the order of the rule.
+/// The options of a rule, divided into those given and those not given, each in the order of the rule.
 struct Given {
     Options given;
     Options missing;
@@ -63,7 +63,7 @@ std::string quotedNames(const Options& options) {
     return list;
 }
 
-// Each of these says what is wrong, "" when nothing is.
+// Each of these functions returns a message, "" when the rule is kept.
 
 std::string checkRequired(const Given& divided) {
     return divided.missing.empty() ? "" : messages::isRequired(firstNamed(*divided.missing.front()));

@@ -20,11 +20,11 @@ namespace {
 
 using internal::NameDistance;
 
-/// Where more are equally near, none is any help.
+/// If more names are equally near, none is suggested.
 constexpr std::size_t maxShown = 3;
-/// Nobody mistypes a longer name, and the cost of comparing grows with the square of the length.
+/// Longer names are not compared: the cost grows with the square of the length.
 constexpr std::size_t longestName = 100;
-/// So few letters behind one dash are more likely joined than a name.
+/// Up to this length, letters behind one dash are more likely several options than one name.
 constexpr std::size_t fewLetters = 3;
 
 struct Candidate {
@@ -32,7 +32,7 @@ struct Candidate {
     NameDistance distance;
 };
 
-// One edit in two letters would leave too little to go by.
+// Allows no edit in two letters: too little would be left to compare.
 std::size_t maxEdits(std::string_view typed) {
     return typed.size() / 3;
 }
@@ -58,8 +58,8 @@ Candidate nearestName(std::string_view typed, const OptionDescription& option) {
     return best;
 }
 
-// The nearest name of each option that may be suggested, where it takes as few edits as any other's; those
-// with the fewest letters cut come first. Only the one that needs no edit, if there is such a name at all.
+// Of each option that may be suggested, the nearest name, if no name of another option needs fewer edits.
+// Names with the fewest letters cut come first. If a name needs no edit, it is the only one.
 std::vector<Candidate> nearestNames(std::string_view typed, const std::vector<OptionDescription>& options) {
     std::vector<Candidate> found;
     std::size_t fewest = maxEdits(typed);

@@ -5,8 +5,8 @@
 
 namespace tarv_3_3::internal {
 
-/// A text as it may stand in single quotes on a terminal: quotes, backslashes, control characters and
-/// bytes that are no UTF-8 become "\x1b", byte by byte.
+/// A text that is safe to show in single quotes on a terminal. Each byte of a quote, a backslash or a control
+/// character, and each byte that is not UTF-8, becomes an escape such as "\x1b".
 std::string terminalText(std::string_view text);
 
 } // namespace tarv_3_3::internal

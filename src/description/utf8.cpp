@@ -12,8 +12,8 @@ bool isWithin(unsigned char byte, unsigned char least, unsigned char most) {
     return byte >= least && byte <= most;
 }
 
-// A character's length as its first byte says it, and what its second byte may be: the bounds leave out
-// overlong forms, surrogates and what lies behind U+10FFFF.
+// The length of a character, which its first byte tells, and the range of its second byte. The range excludes
+// overlong forms, surrogates and numbers above U+10FFFF.
 struct Lead {
     std::size_t length;
     unsigned char least;

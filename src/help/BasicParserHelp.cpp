@@ -54,7 +54,7 @@ bool isTopicBefore(const Listed& left, const Listed& right) {
     return left.topicRank < right.topicRank;
 }
 
-// Under each topic in the order of their names, as `OptionDescription::operator<` has it.
+// Under each topic, options are sorted by `OptionDescription::operator<`.
 std::vector<Listed> sortedByTopicAndName(const std::vector<OptionDescription>& options,
                                          const TopicNames& names) {
     std::vector<Listed> sorted;

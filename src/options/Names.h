@@ -12,8 +12,8 @@
 
 namespace tarv_3_3 {
 
-/// The names of one option, the primary one first. Knows with which bytes their first two words begin:
-/// whoever looks for a name in a large table need not look at each.
+/// The names of one option, the primary one first. They keep a set of the bytes that their first and second
+/// words begin with. A search in a large table tests that set first, and compares the names of few records.
 class TARV_API Names {
 public:
     using allocator_type = internal::ArenaAllocator<std::string>;
@@ -51,19 +51,19 @@ public:
     const_iterator begin() const { return m_names.begin(); }
     const_iterator end() const { return m_names.end(); }
 
-    /// Two sets of bytes, one bit for each, which is also that of others: those with which first words
-    /// begin, and those with which second words do.
+    /// Two sets of bytes as bits: those that the first words of names begin with, and those that the second
+    /// words begin with. Four bytes share each of the 64 bits, so a set may hold bytes that were not added.
     struct Pattern {
         std::uint64_t firstWord;
         std::uint64_t secondWord;
     };
     static std::uint64_t bitOf(char byte) { return std::uint64_t(1) << (static_cast<unsigned>(byte) % 64); }
-    /// In the second set, for a name of one word. No word begins with a dash.
+    /// The bit that a name of one word sets in the second set. It is that of '-', which begins no word.
     static constexpr std::uint64_t noWord = std::uint64_t(1) << ('-' % 64);
     static constexpr std::uint64_t anyByte = ~std::uint64_t(0);
     static constexpr Pattern anything = {anyByte, anyByte};
 
-    /// Whether some name may begin as `pattern` says. False only where none does.
+    /// False when no name begins as `pattern` says. True means that one may.
     bool mayFit(const Pattern& pattern) const {
         return (m_firstBytes.firstWord & pattern.firstWord) != 0 &&
                (m_firstBytes.secondWord & pattern.secondWord) != 0;
@@ -72,7 +72,8 @@ public:
     friend bool operator==(const Names& left, const Names& right) { return left.m_names == right.m_names; }
 
 private:
-    // An empty word counts as one that begins with a dash, or with the zero behind the name.
+    // Takes the byte at which a word starts. For an empty word that is the dash behind it, or the zero behind
+    // the name.
     void addFirstBytes(const std::string& name) {
         m_firstBytes.firstWord |= bitOf(name[0]);
         std::size_t wordEnd = 0;

@@ -31,8 +31,8 @@ using Topic = std::pair<std::string, std::string>;
 class TARV_API OptionDescription : public IOption {
 public:
     OptionDescription();
-    /// The record and what is moved from it keep the list of names and the description in `memory`,
-    /// and must not outlive it; a copy may.
+    /// Keeps its names and its description in `memory`, which must outlive it and whatever is moved from it.
+    /// A copy does not use `memory`.
     OptionDescription(Names&& names, std::set<std::string>&& tags, const Topic& topic,
                       const char* description, OptionKind kind, das_variant_type_t type, Garbage* garbage,
                       internal::Arena& memory);
@@ -100,7 +100,7 @@ public:
     Garbage* m_garbage = nullptr;
 
 private:
-    /// What `defaultText` has found.
+    /// The result of `defaultText`; null before its first call.
     variant_t m_defaultText;
 
     TARV_HIDDEN static const std::string& noName();

@@ -28,7 +28,7 @@ const char* keepNumber(Garbage* garbage, T value) {
     return garbage->init(digits);
 }
 
-// As a stream in its default format prints it.
+// In the default format of a stream.
 const char* keepNumber(Garbage* garbage, double value) {
     char digits[32];
     constexpr int precision = 6;
@@ -96,7 +96,8 @@ const char* OptionDescription::toString(Garbage* garbage, variant_t value) const
     return nullptr;
 }
 
-// A default of another kind is a mistake of the host, which is told of it every time.
+// A default of another kind is a mistake of the host. It is not cached, so each use calls the assertion
+// handler.
 const variant_t& OptionDescription::defaultText() {
     const bool isRendered = m_defaultText.type() == vtString && m_default.type() == m_type;
     if (!isRendered) {
@@ -153,7 +154,7 @@ bool OptionDescription::validate(std::string& text, variant_t& value, std::strin
     return acceptAbbreviation(text, value, message);
 }
 
-// Only texts are abbreviated; for every other kind nothing matches here.
+// Only texts may be abbreviated. For every other kind, no allowed value matches.
 bool OptionDescription::acceptAbbreviation(std::string& text, variant_t& value, std::string& message) const {
     int matches = 0;
     if (m_type == vtString) {

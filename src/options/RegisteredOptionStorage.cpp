@@ -16,10 +16,10 @@ const char* orEmpty(const char* text) {
     return text != nullptr ? text : "";
 }
 
-// Most programs declare a few dozen options: their table is not to move over and over.
+// Most programs declare a few dozen options. Their table never has to grow.
 constexpr std::size_t expectedOptions = 32;
 
-// Larger tables move seldom, since to move a record costs about as much as to add one.
+// Moving a record costs about as much as adding one, so a larger table grows by a large factor.
 constexpr std::size_t growth = 4;
 
 // Most declarations have a name, or a name and a short form.
@@ -93,7 +93,7 @@ const Topic& RegisteredOptionStorage::registerTopic(std::string_view topic) {
     return m_topics[index];
 }
 
-// Names of refused declarations get entries as well, which no record owns.
+// Adds an entry for each name. Where the declaration is refused, these entries have no owner.
 bool RegisteredOptionStorage::isTaken(const Names& names, NameEntries& entries) {
     if (hasNewSynonyms()) {
         learnSynonyms();
@@ -113,7 +113,7 @@ int RegisteredOptionStorage::find(const internal::HashedText& name, unsigned lon
     const Index::Entry* const entry = m_names.find(name);
     const std::size_t found = indexOf(name.text, entry != nullptr ? entry->value : Owners());
     if (found == nowhere) {
-        // A host that holds on to a reference for too long may have given a name unseen.
+        // A host may have added a synonym to a record that is no longer the last one. The index lacks it.
         return findOption(std::string(name.text), index, m_options);
     }
     index = found;
@@ -137,7 +137,7 @@ bool RegisteredOptionStorage::findOnly(const internal::HashedText& name, std::si
     return !owners.isRepeated;
 }
 
-// Of the record that has the name as it is, and the switch that has it behind "no-", the first one.
+// The first record that has the name as it is, or that is a switch and has it behind "no-".
 std::size_t RegisteredOptionStorage::indexOf(std::string_view name, const Owners& owners) const {
     if (!beginsWithNegation(name)) {
         return owners.first;
@@ -146,7 +146,7 @@ std::size_t RegisteredOptionStorage::indexOf(std::string_view name, const Owners
     return negated != nullptr ? std::min(owners.first, negated->value.firstSwitch) : owners.first;
 }
 
-// That the last record has it.
+// Adds the last record to the owners of a name.
 void RegisteredOptionStorage::learnName(Owners& owners) {
     const std::size_t last = m_options.size() - 1;
     owners.isRepeated = owners.first != nowhere;
@@ -160,7 +160,7 @@ bool RegisteredOptionStorage::hasNewSynonyms() const {
     return !m_options.empty() && m_learntNames < m_options.back().m_names.size();
 }
 
-// Nobody checks synonyms: they may repeat names.
+// Synonyms are not checked, so they may repeat names.
 void RegisteredOptionStorage::learnSynonyms() {
     const Names& names = m_options.back().m_names;
     for (; m_learntNames < names.size(); ++m_learntNames) {

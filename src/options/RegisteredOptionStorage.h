@@ -43,17 +43,17 @@ public:
     virtual IOption& modifier(const char* names, const char* tags, const char* description,
                               das_variant_type_t type, const char* topic);
 
-    /// What `findOption` finds in the table, at a cost that does not grow with it. It knows the synonyms
-    /// that a record was given before the next declaration.
+    /// Same result as `findOption` over the table, by a look-up in the index of names. Synonyms are found
+    /// too, if they were added before the next declaration.
     int find(const internal::HashedText& name, unsigned long& index);
 
-    /// Finds the record of the only candidate that equals `name`: a name that was declared once, as it is,
-    /// or, being that of a switch, behind "no-". False when there is none or more than one, and when that is
-    /// not certain.
+    /// Finds the record that `name` names whole, if there is just one: `name` is one of its names, or it is
+    /// a switch and `name` is "no-" and one of its names. Returns false when there is none or more than one,
+    /// and also where the index cannot rule out a second one.
     bool findOnly(const internal::HashedText& name, std::size_t& index);
 
-    /// Keeps the records where they are while somebody works on them: a parse, whose handlers may
-    /// declare options. Pins nest.
+    /// While a pin exists, no record moves in memory, even if options are declared. A parse needs one, since
+    /// its handlers may declare. Pins nest.
     class Pin {
     public:
         explicit Pin(RegisteredOptionStorage& storage);
@@ -65,11 +65,9 @@ public:
         RegisteredOptionStorage& m_storage;
     };
 
-private:
-    /// Holds lists of names, descriptions and the indexes, which only go with the registry.
+    /// Memory of the lists of names, the descriptions and the indexes. First of the members, so it outlives
+    /// them.
     internal::ArenaWithRoom<6144> m_memory;
-
-public:
     /// Whether an action was declared.
     bool m_hasActions = false;
     /// The list separator of new declarations.
@@ -85,10 +83,11 @@ private:
     /// The index of no record.
     static constexpr auto nowhere = static_cast<std::size_t>(-1);
 
-    /// The indexes of the first record that has a name, and of the first switch, which takes the "no-" form
-    /// of the name as well.
+    /// Which records have a name.
     struct Owners {
+        /// The index of the first record that has it.
         std::size_t first = nowhere;
+        /// The index of the first switch that has it, and so its "no-" form as well.
         std::size_t firstSwitch = nowhere;
         /// More than one record has the name, or one has it twice.
         bool isRepeated = false;
@@ -109,8 +108,8 @@ private:
     TARV_HIDDEN const Topic& registerTopic(std::string_view topic);
     TARV_HIDDEN IOption& refuse();
 
-    /// Every name. Of the last record, only the first `m_learntNames`: its host may add synonyms until the
-    /// next declaration.
+    /// The index: every name of every record. Of the last record it has the first `m_learntNames` names,
+    /// since the host may add synonyms to it until the next declaration.
     Index m_names;
     std::size_t m_learntNames = 0;
     /// The indexes of the topics in `m_topics`, by name.

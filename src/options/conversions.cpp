@@ -24,7 +24,7 @@ std::istringstream classicStream(const char* text) {
     return stream;
 }
 
-// A stream turns exhausted memory into its badbit, which must not pass for a bad number.
+// A stream reports exhausted memory by its badbit. That must not be taken for a wrong number.
 bool succeeded(const std::istream& stream) {
     if (stream.bad()) {
         throw std::bad_alloc();
@@ -70,8 +70,8 @@ bool isHexadecimal(std::string_view text) {
 
 } // namespace
 
-// What from_chars reads to the end, a stream reads the same; white space, a plus sign, an unsigned
-// minus and every failure are left to the stream.
+// If from_chars reads a text to its end, a stream would read the same value. White space, a plus sign, a
+// minus before an unsigned number and all failures are left to the stream.
 template <class T>
 bool convertWholeText(const char* text, T& value) {
     const char* const end = text + std::strlen(text);

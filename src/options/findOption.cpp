@@ -7,7 +7,7 @@ namespace tarv_3_3 {
 
 namespace {
 
-// Most names that are as long differ in their first byte.
+// Most names of the same length differ in their first byte.
 bool equal(const std::string& name, std::string_view wanted) {
     return name.size() == wanted.size() && (wanted.empty() || name.front() == wanted.front()) &&
            std::memcmp(name.data(), wanted.data(), wanted.size()) == 0;

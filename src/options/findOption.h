@@ -10,7 +10,7 @@
 
 namespace tarv_3_3 {
 
-/// What stands before the name of a switch to turn it off.
+/// The prefix of a switch's name that turns it off.
 inline constexpr std::string_view negation = "no-";
 
 inline bool beginsWithNegation(std::string_view name) {

@@ -12,9 +12,9 @@ using result_t = int;
 /// Splits a comma-separated list and appends its words to `pieces`, a `std::vector` of
 /// strings or `Names`. Always returns 0.
 ///
-/// The character behind a comma is never a separator: "a,,b" is "a" and ",b". Hence a text that
-/// ends in a comma has a last word of one character, the terminating zero. An empty text has no
-/// words, and one that begins with a comma an empty first word.
+/// The character behind a comma is never a separator. So "a,,b" gives "a" and ",b", and "a," gives "a" and a
+/// word of one character, the terminating zero. An empty text gives no words. A text that begins with a comma
+/// gives an empty first word.
 template <class Words>
 TARV_API result_t split(std::string text, Words& pieces);
 

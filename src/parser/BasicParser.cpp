@@ -80,7 +80,7 @@ internal::Remarks& BasicParser::ownRemarks() {
     return *m_remarks;
 }
 
-// Null may be registered, and is never asked.
+// A null handler may be registered. It is never called.
 bool BasicParser::asksHandlers() const {
     return std::any_of(m_handlers.begin(), m_handlers.end(),
                        [](const EventHandler* handler) { return handler != nullptr; });
@@ -94,8 +94,8 @@ bool BasicParser::removeHandler(EventHandler* handler) {
     return m_handlers.erase(handler) != 0;
 }
 
-// Calls every handler, in order, until `call` returns false. A handler may add or remove handlers
-// while it is called: what comes next is looked up in the set as it then is.
+// Calls every handler, in order, until `call` returns false. A handler may add or remove handlers while it is
+// called, so the next one is looked up in the set after each call.
 template <class Call>
 void BasicParser::forEachHandler(Call call) {
     for (auto next = m_handlers.begin(); next != m_handlers.end();) {
@@ -119,7 +119,7 @@ bool BasicParser::onOptionParse(const char* name) {
     return true;
 }
 
-// A refused value stops the round; an unknown argument (below) is shown to every handler.
+// The first handler that refuses the value is the last one asked. (An unknown argument is shown to all.)
 bool BasicParser::onValueParse(const char* name, const Value& value) {
     if (m_handlers.empty()) {
         return true;

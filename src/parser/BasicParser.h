@@ -21,9 +21,9 @@ enum class Listeners;
 struct Remarks;
 } // namespace internal
 
-/// The one concrete parser. Its sources, by job: BasicParser.cpp (declarations, events, errors),
-/// BasicParserParsing.cpp (the road of a command line), BasicParserStreams.cpp (streams and option
-/// files), help/BasicParserHelp.cpp.
+/// The one concrete parser. Its sources: BasicParser.cpp (declarations, events, errors),
+/// BasicParserParsing.cpp (parsing of a command line), BasicParserStreams.cpp (streams and option files),
+/// help/BasicParserHelp.cpp.
 class TARV_API BasicParser : public IParser {
 public:
     /// `flags` are `ParserFlag` bits.
@@ -58,7 +58,7 @@ public:
     /// between them. What was consumed is removed from `arguments`.
     virtual int parseVector(std::vector<std::string>& arguments, IParseResult* result);
 
-    /// Recognizes every argument up to `endMarker`, which stays in `arguments` with all behind it.
+    /// Recognizes and removes the arguments before `endMarker`. The marker and what follows it stay.
     virtual int parse_phase_one(const std::string& endMarker, std::vector<std::string>& arguments,
                                 IParseResult* result, std::string& message);
 
@@ -97,7 +97,7 @@ public:
     std::vector<OptionDescription> getGlobalModifiers() const;
 
     ///@{
-    /// What this parser was told, for those who describe it.
+    /// What was declared on this parser, for descriptions and completion.
     const RegisteredOptionStorage& registry() const { return m_registry; }
     RegisteredOptionStorage& registry() { return m_registry; }
     int flags() const { return m_flags; }
@@ -105,10 +105,10 @@ public:
     bool asksHandlers() const;
     ///@}
 
-    /// Null as long as nothing was remarked.
+    /// The notes and rules of the host; null when there are none.
     const internal::Remarks* remarks() const { return m_remarks.get(); }
 
-    /// To be added to; made when they are first asked for.
+    /// The same, to be added to. Made at the first call.
     internal::Remarks& ownRemarks();
 
     /// Keeps a text as long as the parser lives.
@@ -134,7 +134,7 @@ private:
     /// Not owned; called in the order of their addresses.
     std::set<EventHandler*> m_handlers;
     bool m_optionFileDeclared = false;
-    /// Unlike that of any other parser of the process, also of one that lay in the same place.
+    /// Identifies the parser in this process. Unlike an address, it is never used again.
     std::uint64_t m_number;
     std::unique_ptr<internal::Remarks> m_remarks;
 };

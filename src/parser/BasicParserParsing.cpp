@@ -19,7 +19,7 @@ namespace messages = internal::messages;
 
 namespace {
 
-// Every command line, stream and option file decides for itself, by its first argument.
+// The first argument of each command line, stream and option file switches the trace on or off.
 void switchLog(std::vector<std::string>& arguments) {
     const bool isOn = !arguments.empty() && arguments.front() == logSwitch;
     __atomic_store_n(&internal::tarvLogEnabled, isOn, __ATOMIC_RELAXED);
@@ -67,7 +67,7 @@ int BasicParser::parseVector(std::vector<std::string>& arguments, IParseResult* 
         }
         return status == parseOk ? parse_phase_two(endMarker, arguments, result, m_lastError) : status;
     } catch (const std::exception&) {
-        // Where the last message left room for this one, no memory is needed.
+        // Needs no memory if the capacity of the last message suffices.
         m_lastError = messages::unidentifiedProblem;
         return parseUnidentified;
     }
@@ -97,7 +97,7 @@ int BasicParser::parse_phase_one(const std::string& endMarker, std::vector<std::
     internal::ConsumedArguments consumed(arguments);
     while (consumed.count < arguments.size() && arguments[consumed.count] != endMarker) {
         const internal::ArgumentSpan left = consumed.left();
-        // Both look at the argument; the named option has the higher priority.
+        // Both recognizers are asked, and both trace it. The one of named options has the higher priority.
         const bool mayBePositional = positional.takes(left.front(), options);
         int status = parseOk;
         if (abbreviation.takes(left.front(), m_registry)) {
@@ -114,7 +114,7 @@ int BasicParser::parse_phase_one(const std::string& endMarker, std::vector<std::
     return parseOk;
 }
 
-// Without handlers the events of this class do nothing; those of a class derived from it may.
+// Without handlers, the event functions of this class do nothing. A derived class may override them.
 internal::Listeners BasicParser::listeners() const {
     return m_handlers.empty() && typeid(*this) == typeid(BasicParser) ? internal::Listeners::none
                                                                       : internal::Listeners::some;
@@ -154,7 +154,7 @@ int BasicParser::collectNonparsingArguments(std::string endMarker, std::vector<s
     return parseOk;
 }
 
-// Behind the marker an argument may begin with a dash and still be positional.
+// Behind the end marker, `flagDashIsNotPositional` does not hold.
 int BasicParser::parseAsPositional(const std::string& argument, ParseResult* result, std::string& message) {
     if (result != nullptr) {
         result->noteParser(m_number);
@@ -182,7 +182,7 @@ int BasicParser::parse_phase_two(const std::string& /*endMarker*/, std::vector<s
         return parseOk;
     }
     const auto& stored = static_cast<const ParseResult&>(*result);
-    // What this parser alone has stored is declared here.
+    // If this parser stored everything, every name in the result is declared on it.
     const bool hasNothingToCheck = !m_registry.m_hasActions && stored.isOnlyFrom(m_number);
     return hasNothingToCheck ? static_cast<int>(parseOk) : checkStoredOptions(*this, stored, message);
 }

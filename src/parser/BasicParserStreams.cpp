@@ -54,7 +54,7 @@ int BasicParser::parseStream(const char* text, IParseResult* result) {
 
 void BasicParser::parseStreamToArgs(const char* text, std::vector<std::string>& arguments) {
     std::string_view rest = text != nullptr ? text : "";
-    // What `IParser::parseStream` promises for a text that is just this.
+    // Part of the contract of `IParser::parseStream`.
     if (rest == "-1") {
         rest = "?";
     }
@@ -89,7 +89,7 @@ int BasicParser::readOptionFiles(const std::string& endMarker, IParseResult* res
             return status;
         }
     }
-    // A query that failed must not pass for the end of the files.
+    // A query that failed for lack of memory must not be taken for the end of the list.
     if (file.status == valueException) {
         throw std::bad_alloc();
     }

@@ -8,7 +8,7 @@ namespace internal {
 
 class TextSet {
 public:
-    // Not defaulted, or its memory would be filled with zeros first.
+    // Not defaulted: value-initialisation would then fill the whole object with zeros first.
     TextSet() {}
 
     const char* insert(const char* text) { return m_texts.insert(text).bytes(); }

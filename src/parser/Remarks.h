@@ -7,8 +7,8 @@
 
 namespace tarv_3_3::internal {
 
-/// What a host said of its declarations that no parse reads. Declarations go by their index in the
-/// registry, which they keep.
+/// Notes and rules that a host added to its declarations. No parse reads them. Declarations are referred to
+/// by their index in the registry, which does not change.
 struct Remarks {
     /// Key and value, in the order in which the keys were first used.
     using Notes = std::vector<std::pair<std::string, std::string>>;
@@ -18,7 +18,7 @@ struct Remarks {
         std::vector<std::size_t> indexes;
     };
 
-    /// By index; shorter than the registry when nothing was said of the last ones.
+    /// One element for each declaration. There may be fewer, where the last declarations have no notes.
     std::vector<Notes> notes;
     std::vector<Rule> rules;
 };

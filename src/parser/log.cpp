@@ -20,7 +20,7 @@ template class basic_nullbuf<char, std::char_traits<char>>;
 
 TarvLog::TarvLog() = default;
 
-// The stream refers to the buffer, so it goes first.
+// The stream refers to the buffer, so it is destroyed first.
 TarvLog::~TarvLog() {
     m_stream.reset();
     m_buffer.reset();
@@ -41,7 +41,7 @@ LinePart::LinePart(int number) {
 
 namespace {
 
-// Recursive, since a host's stream buffer may itself parse while a line is written to it.
+// Recursive, since a host's stream buffer may start a parse while a line is written to it.
 std::recursive_mutex logMutex;
 
 alignas(TarvLog) std::byte holderRoom[sizeof(TarvLog)];
@@ -50,8 +50,8 @@ TarvLog& holderInRoom() {
     return *std::launder(reinterpret_cast<TarvLog*>(holderRoom));
 }
 
-// Leaves an empty holder behind at exit: static destructors of the host that run later may parse, and ask
-// for the log.
+// At exit, the holder is replaced by an empty one. Static destructors of the host may run later, and may
+// still parse and trace.
 struct HolderLife {
     HolderLife() { new (holderRoom) TarvLog; }
 
@@ -80,7 +80,7 @@ std::ostream& tarvLog() {
         return MERO_2_16::strings::gh2::ucout();
     }
     std::ostream& discarding = holder.discarding();
-    // What the lines that were dropped before would have done to it.
+    // Lines were dropped before. The first of them would have made the stream fail.
     if (untracedLines.exchange(UntracedLines::written) == UntracedLines::dropped) {
         discarding.setstate(std::ios::badbit | std::ios::failbit);
     }
@@ -89,8 +89,8 @@ std::ostream& tarvLog() {
 
 namespace {
 
-// Whether lines may be dropped: the trace is off, and nobody has the discarding stream. Needs no lock:
-// whoever asks for that stream meanwhile finds this line written either before or after.
+// Whether a line may be dropped: the trace is off, and nobody has asked for the discarding stream. Needs no
+// lock: if another thread asks for that stream meanwhile, this line counts as written before.
 bool isDropped() {
     UntracedLines before = UntracedLines::none;
     return !isTraceOn() && (untracedLines.compare_exchange_strong(before, UntracedLines::dropped) ||

@@ -31,7 +31,7 @@ int checkTags(const BasicParser& parser, const OptionDescription& action,
 
 } // namespace
 
-// In the order of the names, which decides which of two actions a message names first.
+// Goes through the names in sorted order. That order decides which of two actions a message names first.
 int checkStoredOptions(BasicParser& parser, const ParseResult& result, std::string& message) {
     RegisteredOptionStorage& registry = parser.registry();
     const OptionDescription* action = nullptr;

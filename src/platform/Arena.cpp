@@ -6,8 +6,8 @@ namespace tarv_3_3::internal {
 
 namespace {
 
-// Blocks grow, so that a large owner asks the heap seldom, up to this size, so that it has at most this much
-// too much.
+// Each block is twice as large as the last one, so large owners need few blocks. This is the largest size. It
+// bounds the memory that may stay unused.
 constexpr std::size_t largestBlock = std::size_t(256) * 1024;
 
 } // namespace
@@ -20,7 +20,7 @@ Arena::~Arena() {
     }
 }
 
-// What lies behind the head of a block is aligned for everything.
+// The head of a block has the largest alignment, so the first piece behind it needs no padding.
 void* Arena::takeFromNewBlock(std::size_t size) {
     const std::size_t blockSize = std::max(m_nextBlockSize, sizeof(Block) + size);
     auto* const block = static_cast<std::byte*>(::operator new(blockSize));

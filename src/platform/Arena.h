@@ -6,11 +6,11 @@
 
 namespace tarv_3_3::internal {
 
-/// Memory for pieces that all go at once, with the arena. It begins with room that its owner has; more comes
-/// in blocks of the heap.
+/// Memory in pieces that are freed all at once, by the destructor. The first pieces lie in a buffer of the
+/// owner, the next ones in blocks from the heap.
 ///
-/// Everything that the library allocates comes from the heap, never from the default resource of
-/// `std::pmr`: that one belongs to the host, and may refuse, or end before the library's objects do.
+/// The library takes all memory from the heap, never from the default resource of `std::pmr`. That resource
+/// belongs to the host. It may refuse, or be destroyed before the library's objects.
 class Arena {
 public:
     Arena(std::byte* room, std::size_t size) : m_next(room), m_end(room + size), m_nextBlockSize(2 * size) {}
@@ -39,14 +39,14 @@ private:
 
     void* takeFromNewBlock(std::size_t size);
 
-    /// What is left of the room or of the last block.
+    /// The free part of the first buffer or of the last block.
     std::byte* m_next;
     std::byte* m_end;
     std::size_t m_nextBlockSize;
     Block* m_lastBlock = nullptr;
 };
 
-/// An arena whose first room lies in itself, so that a small owner needs no block.
+/// An arena with a first buffer of `size` bytes, so that a small owner needs no block from the heap.
 template <std::size_t size>
 class ArenaWithRoom : public Arena {
 public:
@@ -56,17 +56,17 @@ private:
     alignas(std::max_align_t) std::byte m_room[size];
 };
 
-/// Gives containers their memory: from an arena, or, without one, from the heap.
+/// An allocator for containers. Takes memory from an arena, or from the heap if it has none.
 ///
-/// A copy of a container has no arena, since it may outlive it. Large pieces come from the heap in any
-/// case: a long list that grows gives them back, which an arena would not.
+/// A copy of a container gets an allocator without an arena, since the copy may outlive it. Large pieces
+/// always come from the heap: a list that grows can free them, which it cannot do in an arena.
 template <class T>
 class ArenaAllocator {
 public:
     using value_type = T;
 
     ArenaAllocator() = default;
-    // Implicit, so that a container is made with an arena, as with a resource of the standard library.
+    // Implicit, so that a container can be constructed with an arena directly.
     ArenaAllocator(Arena& arena) : m_arena(&arena) {}
     template <class Other>
     ArenaAllocator(const ArenaAllocator<Other>& other) : m_arena(other.arena()) {}

@@ -10,8 +10,8 @@
 
 namespace tarv_3_3::internal {
 
-/// A vector that only grows, with room for its first element in itself. More elements lie where
-/// `ArenaAllocator` puts them. To move an element must not throw.
+/// A vector that only grows. Its first element lies in the object itself, more of them where `ArenaAllocator`
+/// puts them. The move constructor of an element must not throw.
 template <class T>
 class SmallVector {
 public:
@@ -46,8 +46,8 @@ public:
         ++m_size;
     }
 
-    /// Makes room for `more` elements. Called for few elements at a time, it still moves each only a few
-    /// times.
+    /// Makes room for `more` elements. The capacity at least doubles, so that many calls for few elements
+    /// each move an element only a few times.
     void makeRoom(std::size_t more) {
         if (m_capacity - m_size < more) {
             reserve(std::max(2 * m_capacity, m_size + more));

@@ -12,8 +12,8 @@
 
 namespace tarv_3_3::internal {
 
-/// A hash map from texts to values, with open addressing and linear probing. It only grows, and its
-/// entries keep their places. `Value` needs no destructor.
+/// A hash map from texts to values, with open addressing and linear probing. It only grows, and its entries
+/// keep their addresses. The destructors of values are not called.
 template <class Value>
 class TextMap {
 public:
@@ -51,7 +51,7 @@ public:
     /// Null when there is none.
     const Entry* find(const HashedText& text) const { return m_size != 0 ? m_slots[slotOf(text)] : nullptr; }
 
-    /// The number of slots that lie between the entries and those where their searches begin, in all.
+    /// The total number of slots that searches for all entries skip. A measure of how well the hash spreads.
     std::size_t distances() const {
         const std::size_t mask = m_slots.size() - 1;
         std::size_t sum = 0;
@@ -64,7 +64,7 @@ public:
 private:
     static constexpr std::size_t firstSlots = 64;
 
-    // Of the entry, or, where there is none, the one where it would go.
+    // The slot of the entry. If there is none, the free slot where it would be added.
     std::size_t slotOf(const HashedText& text) const {
         const std::size_t mask = m_slots.size() - 1;
         std::size_t slot = text.hash & mask;
@@ -102,7 +102,7 @@ private:
     using Slots = std::vector<Entry*, ArenaAllocator<Entry*>>;
 
     Arena& m_memory;
-    /// A power of two of them, null while they are free.
+    /// Their number is a power of two. A free slot is null.
     Slots m_slots;
     std::size_t m_size = 0;
 };

@@ -21,7 +21,7 @@ Product multiply(std::uint64_t left, std::uint64_t right) {
     return {static_cast<std::uint64_t>(product), static_cast<std::uint64_t>(product >> 64)};
 }
 
-// Both halves of a product, since the low bits of one half depend on few bits of the factors.
+// Combines both halves of a product: the low bits of the low half depend on few bits of the factors.
 std::uint64_t mix(std::uint64_t left, std::uint64_t right) {
     const Product product = multiply(left, right);
     return product.low ^ product.high;
@@ -39,7 +39,7 @@ struct TwoWords {
     std::uint64_t back;
 };
 
-// Up to 16 bytes, each of them at least once.
+// Loads up to 16 bytes. Some may be loaded twice.
 TwoWords loadShort(const char* bytes, std::size_t size) {
     if (size >= 8) {
         return {load<std::uint64_t>(bytes), load<std::uint64_t>(bytes + size - 8)};
@@ -54,14 +54,14 @@ TwoWords loadShort(const char* bytes, std::size_t size) {
     return {word, 0};
 }
 
-// The kernel gives 16 random bytes to every program that it starts. To read them costs no system call. The
-// same whenever it is made in a process.
+// The kernel gives 16 random bytes to every process. Reading them needs no system call. Every call in a
+// process gives the same key.
 HashKey makeProcessKey() {
     static const char somewhere = 0;
     const unsigned long randomBytes = getauxval(AT_RANDOM);
     std::uint64_t seed[2] = {reinterpret_cast<std::uintptr_t>(&somewhere), 0};
     if (randomBytes != 0) {
-        // The kernel says where they are by a number.
+        // The kernel gives their address as an integer.
         // NOLINTNEXTLINE(performance-no-int-to-ptr)
         std::memcpy(seed, reinterpret_cast<const void*>(randomBytes), sizeof seed);
     }
@@ -70,12 +70,12 @@ HashKey makeProcessKey() {
 
 HashKey keptKey;
 std::atomic_flag isKeyKept = ATOMIC_FLAG_INIT;
-/// The key of the process, null until the first hash was asked for.
+/// The key of the process; null before the first hash.
 std::atomic<const HashKey*> processKey{nullptr};
 
-// The first thread keeps the key; one that comes at the same time has made the same key for itself. (A static
-// variable of this function would have every process look up two more functions of the C++ library.)
-// A function of its own, so that every other call need not save what this one would spoil.
+// The first thread stores the key. Threads that get here at the same time compute the same key and use their
+// own copy. (With a static local variable, the dynamic linker would have two more symbols to look up.)
+// Not inlined, so that the fast path of `hashOf` need not save registers for it.
 [[gnu::cold, gnu::noinline]] std::size_t makeKeyAndHash(std::string_view text) {
     const HashKey key = makeProcessKey();
     if (!isKeyKept.test_and_set(std::memory_order_relaxed)) {
@@ -87,12 +87,12 @@ std::atomic<const HashKey*> processKey{nullptr};
 
 } // namespace
 
-// The same bytes guard the stack of the process, so the key shows none of them as they are.
+// These bytes also guard the stack of the process, so the key must not reveal them.
 HashKey makeHashKey(const void* seed) {
     std::uint64_t words[2];
     std::memcpy(words, seed, sizeof words);
     HashKey key;
-    // The first digits of pi, which stand for no choice.
+    // The first digits of pi: constants that nobody chose.
     constexpr std::uint64_t digits[] = {0x243F6A8885A308D3, 0x13198A2E03707344, 0xA4093822299F31D0,
                                         0x082EFA98EC4E6C89, 0x452821E638D01377};
     for (std::size_t i = 0; i < 4; ++i) {
@@ -101,8 +101,8 @@ HashKey makeHashKey(const void* seed) {
     return key;
 }
 
-// Every factor of a product is hidden by a word of the key, alone or in a product before: where one were
-// known, texts that make it zero, and with it the product, could be written down for every key.
+// Each factor of a product depends on the key, directly or through an earlier product. If an attacker knew a
+// factor, texts could be chosen that make it zero, and so the product, whatever the key is.
 std::size_t hashOf(std::string_view text, const HashKey& key) {
     const char* bytes = text.data();
     std::size_t left = text.size();

@@ -6,18 +6,18 @@
 
 namespace tarv_3_3::internal {
 
-/// What a hash depends on besides the text.
+/// The secret that a hash depends on besides the text.
 struct HashKey {
     std::uint64_t words[4];
 };
 
-/// The key that `seed`, 16 bytes, stands for.
+/// Derives a key from the 16 bytes at `seed`.
 HashKey makeHashKey(const void* seed);
 
-/// The same for equal texts, and seldom for others: which others depends on all of the key.
+/// The hash of `text`. Which texts collide depends on the whole key.
 std::size_t hashOf(std::string_view text, const HashKey& key);
 
-/// With the key of the process, which an outsider cannot know. Nothing that can be observed may depend on it.
+/// The hash with the key of the process, which is random. Nothing that a host can observe may depend on it.
 std::size_t hashOf(std::string_view text);
 
 /// A text and its hash with the key of the process.

@@ -8,13 +8,13 @@
 
 namespace tarv_3_3::internal {
 
-/// What becomes of lines while the trace is off.
+/// What happens to a line that is written while the trace is off.
 enum class UntracedLines : unsigned char {
-    /// None has been written so far.
+    /// There was no line so far.
     none,
-    /// They are dropped. Nobody has the discarding stream, which is not even made.
+    /// It is dropped. No host has asked for the discarding stream, which does not exist yet.
     dropped,
-    /// They are written to the discarding stream. A host has it, and may have given it a buffer.
+    /// It is written to the discarding stream. A host has asked for it, and may have given it a buffer.
     written
 };
 
@@ -41,11 +41,11 @@ private:
     std::string_view m_text;
 };
 
-/// Writes the parts to `tarvLog()` as one line, unless that stream has failed. Lines that several threads
-/// write at once come one after the other.
+/// Writes the parts to `tarvLog()` as one line, unless that stream has failed. Lines of several threads do
+/// not mix.
 [[gnu::cold]] void writeLine(std::initializer_list<LinePart> parts);
 
-/// The same. While lines are dropped the parts are not even looked at.
+/// The same. While lines are dropped, the parts are not converted to text.
 template <class... Parts>
 void writeLogLine(const Parts&... parts) {
     if (isTraceOn() || untracedLines.load(std::memory_order_relaxed) != UntracedLines::dropped) {

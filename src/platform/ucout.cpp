@@ -5,8 +5,8 @@
 
 namespace MERO_2_16::strings::gh2 {
 
-// std::cout, declared without <iostream>: that header would make every process that loads the
-// library construct all standard streams, used or not.
+// std::cout, without <iostream>. That header would make every process that loads the library construct all
+// standard streams.
 extern std::ostream standardOutput __asm__("_ZSt4cout");
 
 std::ostream& ucout() {

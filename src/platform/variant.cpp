@@ -18,7 +18,7 @@ int sync_inc(volatile int* counter) {
     return __atomic_add_fetch(counter, 1, __ATOMIC_RELAXED);
 }
 
-// Whoever takes the last reference away must see all that the others did with the text before.
+// The thread that drops the last reference must see what all other threads did with the text.
 int sync_dec(volatile int* counter) {
     return __atomic_sub_fetch(counter, 1, __ATOMIC_ACQ_REL);
 }

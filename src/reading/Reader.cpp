@@ -77,9 +77,9 @@ ReadArgument Reader::lookAtName(const std::string& argument, const std::string* 
     return read;
 }
 
-// An argument with the dashes and the name of one that was remembered is cut in the same way. What has
-// nothing behind its dashes is not remembered, since "-" is none where "-=x" fits many. A whole name need not
-// be: it is found without a walk.
+// The key is an argument's dashes and name, so an argument with a known key is cut in the same way. An empty
+// name is not kept, since "-" and "-=x" have the same key and different results. A whole name is not kept
+// either, since the index of names finds it.
 Reader::Match Reader::match(const std::string& argument, Token& token) {
     token = splitToken(argument, m_classifier);
     const auto known = m_remembered.find(argument.substr(0, token.nameEnd));

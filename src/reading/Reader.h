@@ -58,18 +58,20 @@ struct ReadArgument {
     bool isRefused = false;
 };
 
-/// Says of the arguments of one command line, one after the other, what they are. It asks what the parse
-/// asks, but past errors, and nobody notices: no events, no position indices, no trace, no option files.
+/// Tells what each argument of a command line is, one after the other. It uses the rules of a parse, but goes
+/// on behind errors and has no effects: no events, no position indices, no trace, no option files.
 ///
-/// A name that is not whole is compared with every option, so a line may cost the product of both. What such
-/// a name gives is remembered: the first `maxRemembered` different ones, unless they are very long.
+/// An abbreviated name is compared with every option, so the cost of a line may be the product of the numbers
+/// of arguments and options. The results for the first `maxRemembered` different names are kept, unless a
+/// name is very long.
 ///
-/// The parser outlives it, and gets no declarations meanwhile.
+/// The parser must outlive the reader, and must get no declarations meanwhile.
 class Reader {
 public:
     explicit Reader(BasicParser& parser);
 
-    /// What `argument` is where the line has got to; `next` is the one behind it, null when there is none.
+    /// What `argument` is at this point of the line. `next` is the argument behind it, null when there is
+    /// none.
     ReadArgument look(const std::string& argument, const std::string* next);
 
     /// Goes on behind an argument that was looked at.
@@ -79,7 +81,7 @@ public:
     static constexpr std::size_t longestRemembered = 256;
 
 private:
-    /// What a typed name gives.
+    /// Which declared name a typed name stands for.
     struct Match {
         NameOutcome outcome = NameOutcome::none;
         /// Where exactly one fits: its index, and the whole name.
@@ -104,7 +106,7 @@ private:
     const std::size_t m_filled;
     NameMatcher m_matcher;
     SpaceClassifier m_classifier;
-    /// By the name and the dashes in front of it.
+    /// The key is the name with the dashes in front of it.
     std::unordered_map<std::string, Match, Hash> m_remembered;
     /// The option whose value comes next.
     std::size_t m_awaiting = ReadArgument::nowhere;

@@ -127,7 +127,7 @@ int AbbreviationParser::bind(internal::ArgumentSpan left, IResultCollector* coll
     return parseOk;
 }
 
-// Leaves in `value` what the option is to be given.
+// Finds the text that the option gets as its value. `value` is the part behind the name at first.
 int AbbreviationParser::findValue(const OptionDescription& option, internal::ArgumentSpan left,
                                   std::string_view& value, std::size_t& used, std::string& message) {
     const ValueSource source = valueSource(option.m_type, value, left.next());

@@ -37,8 +37,8 @@ public:
     int getPriority() override;
 
     ///@{
-    /// What `recognize` and `parse` do, for the options of a registry, and without removing anything: what is
-    /// consumed is added to `consumed`.
+    /// As `recognize` and `parse`, for the options of a registry. Removes no argument, but adds the number of
+    /// those that it used up to `consumed`.
     TARV_HIDDEN bool takes(const std::string& argument, RegisteredOptionStorage& registry);
     TARV_HIDDEN int bind(internal::ArgumentSpan left, IResultCollector* collector,
                          const std::vector<OptionDescription>& options, std::string& message,

@@ -6,7 +6,7 @@
 
 namespace tarv_3_3::internal {
 
-/// The arguments that are left to be recognised, the front one first. There is always a front one.
+/// The arguments that are still to be recognised. There is at least one.
 struct ArgumentSpan {
     const std::string& front() const { return *first; }
     /// The argument behind the front one, null when there is none.
@@ -16,8 +16,8 @@ struct ArgumentSpan {
     const std::string* end;
 };
 
-/// Counts the arguments that are consumed from the front of a vector, and removes them at its own end, all
-/// at once.
+/// Counts the arguments that are used up from the front of a vector. Its destructor removes them all at once,
+/// since erasing them one by one is quadratic.
 class ConsumedArguments {
 public:
     explicit ConsumedArguments(std::vector<std::string>& arguments) : m_arguments(arguments) {}

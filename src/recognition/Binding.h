@@ -8,16 +8,16 @@
 
 namespace tarv_3_3::internal {
 
-/// Who is told of events while a recognizer is in use.
+/// Whether somebody is told of events while a recognizer is in use.
 enum class Listeners {
-    /// Nobody: what is declared, and the global locale, stay as they are in the middle of an argument.
+    /// Nobody. So no declaration and no global locale changes while an argument is bound.
     none,
-    /// Somebody, who may do anything meanwhile.
+    /// Somebody, who may change both in an event.
     some
 };
 
-/// What the recognizers of one parse have in common, since one of them binds at a time. Its lists and texts
-/// keep their memory from one occurrence to the next. A parse that a handler starts has one of its own.
+/// Working memory for binding an argument, which the recognizers of one parse share. Its lists and texts keep
+/// their capacity from one argument to the next. A parse that a handler starts has one of its own.
 struct Binding {
     explicit Binding(Listeners whoListens) : listeners(whoListens) {}
 
@@ -28,7 +28,7 @@ struct Binding {
     std::unique_ptr<OptionDescription> record;
     /// The occurrence being bound.
     OptionData occurrence;
-    /// A piece of a list, where it needs a zero behind it.
+    /// A copy of one element of a list, as a zero-terminated text.
     std::string piece;
 };
 

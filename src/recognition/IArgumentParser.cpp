@@ -20,7 +20,7 @@ int IArgumentParser::m_idx = 1;
 
 namespace {
 
-// Whether another thread may be running. To ask costs less than an atomic addition.
+// Whether another thread may be running. The question costs less than an atomic addition.
 bool mayHaveThreads() {
 #if __has_include(<sys/single_threaded.h>)
     return __libc_single_threaded == 0;
@@ -47,8 +47,8 @@ std::string IArgumentParser::formatTokenMessage(std::string& token) {
     return messages::inArgument(token);
 }
 
-// Behind the largest index comes the smallest one: a process that lives so long loses the order of its
-// positions, and nothing else.
+// Wraps around behind the largest index. A process that gets there loses the order of its positions, and
+// nothing else.
 int IArgumentParser::getNewPositionIndex() {
     if (mayHaveThreads()) {
         return __atomic_fetch_add(&m_idx, 1, __ATOMIC_RELAXED);
@@ -109,8 +109,8 @@ int IArgumentParser::bindSingleValue(std::string_view value, const OptionDescrip
                : status;
 }
 
-// Room for one more value, and, where it has to be made, for all that the pieces of `rest` will need: a long
-// list that grew bit by bit would take up to three times as much.
+// Makes room for one more value. Where the list has to grow, it grows at once to what the pieces of `rest`
+// need: a long list that doubled again and again would use up to three times the memory.
 void IArgumentParser::makeRoomForValues(std::string_view rest, char separator) {
     std::vector<OptionValue>& values = m_binding.occurrence.values;
     if (values.size() < values.capacity()) {

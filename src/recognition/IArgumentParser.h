@@ -28,7 +28,8 @@ class TARV_API IArgumentParser {
 public:
     ///@{
     /// `handler` and `garbage` belong to the parser and outlive the recognizer; `flags` are the
-    /// parser's. So does `binding`; a recognizer without one has its own, and takes it that somebody listens.
+    /// parser's. `binding` outlives the recognizer, too. A recognizer without one makes its own, and assumes
+    /// that there are listeners.
     IArgumentParser(EventHandler* handler, Garbage* garbage, unsigned int flags);
     TARV_HIDDEN IArgumentParser(EventHandler* handler, Garbage* garbage, unsigned int flags, const char* name,
                                 internal::Binding& binding);
@@ -52,7 +53,7 @@ public:
                       std::vector<OptionDescription>& options, unsigned long& index,
                       std::string& message) = 0;
 
-    /// The end of a message: in which argument the error was found.
+    /// The end of a message, which names the argument that the error was found in.
     virtual std::string formatTokenMessage(std::string& token);
 
     virtual int getPriority() = 0;
@@ -72,13 +73,14 @@ protected:
     int parseValueAndAddOption(std::string& value, std::string& message, const OptionDescription& option,
                                std::vector<std::string>& args, IResultCollector* collector);
 
-    /// The same without the completed value. There is a zero behind `value`, as behind the end of a string.
+    /// As `parseValueAndAddOption`, but does not write a completed value back. `value` must end in a
+    /// terminating zero.
     TARV_HIDDEN int bindValue(std::string_view value, const OptionDescription& option,
                               const std::string& argument, IResultCollector* collector, std::string& message);
 
-    /// The record to bind an argument to. A handler may refine the last record when it is told of the
-    /// argument; of that one it is a copy as it is now. Throws `std::out_of_range` when there is no such
-    /// record.
+    /// The record at `index`, to bind an argument to. A handler may refine the last record while the argument
+    /// is bound. Of that record a copy is returned, so this argument is bound to it as it is now. Throws
+    /// `std::out_of_range` when there is no such record.
     TARV_HIDDEN const OptionDescription& recordToBind(const std::vector<OptionDescription>& options,
                                                       std::size_t index);
 

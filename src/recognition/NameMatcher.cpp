@@ -20,16 +20,15 @@ NameOutcome NameMatcher::look(const std::string& argument, const std::vector<Opt
     }
     keepBest(name, options);
     const NameOutcome found = outcome();
-    // The record that gave the one best name is also the one that a lookup of that name would find:
-    // another one with the same name would have tied with it.
+    // One best name means one record: another record with that name would have tied with this one.
     if (found == NameOutcome::ambiguous) {
         m_index = -1;
     }
     return found;
 }
 
-// Only an equal candidate has every word whole, so nothing beats it, and only another equal one ties with
-// it. Where there is just one, the table need not be walked.
+// A candidate that equals the typed name has the highest score possible, and only another equal one ties with
+// it. So if there is just one, the table need not be searched.
 bool NameMatcher::findWholeName(std::string_view typed, RegisteredOptionStorage& registry) {
     std::size_t index = 0;
     m_isWhole = registry.findOnly(typed, index);

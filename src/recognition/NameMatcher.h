@@ -14,7 +14,7 @@ namespace tarv_3_3 {
 
 class RegisteredOptionStorage;
 
-/// What a typed name means among those declared.
+/// How many declared names a typed name stands for: one, none or several.
 enum class NameOutcome { found = 0, none = 1, ambiguous = 2 };
 
 /// Finds the declared name that an argument gives, whole or abbreviated. It keeps what it found, and its
@@ -50,8 +50,8 @@ public:
                                                     : NameOutcome::ambiguous;
     }
 
-    /// Forgets what was found; then `isBest` may be asked of one candidate after the other, and `keep`
-    /// told each that is.
+    /// The search by hand: `forget` begins it, then each candidate for which `isBest` is true is given to
+    /// `keep`.
     void forget();
     bool isBest(NameScore found);
     void keep(std::string name) { m_bestNames.push_back(std::move(name)); }
@@ -70,8 +70,8 @@ private:
     SpaceClassifier m_classifier;
 };
 
-/// Whether a name can be that of an option. One that is empty or begins with a third dash is refused even
-/// where it matches.
+/// Whether a typed name may be that of an option. An empty name, and one that begins with a third dash, are
+/// errors even if they match a declared name.
 inline bool isOptionName(std::string_view name) {
     return !name.empty() && name.front() != '-';
 }

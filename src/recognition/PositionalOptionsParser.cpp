@@ -76,7 +76,7 @@ int PositionalOptionsParser::bind(internal::ArgumentSpan left, IResultCollector*
     return parseOk;
 }
 
-// Only the last record may become positional, so those before it are looked at once.
+// Only the last record can still become positional, so the records before it are searched once.
 std::size_t PositionalOptionsParser::findPositional(const std::vector<OptionDescription>& options) {
     const std::size_t index = positionalIndex(options, m_index);
     m_index = index < options.size() || index == 0 ? index : index - 1;

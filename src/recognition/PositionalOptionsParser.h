@@ -5,8 +5,8 @@
 
 namespace tarv_3_3 {
 
-/// The index of the option that positional arguments fill, or the size of the table when there is none.
-/// Those before `from` are known not to be it.
+/// The index of the option that takes positional arguments, or the size of the table when there is none. The
+/// search begins at `from`.
 std::size_t positionalIndex(const std::vector<OptionDescription>& options, std::size_t from = 0);
 
 /// Whether the parser's flags let an argument be positional that looks like this.
@@ -33,8 +33,8 @@ public:
     int getPriority() override;
 
     ///@{
-    /// What `recognize` and `parse` do, without removing anything: what is consumed is added to `consumed`.
-    /// `options` is the same table every time, which may only have grown.
+    /// As `recognize` and `parse`. Removes no argument, but adds the number of those that it used up to
+    /// `consumed`. Every call must be given the same table, which may have grown since the last one.
     TARV_HIDDEN bool takes(const std::string& argument, const std::vector<OptionDescription>& options);
     TARV_HIDDEN int bind(internal::ArgumentSpan left, IResultCollector* collector,
                          const std::vector<OptionDescription>& options, std::string& message,
@@ -44,7 +44,7 @@ public:
 private:
     TARV_HIDDEN std::size_t findPositional(const std::vector<OptionDescription>& options);
 
-    /// The index of the positional option, or of one that lies before it.
+    /// Where the search for the positional option begins: no option before this one is positional.
     std::size_t m_index = 0;
 };
 

@@ -4,13 +4,13 @@
 
 namespace tarv_3_3 {
 
-/// Knows what the global locale of its construction calls white space. Asking a locale costs more
-/// than splitting an argument, so ask once for many.
+/// Tells what is white space in the global locale at the time of its construction. Looking up a locale costs
+/// more than splitting an argument, so one classifier serves many arguments.
 class SpaceClassifier {
 public:
     SpaceClassifier() : m_classes(&std::use_facet<std::ctype<char>>(m_locale)) {}
 
-    /// Goes over to what is the global locale now.
+    /// Switches to the present global locale.
     void follow() {
         if (m_locale != std::locale()) {
             *this = SpaceClassifier();

@@ -8,7 +8,7 @@ namespace tarv_3_3 {
 
 namespace {
 
-// The word of a name that `mayBeNegated` and `scoreNegated` compare with the one in front of the first dash.
+// "no", the first word of every negated candidate.
 constexpr std::string_view negativeWord = negation.substr(0, negation.size() - 1);
 
 NameScore scoreNegated(std::string_view typed, std::string_view name) {
@@ -27,7 +27,7 @@ std::string NameCandidate::text() const {
     return text.append(name);
 }
 
-// Goes through both names at once; at the end of each typed word skips what the candidate's has more.
+// Compares both names byte by byte. At the end of a typed word, skips the rest of the candidate's word.
 NameScore scoreName(std::string_view typed, std::string_view name) {
     if (typed == name) {
         return {true, 2 * static_cast<std::int32_t>(1 + std::count(typed.begin(), typed.end(), '-'))};
@@ -46,7 +46,7 @@ NameScore scoreName(std::string_view typed, std::string_view name) {
         score += at == wordEnd ? 2 : 1;
         at = wordEnd;
         if (isLastWord == (wordEnd < name.size())) {
-            // One of the names has more words; what the candidate has more is no misfit.
+            // One of the names has more words. If it is the candidate, the score so far stands.
             return {false, isLastWord ? score : 0};
         }
     }
@@ -62,7 +62,8 @@ bool mayBeNegated(std::string_view typed) {
     return wordEnd <= negativeWord.size() && typed.substr(0, wordEnd) == negativeWord.substr(0, wordEnd);
 }
 
-// An empty word abbreviates every word, and the words of a negated candidate are not those of its name.
+// An empty word abbreviates every word, so any byte fits. The words of a negated candidate are shifted by one
+// against those of its name, so any name fits.
 Names::Pattern patternOf(std::string_view typed) {
     if (typed.empty() || mayBeNegated(typed)) {
         return Names::anything;

@@ -41,11 +41,12 @@ NameScore scoreName(std::string_view typed, std::string_view name);
 /// The same for a candidate. Of a negated one the score counts only where the number of words is the same.
 NameScore scoreCandidate(std::string_view typed, const NameCandidate& candidate);
 
-/// Whether the first word of a typed name may stand for the "no" of a negated candidate.
+/// Whether the first word of a typed name is "no", "n" or empty, so that it may match the "no" of a negated
+/// candidate. There must be a second word.
 bool mayBeNegated(std::string_view typed);
 
-/// What an option that has a candidate for `typed` fits. Saves most options of a table from being looked at
-/// more closely.
+/// A pattern for `Names::mayFit`. An option whose names do not fit has no candidate for `typed`, so that most
+/// options of a table need not be scored.
 Names::Pattern patternOf(std::string_view typed);
 
 } // namespace tarv_3_3

@@ -21,7 +21,7 @@ constexpr std::array<char32_t, 6> dashes = {
     0x2053, // swung dash
 };
 
-// The encoder never fails. Should one take its place that returns "-1" then, that must not count as a dash.
+// The encoder of this library does not fail. Others report a failure as "-1", which must not count as a dash.
 ustring8 dashText(char32_t codePoint) {
     const ustring8 text = MERO_2_16::strings::utf32_to_utf8(ustring32(1, codePoint));
     return text == "-1" ? "?" : text;

@@ -35,8 +35,8 @@ struct Token {
     bool hasValue = false;
 
     ///@{
-    /// The piece of `arg`, the argument that was cut; of a token that was never cut, an empty name.
-    /// Throws `std::out_of_range` when `arg` is a shorter one that ends before the piece.
+    /// The piece of `arg`, which must be the argument that was cut. A default-constructed token has an empty
+    /// name. Throws `std::out_of_range` when `arg` ends before the piece begins.
     std::string_view nameIn(std::string_view arg) const { return arg.substr(nameStart, nameEnd - nameStart); }
     std::string_view valueIn(std::string_view arg) const { return arg.substr(valueStart); }
     ///@}

@@ -17,7 +17,7 @@ enum class ValueSource {
     /// From the same argument.
     sameArgument,
     nextArgument,
-    // Behind these, the argument is refused.
+    // From here on, the argument is refused.
     /// It takes none, and the argument has one.
     unwanted,
     /// A switch, and the argument has a value.

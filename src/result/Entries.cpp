@@ -10,7 +10,7 @@ namespace {
 
 constexpr std::size_t typicalNames = 48;
 
-// Data that an argument gave has none.
+// Data of an argument has no default.
 Entries::Default defaultIn(const OptionData& data) {
     const variant_t text = data.defaultText.empty() ? variant_t() : variant_t(data.defaultText.c_str());
     return {text, data.defaultValue, data.defaultPosition};
@@ -30,7 +30,7 @@ Entries::~Entries() {
     }
 }
 
-// Makes a group of `parts`, which goes with the entries.
+// Makes a group in the arena. The destructor of the entries ends it.
 template <class... Parts>
 Entries::Group& Entries::addGroup(Parts&&... parts) {
     void* const memory = m_memory.take(sizeof(Group), alignof(Group));
@@ -54,7 +54,7 @@ void Entries::store(const Names& names, const OptionData& data) {
     }
 }
 
-// A name that stands twice among them is in the group already.
+// A name that is repeated among `names` is in the group already.
 void Entries::storeFirst(NameIndex::Entry& firstName, const Names& names, const OptionData& data) {
     Group& group = addGroup(m_memory, m_entries.size());
     append(group, data);

@@ -18,9 +18,9 @@ namespace tarv_3_3::internal {
 
 /// What a result has stored: a map from option names to entries. It only grows, and an entry keeps its index.
 ///
-/// Each name has occurrences and values of its own, as far as anybody can see. Names that came together, with
-/// an occurrence or a default of one option, are a group, which has them in common. They are copied on write:
-/// when something is stored under some names of a group and not under the others.
+/// A query sees separate occurrences and values for each name. To save memory, names that were stored
+/// together, by an occurrence or a default of one option, share them: they form a group. A group is copied on
+/// write, that is, when something is stored under some of its names only.
 class Entries {
     struct EntryIndex {
         std::size_t index = noEntry;
@@ -28,7 +28,7 @@ class Entries {
     using NameIndex = TextMap<EntryIndex>;
 
 public:
-    /// What was given to the names of a group.
+    /// The occurrences and values that one or more names share.
     struct Group {
         Group(Arena& memory, std::size_t first) : positions(memory), values(memory), firstEntry(first) {}
 
@@ -36,14 +36,14 @@ public:
         SmallVector<int> positions;
         /// The values of all occurrences, in the order stored.
         SmallVector<StoredValue> values;
-        /// Whether every position index, of both lists, is above the one stored before. It is unless a
-        /// handler parses into the same result while it is told of an occurrence, or the counter of the
-        /// process has wrapped around.
+        /// Whether the position indices of both lists were stored in ascending order. They were not if a
+        /// handler parsed into the same result in the middle of an event, or if the process-wide counter has
+        /// wrapped around.
         bool ascends = true;
         int lastPosition = INT_MIN;
         ///@{
-        /// Its names are those of `nameCount` entries, one behind the other. A group that no entry refers to
-        /// (memory ran out, or another one took its place) has none, or has names that it gave away.
+        /// The entries of its names: `nameCount` entries from `firstEntry` on. Meaningless for a group that
+        /// no entry refers to, which is left where memory ran out or all names moved to another group.
         std::size_t firstEntry;
         std::size_t nameCount = 0;
         ///@}
@@ -66,10 +66,10 @@ public:
         /// Lies in the memory of the entries.
         HashedText name() const { return m_name->text(); }
 
-        /// What was given to the name; that of other entries as well, where they are a group.
+        /// The group of the name, which other entries may share.
         const Group& group() const { return *m_group; }
 
-        /// Of the name alone.
+        /// The default of this name. Names of one group may have different ones.
         Default byDefault;
 
     private:
@@ -82,15 +82,15 @@ public:
     /// The index of a name that has no entry.
     static constexpr std::size_t noEntry = std::numeric_limits<std::size_t>::max();
 
-    /// Everything goes with `memory`, which takes nothing back before.
+    /// All memory comes from `memory`, which must outlive the entries.
     explicit Entries(Arena& memory);
     Entries(const Entries&) = delete;
     Entries& operator=(const Entries&) = delete;
     ~Entries();
 
-    /// Records one occurrence under each of `names`. The first one alone decides whether it is the
-    /// option's first: then `data` replaces what the other names have; else it is appended, apart from
-    /// its default. Throws `std::out_of_range` when there are no names.
+    /// Records one occurrence under each of `names`. If the first name has no entry yet, `data` replaces what
+    /// the other names have. Otherwise it is appended to what each name has, without its default. Throws
+    /// `std::out_of_range` when there are no names.
     void store(const Names& names, const OptionData& data);
 
     /// Gives each of `names` the default that a call of `makeDefault` returns for it.
@@ -128,7 +128,8 @@ private:
     Arena& m_memory;
     List m_entries;
     Group* m_lastGroup = nullptr;
-    /// Has every name of an entry, and may have names without one, since memory ran out.
+    /// Maps each name to the index of its entry. A name may lack an entry if memory ran out while it was
+    /// stored.
     NameIndex m_names;
 };
 

@@ -95,7 +95,7 @@ Value Iteration::next() {
 Value Iteration::nextValue() {
     const auto& values = group().values;
     m_value = firstNotBelow(group(), m_value, m_lowerBound);
-    // The upper bound is inclusive here, exclusive where an iteration starts.
+    // Here the upper bound is inclusive. Where an iteration starts, it is exclusive.
     if (m_value >= values.size() || values[m_value].position > m_upperBound) {
         return Value();
     }

@@ -12,18 +12,18 @@ class Garbage;
 
 namespace internal {
 
-/// An iteration over what a result has under one name. Every query by a name begins another one.
+/// An iteration over what a result has under one name. Every query by name begins a new one.
 ///
-/// Its cursors are indexes of lists that a further parse may lengthen, so it may go on after one. A parse may
-/// also give the name another list, a shorter one, where two options share the name: a cursor may lie behind
-/// its end.
+/// Its cursors are indexes, so it can go on after a further parse, which may lengthen the lists. Where two
+/// options share the name, a parse may also replace its list by a shorter one. So a cursor may lie behind the
+/// end of a list.
 class Iteration {
 public:
     /// The texts that it gives out are kept by `garbage`. Both must outlive it.
     Iteration(const Entries& entries, Garbage& garbage) : m_entries(entries), m_garbage(garbage) {}
 
-    /// Goes to the first occurrence of `name` at a position in [lo, hi); where the name was not given, to its
-    /// default, wherever that is. Returns whether there is one.
+    /// Goes to the first occurrence of `name` at a position in [lo, hi). If the name was not given, goes to
+    /// its default, whatever its position. Returns whether there is one of these.
     bool find(std::string_view name, int lo, int hi);
 
     /// The default that `find` went to, null when it went to an occurrence or found nothing.
@@ -32,21 +32,22 @@ public:
     /// `find`, and what it found: the default, or what `next` gives.
     Value first(std::string_view name, int lo, int hi);
 
-    /// The next value; of an option without values, the next occurrence, which has no text and the null kind.
-    /// `valueMissing` behind the last one. A default is given only when it is due.
+    /// The next value. If the option has no values, its next occurrence, without a text and of the null kind.
+    /// `valueMissing` behind the last one. A default is returned only after `makeDefaultDue`.
     Value next();
 
-    /// The position of the next occurrence, `noPosition` behind the last one. Takes no notice of the range.
+    /// The position of the next occurrence, also outside the range; `noPosition` behind the last one.
     int nextPosition();
 
-    /// Makes the next call of `next` give the default that `find` went to.
+    /// Makes the next call of `next` return the default that `find` went to.
     void makeDefaultDue() {
         m_lowerBound = noPosition;
         m_upperBound = noPosition;
     }
 
 private:
-    /// A range that begins and ends where no occurrence is stands for this, also when a host asks for it.
+    /// The range [noPosition, noPosition) marks that a default is due. A host that asks for that range gets
+    /// the default once more, too.
     bool isDefaultDue() const { return m_lowerBound == noPosition && m_upperBound == noPosition; }
     bool hasEntry() const { return m_entry != Entries::noEntry; }
     const Entries::Group& group() const { return m_entries[m_entry].group(); }
@@ -59,7 +60,7 @@ private:
     /// The index of the entry; `noEntry` when the last query found nothing.
     std::size_t m_entry = Entries::noEntry;
     ///@{
-    /// Indexes of the next value and the next occurrence.
+    /// The indexes of the next value and of the next occurrence.
     std::size_t m_value = 0;
     std::size_t m_occurrence = 0;
     ///@}

@@ -8,7 +8,7 @@ IParseResult::~IParseResult() = default;
 
 namespace {
 
-// The cursor of plain arguments before they were asked for: past any end.
+// The cursor of plain arguments before the first query. It lies behind the end of any list.
 constexpr auto notStarted = static_cast<std::size_t>(-1);
 
 template <class Query>
@@ -22,8 +22,8 @@ Value valueOf(Query query) {
     }
 }
 
-// What a query found, in the form of the overloads with strings: an occurrence without a value leaves `text`
-// and `value` as they are.
+// Hands out what a query found through out-parameters. An occurrence without a value leaves `text` and
+// `value` as they are.
 int handOut(const Value& found, char** text, variant_t& value, int& position) {
     if (found.status == valueFound) {
         if (found.text != nullptr) {

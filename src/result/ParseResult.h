@@ -32,10 +32,10 @@ public:
     /// alone.
     int applyDefault(std::vector<OptionDescription>& options, std::string& message);
 
-    /// Notes that a parser, known by a number of its own, is about to store what it has declared.
+    /// To be called before a parser stores something. `number` identifies the parser.
     void noteParser(std::uint64_t number);
 
-    /// Whether all that is stored comes from that parser.
+    /// Whether everything stored comes from the parser with that number.
     bool isOnlyFrom(std::uint64_t number) const { return m_parser == number; }
 
     /// Adds an argument that stood behind "--".
@@ -52,9 +52,9 @@ public:
     int getFirstArgument(const char** text) override;
     int getNextArgument(const char** text) override;
 
-    /// The queries behind the virtual ones. They return a `ValueStatus`; on `valueFound`, `*text`
-    /// is a text kept by this result, or as it was when the option takes no value, and so is
-    /// `value`. A null `text` asks for the presence alone.
+    /// The same queries with other parameters. They return a `ValueStatus`. On `valueFound`, `*text` is a
+    /// text that this result keeps, and `value` the converted value; both stay as they were when the option
+    /// takes no value. A null `text` asks for the presence only.
     int get(const std::string& name, char** text, variant_t& value, int lo, int hi, int& position);
     int next(const std::string& name, char** text, variant_t& value, int& position);
     int getFirstArgument(std::string& text);
@@ -63,7 +63,7 @@ public:
 private:
     TARV_HIDDEN Value first(std::string_view name, int lo, int hi);
 
-    /// Holds the entries and their lists, which only go with the result.
+    /// Memory of the entries and their lists. It is freed with the result.
     internal::ArenaWithRoom<6144> m_memory;
     internal::Entries m_entries;
     internal::Iteration m_iteration;
@@ -71,8 +71,8 @@ private:
     /// What stood behind "--", with its position indices.
     std::vector<std::pair<std::string, int>> m_freeArguments;
     std::size_t m_freeArgumentCursor;
-    /// The number of the only parser that has stored something here; `severalParsers` for more than one, or
-    /// when somebody else stored the first entry.
+    /// The number of the parser that stored everything here. `severalParsers` if there were several, or if
+    /// an entry was stored before the first call of `noteParser`.
     std::uint64_t m_parser = 0;
 };
 

@@ -11,10 +11,10 @@
 
 namespace tarv_3_3::internal {
 
-/// One value as a result keeps it, in 32 bytes: there may be very many.
+/// One value as a result keeps it. It takes 32 bytes, since there may be millions.
 ///
-/// Its text lies in here, if it is as short as nearly every number, else in `value`, if that is the same
-/// text, else in the arena.
+/// Where its text lies: in `value`, if that is the same text; else in this object, if it has at most 11
+/// bytes; else in the arena.
 class StoredValue {
 public:
     /// Copies `given`, with its text into `memory` where that is needed.
@@ -46,7 +46,7 @@ public:
     int position;
 
 private:
-    /// The last character of `m_text`, unless that ends in the zero of a text.
+    /// The last byte of `m_text` says where the text lies. It is 0 for a text in `m_text` itself.
     enum Place : char { inVariant = 1, inArena = 2 };
 
     static const char* keep(const std::string& text, Arena& memory) {

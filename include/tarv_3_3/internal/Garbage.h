@@ -7,8 +7,8 @@
 
 namespace tarv_3_3 {
 
-/// Keeps copies of texts alive for whoever received them as C strings. Each parser and each result
-/// owns one; it only grows, and goes with its owner.
+/// Keeps copies of the texts that were handed out as C strings. Each parser and each result owns one. It only
+/// grows, and is destroyed with its owner.
 class TARV_API Garbage {
 public:
     Garbage();

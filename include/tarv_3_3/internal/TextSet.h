@@ -2,7 +2,7 @@
 
 namespace tarv_3_3::internal {
 
-/// A set of texts with the memory that they lie in. What it is, only the library knows.
+/// A set of texts with the memory that they lie in. Defined inside the library.
 class TextSet;
 
 } // namespace tarv_3_3::internal
