@@ -47,41 +47,4 @@ TEST(Handlers, SeeCompletedAndConvertedValues) {
     EXPECT_EQ(line.result->get("size").position, keeper.position);
 }
 
-TEST(Handlers, ThatRefuseAValueEndTheParseAndTheRound) {
-    CommandLine line;
-    line.parser->option("level", "", tarv::vtString);
-    EventLog handlers[3] = {EventLog(), EventLog("bad"), EventLog()};
-    for (EventLog& handler : handlers) {
-        line.parser->addHandler(&handler);
-    }
-    EXPECT_EQ(line.parse({"--level=good,bad,other", "x"}), 1);
-    EXPECT_EQ(line.error(),
-              "Value 'good,bad,other' is not valid for option 'level' in argument '--level=good,bad,other'");
-    EXPECT_EQ(handlers[0].events, "option level; value level=good; value level=bad");
-    EXPECT_EQ(handlers[1].events, "option level; value level=good; value level=bad");
-    EXPECT_EQ(handlers[2].events, "option level; value level=good");
-    EXPECT_FALSE(line.result->present("level"));
-}
-
-TEST(Handlers, ThatRefuseAnUnknownArgumentHaveItDropped) {
-    CommandLine line(tarv::flagRejectUnknown);
-    EventLog handlers[2] = {EventLog("x"), EventLog()};
-    line.parser->addHandler(&handlers[1]);
-    line.parser->addHandler(&handlers[0]);
-    EXPECT_EQ(line.parse({"x"}), 0);
-    EXPECT_EQ(line.parse({"x", "y"}), 2);
-    EXPECT_EQ(line.error(), "Unknown option: y");
-    EXPECT_EQ(handlers[0].events, "unknown x; unknown x; unknown y");
-    EXPECT_EQ(handlers[1].events, "unknown x; unknown x; unknown y");
-}
-
-TEST(Handlers, HaveDefaultsThatAcceptEverything) {
-    CommandLine line(tarv::flagRejectUnknown);
-    line.parser->option("level", "", tarv::vtString);
-    tarv::EventHandler handler;
-    line.parser->addHandler(&handler);
-    EXPECT_EQ(line.parse({"--level=1"}), 0);
-    EXPECT_EQ(line.parse({"x"}), 2);
-}
-
 } // namespace

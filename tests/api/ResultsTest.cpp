@@ -6,14 +6,6 @@ namespace tarv = tarv_3_3;
 
 namespace {
 
-void expectMissing(const tarv::Value& value) {
-    EXPECT_EQ(value.status, 1);
-    EXPECT_EQ(value.text, nullptr);
-    EXPECT_EQ(value.as<const char*>(), nullptr);
-    EXPECT_EQ(value.position, 2147483647);
-    EXPECT_EQ(value.value.type(), tarv::vtNull);
-}
-
 /// `level` and `l` with the default 7, `size` with the default 8, the switch `color`, `quiet` without
 /// values, the positional `file`.
 class Results : public ::testing::Test {
@@ -29,32 +21,6 @@ protected:
     CommandLine line;
     tarv::IParseResult& result = *line.result;
 };
-
-TEST_F(Results, AreEmptyBeforeAnyParse) {
-    const char* text = "untouched";
-    EXPECT_FALSE(result.present("level"));
-    expectMissing(result.get("level"));
-    expectMissing(result.next("level"));
-    EXPECT_EQ(result.nextPosition(), 2147483647);
-    EXPECT_EQ(result.getFirstArgument(&text), 1);
-    EXPECT_EQ(result.getNextArgument(&text), 1);
-    EXPECT_STREQ(text, "untouched");
-    expectMissing(tarv::getLastValue(&result, "level"));
-}
-
-TEST_F(Results, AreMissingForNamesThatWereNotGiven) {
-    EXPECT_EQ(line.parse({"--lev=1", "--no-color"}), 0);
-    for (const char* const name : {"lev", "--level", "no-color", "quiet", "", "undeclared"}) {
-        SCOPED_TRACE(name);
-        EXPECT_FALSE(result.present(name));
-        expectMissing(result.get(name));
-        expectMissing(result.next(name));
-    }
-    EXPECT_FALSE(result.present(nullptr));
-    expectMissing(result.get(nullptr));
-    expectMissing(tarv::getLastValue(&result, nullptr));
-    expectMissing(tarv::getLastValue(nullptr, "level"));
-}
 
 TEST_F(Results, HoldSwitchesAsOneAndZero) {
     EXPECT_EQ(line.parse({"--color", "--no-color", "--col"}), 0);
@@ -97,49 +63,6 @@ TEST_F(Results, AreCutAtPositionsOfOtherThings) {
     EXPECT_FALSE(result.present("quiet", a, b));
 }
 
-TEST_F(Results, StartBelowTheUpperBoundAndGoOnUpToIt) {
-    EXPECT_EQ(line.parse({"-l=1,2", "-l=3"}), 0);
-    result.present("level");
-    const int first = result.nextPosition();
-    EXPECT_EQ(line.values("level", first, first), "");
-    EXPECT_EQ(line.values("level", first, first + 1), "[1]");
-    EXPECT_EQ(line.values("level", first, first + 2), "[1][2]");
-    EXPECT_EQ(line.values("level", first, first + 3), "[1][2]");
-    EXPECT_EQ(line.values("level", first, first + 4), "[1][2][3]");
-}
-
-TEST_F(Results, YieldADefaultOnceWhateverTheRange) {
-    EXPECT_EQ(line.parse({"--quiet"}), 0);
-    EXPECT_TRUE(result.present("size", 0, 0));
-    EXPECT_STREQ(result.next("size").text, "8");
-    expectMissing(result.next("size"));
-    const tarv::Value value = result.get("size", 5, 4);
-    EXPECT_STREQ(value.text, "8");
-    EXPECT_EQ(value.value, tarv::variant_t(8));
-    expectMissing(result.next("size"));
-    EXPECT_STREQ(tarv::getLastValue(&result, "size", 5, 4).text, "8");
-}
-
-TEST_F(Results, LoseADefaultOnceTheOptionIsGiven) {
-    EXPECT_EQ(line.parse({"--level=1", "a"}), 0);
-    EXPECT_EQ(line.values("level"), "[1]");
-    EXPECT_EQ(line.values("level", result.get("file").position), "");
-    EXPECT_FALSE(result.present("level", result.get("file").position));
-}
-
-TEST_F(Results, OfAnOptionWithoutValuesAreItsOccurrences) {
-    EXPECT_EQ(line.parse({"-q", "a", "-q", "-q"}), 0);
-    const tarv::Value first = result.get("quiet");
-    EXPECT_EQ(first.status, 0);
-    EXPECT_EQ(first.text, nullptr);
-    EXPECT_EQ(first.value.type(), tarv::vtNull);
-    EXPECT_EQ(result.nextPosition(), first.position + 3);
-    EXPECT_EQ(result.next("quiet").position, first.position + 4);
-    expectMissing(result.next("quiet"));
-    EXPECT_EQ(line.values("quiet", 0, first.position + 1), "[][][]");
-    EXPECT_EQ(tarv::getLastValue(&result, "quiet").position, first.position + 4);
-}
-
 TEST_F(Results, OfAnEmptyPositionalArgumentHaveNoValue) {
     EXPECT_EQ(line.parse({"", "a", ""}), 0);
     EXPECT_EQ(line.values("file"), "[a]");
@@ -148,32 +71,6 @@ TEST_F(Results, OfAnEmptyPositionalArgumentHaveNoValue) {
     EXPECT_EQ(result.nextPosition(), first + 1);
     EXPECT_EQ(result.nextPosition(), first + 3);
     EXPECT_EQ(result.nextPosition(), 2147483647);
-}
-
-TEST_F(Results, RememberOneIteration) {
-    EXPECT_EQ(line.parse({"-l=1,2", "-q"}), 0);
-    EXPECT_STREQ(result.get("level").text, "1");
-    expectMissing(result.get("undeclared"));
-    expectMissing(result.next("level"));
-    EXPECT_EQ(result.nextPosition(), 2147483647);
-    EXPECT_STREQ(result.get("level").text, "1");
-    EXPECT_STREQ(result.next("size").text, "2");
-    EXPECT_TRUE(result.present("quiet"));
-    EXPECT_EQ(result.next("level").text, nullptr);
-}
-
-TEST_F(Results, YieldPlainArgumentsFromTheFirstAgain) {
-    EXPECT_EQ(line.parse({"a", "--", "-b", "", "c"}), 0);
-    EXPECT_EQ(line.plainArguments(), "[-b][][c]");
-    const char* text = nullptr;
-    EXPECT_EQ(result.getFirstArgument(&text), 0);
-    EXPECT_STREQ(text, "-b");
-    EXPECT_EQ(line.values("file"), "[a]");
-    EXPECT_EQ(result.getNextArgument(&text), 0);
-    EXPECT_STREQ(text, "");
-    EXPECT_EQ(result.getNextArgument(&text), 0);
-    EXPECT_EQ(result.getNextArgument(&text), 1);
-    EXPECT_STREQ(text, "c");
 }
 
 TEST_F(Results, KeepEveryTextThatTheyHandedOut) {

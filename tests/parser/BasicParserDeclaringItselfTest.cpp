@@ -72,37 +72,25 @@ private:
 };
 
 struct DeclaringItself : testing::TestWithParam<DeclaringParser::When> {
-    int parse(DeclaringParser& parser, std::vector<const char*> arguments) {
-        arguments.insert(arguments.begin(), "program");
-        return parser.parseArgsVector(static_cast<int>(arguments.size()), arguments.data(), &result);
-    }
-
-    std::string stored() const {
-        std::string line;
-        for (const internal::Entries::Entry* const entry : result.entries().listByName()) {
-            line += (line.empty() ? "" : " ") + describe(*entry, positions);
-        }
-        return line;
-    }
-
-    const RelativePositions positions{};
-    ParseResult result;
+    using Parsing = ParsingWith<DeclaringParser>;
 };
 
 TEST_P(DeclaringItself, BindsTheArgumentAtHandAndTheNext) {
-    DeclaringParser parser(0, GetParam());
+    Parsing parsing(0, GetParam());
+    DeclaringParser& parser = parsing.parser;
     parser.option("list,l", "", vtString, "").tokenize(';');
-    EXPECT_EQ(parse(parser, {"unknown", "--list=a;b", "--list=c"}), parseOk);
+    EXPECT_EQ(parsing.parse({"unknown", "--list=a;b", "--list=c"}), parseOk);
     EXPECT_EQ(parser.events,
               "unknown unknown; option list; value list=a; value list=b; option list; value list=c");
-    EXPECT_EQ(stored(), "l@1@4=\"a\"@2,\"b\"@3,\"c\"@5 list@1@4=\"a\"@2,\"b\"@3,\"c\"@5");
-    EXPECT_EQ(parse(parser, {"--declared99=x"}), parseOk);
+    EXPECT_EQ(parsing.stored(), "l@1@4=\"a\"@2,\"b\"@3,\"c\"@5 list@1@4=\"a\"@2,\"b\"@3,\"c\"@5");
+    EXPECT_EQ(parsing.parse({"--declared99=x"}), parseOk);
 }
 
 TEST_P(DeclaringItself, SaysWhatIsWrongWithAValueBehindIt) {
-    DeclaringParser parser(0, GetParam());
+    Parsing parsing(0, GetParam());
+    DeclaringParser& parser = parsing.parser;
     parser.option("number,n", "", vtInt32, "").allowValue(1).allowValue(2);
-    EXPECT_EQ(parse(parser, {"unknown", "--number=1,3"}), parseFailed);
+    EXPECT_EQ(parsing.parse({"unknown", "--number=1,3"}), parseFailed);
     EXPECT_STREQ(parser.getErrorDesc(),
                  "Value validation problem in argument '--number=1,3': Option 'number' "
                  "does not allow value '3'. Possible values follows: '1', '2'");
@@ -111,30 +99,30 @@ TEST_P(DeclaringItself, SaysWhatIsWrongWithAValueBehindIt) {
 TEST_P(DeclaringItself, BindsPositionalArguments) {
     for (const int flags : {0, int(flagPositionalTakesRest)}) {
         SCOPED_TRACE(flags);
-        DeclaringParser parser(flags, GetParam());
+        Parsing parsing(flags, GetParam());
+        DeclaringParser& parser = parsing.parser;
         parser.option("files", "", vtString, "").positional();
-        ParseResult files;
-        const char* const argv[] = {"program", "a,b", "c", "veto"};
-        EXPECT_EQ(parser.parseArgsVector(4, argv, &files), parseVetoed);
+        EXPECT_EQ(parsing.parse({"a,b", "c", "veto"}), parseVetoed);
         EXPECT_EQ(parser.events, "option files; value files=a; value files=b; option files; value files=c; "
                                  "option files; value files=veto");
         EXPECT_STREQ(parser.getErrorDesc(),
                      "Value 'veto' is not valid for option 'files' in argument 'veto'");
-        EXPECT_STREQ(files.get("files", 0, noPosition).text, "a");
+        EXPECT_STREQ(parsing.result.get("files", 0, noPosition).text, "a");
     }
 }
 
 TEST_P(DeclaringItself, BindsPlainArguments) {
-    DeclaringParser parser(flagPlainArePositional, GetParam());
+    Parsing parsing(flagPlainArePositional, GetParam());
+    DeclaringParser& parser = parsing.parser;
     parser.option("files", "", vtString, "").positional().allowValue("text").allowValue("table");
-    EXPECT_EQ(parse(parser, {"--", "text,te", "ta", "none"}), parseFailed);
+    EXPECT_EQ(parsing.parse({"--", "text,te", "ta", "none"}), parseFailed);
     EXPECT_EQ(
         parser.events,
         "option files; value files=text; value files=text; option files; value files=table; option files");
     EXPECT_STREQ(parser.getErrorDesc(),
                  "Value validation problem in argument 'none': Option 'files' does not allow "
                  "value 'none'. Possible values follows: 'text', 'table'");
-    EXPECT_EQ(stored(), "files@2@6=\"text\"@3,\"text\"@4,\"table\"@7");
+    EXPECT_EQ(parsing.stored(), "files@2@6=\"text\"@3,\"text\"@4,\"table\"@7");
 }
 
 std::string nameOf(const testing::TestParamInfo<DeclaringParser::When>& event) {

@@ -112,23 +112,18 @@ TEST(RefiningParser, RestrictsTheNextArgumentAndNotTheRestOfThisOne) {
     const struct {
         const char* kind;
         int flags;
-        std::vector<const char*> line;
+        std::vector<const char*> arguments;
         const char* stored;
     } rows[] = {
-        {"named", 0, {"program", "--list=a,b", "--list=b"}, "list@1=\"a\"@2,\"b\"@3"},
-        {"positional", 0, {"program", "a,b", "b"}, "list@1=\"a\"@2,\"b\"@3"},
-        {"plain", 0x04, {"program", "--", "a,b", "b"}, "list@2=\"a\"@3,\"b\"@4"},
+        {"named", 0, {"--list=a,b", "--list=b"}, "list@1=\"a\"@2,\"b\"@3"},
+        {"positional", 0, {"a,b", "b"}, "list@1=\"a\"@2,\"b\"@3"},
+        {"plain", 0x04, {"--", "a,b", "b"}, "list@2=\"a\"@3,\"b\"@4"},
     };
     for (const auto& row : rows) {
         SCOPED_TRACE(row.kind);
-        const RelativePositions positions;
-        RefiningParser parser(row.flags);
-        ParseResult result;
-        const int count = static_cast<int>(row.line.size());
-        EXPECT_EQ(parser.parseArgsVector(count, row.line.data(), &result), 2);
-        const std::vector<const internal::Entries::Entry*> stored = result.entries().listByName();
-        ASSERT_EQ(stored.size(), 1U);
-        EXPECT_EQ(describe(*stored[0], positions), row.stored);
+        ParsingWith<RefiningParser> parsing(row.flags);
+        EXPECT_EQ(parsing.parse(row.arguments), 2);
+        EXPECT_EQ(parsing.stored(), row.stored);
     }
 }
 

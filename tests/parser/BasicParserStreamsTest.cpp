@@ -159,12 +159,6 @@ TEST(ParseStream, StoresPlainArgumentsBehindTheMarker) {
     EXPECT_EQ(parsing.plainArguments(), "[--a b][c]");
 }
 
-TEST(ParseStream, ParsesTheTextMinusOneAsAQuestionMark) {
-    Parsing parsing(0x02);
-    EXPECT_EQ(parsing.parseStream("-1"), 2);
-    EXPECT_EQ(parsing.error(), "Unknown option: ?");
-}
-
 TEST(ParseStream, FailsAsACommandLineDoes) {
     Parsing parsing(0x02);
     parsing.parser.option("level", "", vtInt32, "");

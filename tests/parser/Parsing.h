@@ -8,10 +8,13 @@
 #include "support/RelativePositions.h"
 #include "support/describe.h"
 
-/// A parser, the result that it parses into, and what is in that result as one line.
-class Parsing {
+/// A parser, the result that it parses into, and what is in that result as one line. The parser may be of a
+/// class derived from the library's.
+template <class Parser>
+class ParsingWith {
 public:
-    explicit Parsing(int flags = 0) : parser(flags) {}
+    template <class... More>
+    explicit ParsingWith(int flags = 0, More... more) : parser(flags, more...) {}
 
     /// Parses the arguments of a command line; the program's name goes in front.
     int parse(std::vector<const char*> arguments) {
@@ -44,6 +47,8 @@ public:
     std::string error() { return parser.getErrorDesc(); }
 
     const RelativePositions positions;
-    tarv_3_3::BasicParser parser;
+    Parser parser;
     tarv_3_3::ParseResult result;
 };
+
+using Parsing = ParsingWith<tarv_3_3::BasicParser>;

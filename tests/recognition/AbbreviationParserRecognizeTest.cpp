@@ -94,35 +94,6 @@ TEST_F(AbbreviationParserRecognize, MatchesEmptyWordsInsideANameAsPrefixes) {
     EXPECT_EQ(run({"--o--f=x"}), "not taken");
 }
 
-TEST(AbbreviationParserScore, AllowsAnyPrefixOfEveryWord) {
-    const struct {
-        const char* argument;
-        const char* outcome;
-    } rows[] = {
-        {"--o-f=x", "0: output-file@1=\"x\"@2"},
-        {"--out-file=x", "0: output-file@1=\"x\"@2"},
-        {"--output-f=x", "0: output-file@1=\"x\"@2"},
-        {"--output-file=x", "0: output-file@1=\"x\"@2"},
-        {"--output=x", "not taken"},
-        {"--o=x", "not taken"},
-        {"--o-f-x=x", "not taken"},
-        {"--outputfile=x", "not taken"},
-        {"--o-x=x", "not taken"},
-        {"--x-f=x", "not taken"},
-        {"--output-files=x", "not taken"},
-        {"--file-output=x", "not taken"},
-        {"--Out-file=x", "not taken"},
-        {"--o\u2013f=x", "not taken"},
-    };
-    for (const auto& row : rows) {
-        SCOPED_TRACE(row.argument);
-        Recognition<AbbreviationParser> one;
-        one.declare("output-file", vtString);
-        one.declare("verbose", vtBool);
-        EXPECT_EQ(one.run({row.argument}), row.outcome);
-    }
-}
-
 TEST_F(AbbreviationParserRecognize, SetsTheIndexOfTheOptionItFound) {
     declare("level", vtInt32);
     declare("verbose,v", vtBool).synonym("talkative");
@@ -193,13 +164,6 @@ TEST(AbbreviationParserFirstByte, OfANameMayBeAnyThatANameCanHave) {
     }
 }
 
-TEST(AbbreviationParserFirstByte, IsLookedForInSynonymsToo) {
-    Recognition<AbbreviationParser> one;
-    one.declare("level,d", vtInt32).synonym("grade");
-    EXPECT_EQ(one.run({"-d=1"}), "0: level@1=\"1\"@2");
-    EXPECT_EQ(one.run({"--gr=2"}), "0: level@1=\"1\"@2 level@3=\"2\"@4");
-}
-
 TEST(AbbreviationParserFirstByte, MayBelongToADashThatIsNotAscii) {
     Recognition<AbbreviationParser> one;
     one.declare("\u2013level", vtInt32);
@@ -248,15 +212,6 @@ TEST(AbbreviationParserScore, IsTwoForAFullWordAndOneForAPrefix) {
          "--out-f=x",
          "2: Ambiguous option 'out-f' in argument: '--out-f=x', could be: 'output-f', 'out-file' |--out-f=x"},
         {{"a-bb-cc", "aa-b-c"}, {}, "--a-b-c=x", "0: aa-b-c@1=\"x\"@2"},
-    });
-}
-
-TEST(AbbreviationParserScore, OfANameWithMoreWordsNeverWins) {
-    expectOutcomes({
-        {{"verbose-mode", "verbosity"}, {}, "--verbos=x", "0: verbosity@1=\"x\"@2"},
-        {{"verbose-mode", "verbosely"}, {}, "--verbose=x", "0: verbosely@1=\"x\"@2"},
-        {{"verbose-mode"}, {}, "--verbose=x", "not taken"},
-        {{"no-verbose-mode"}, {"verbose"}, "--no-verb", "0: verbose@1=\"0\"@2"},
     });
 }
 

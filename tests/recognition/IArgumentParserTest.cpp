@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <limits>
+#include <stdexcept>
 
 #include <cstdlib>
 
@@ -237,28 +238,13 @@ TEST(ValueVeto, OfTheSecondPieceStoresNothing) {
     EXPECT_EQ(binding.positions.taken(), 3);
 }
 
-/// Throws at the value "b".
-class ThrowingHandler : public EventHandler {
-public:
-    bool onValueParse(const char*, const Value& value) override {
-        return value.text != std::string("b") ? true : throw 7;
-    }
-};
-
 TEST(ValueBinding, StoresNothingOfAListWhoseHandlerThrewNorInTheNextOne) {
     ValueBinding binding;
     binding.declare("files", vtString);
-    const OptionDescription& files = binding.registry.m_options.front();
-    ThrowingHandler handler;
-    ValueBinder binder(&handler, nullptr, 0);
-    std::vector<std::string> args = {"--files"};
-    std::string message;
-    std::string list = "a,b";
-    EXPECT_THROW(binder.parseValueAndAddOption(list, message, files, args, &binding.collector), int);
+    binding.handler.thrownAt = "b";
+    EXPECT_THROW(binding.bind("a,b", "--files"), std::runtime_error);
     EXPECT_EQ(binding.collector.stored, "");
-    std::string none;
-    EXPECT_EQ(binder.parseValueAndAddOption(none, message, files, args, &binding.collector), 0);
-    EXPECT_EQ(binding.collector.stored, "files@4");
+    EXPECT_EQ(binding.bind("", "--files"), "0: files@4");
 }
 
 TEST(ValueBinding, DoesNotExamineWhatStoreReturns) {

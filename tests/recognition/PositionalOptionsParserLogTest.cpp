@@ -80,21 +80,6 @@ TEST(PositionalLog, OfAFailureEndsWithTheMessage) {
         "'abc' value, requires a type 'integer' here.\n");
 }
 
-TEST(PositionalLog, OfAVetoHasNoColonBehindTheName) {
-    Recognition<PositionalOptionsParser> positional;
-    positional.declare("files", vtString).positional().tokenize(0);
-    positional.handler.refusedValues = {"a"};
-    EXPECT_EQ(
-        traceOf(positional, {"a"}),
-        "PositionalOptionsParser: recognizing argument 'a'\n"
-        "PositionalOptionsParser: parsing argument 'a'\n"
-        "PositionalOptionsParser: option is 'files'\n"
-        "PositionalOptionsParser: adding values to result container:\n"
-        "PositionalOptionsParser: not using tokenizer\n"
-        "PositionalOptionsParserValue 'a' is not valid for option 'files' in argument 'a' One of the handler "
-        "signaled the value is not valid.\n");
-}
-
 TEST(PositionalLog, ShowsAnArgumentAsItWasGivenWhenItIsRemoved) {
     Recognition<PositionalOptionsParser> positional;
     positional.declare("shape", vtString).allowValue("round").tokenize(0).positional();

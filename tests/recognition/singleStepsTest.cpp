@@ -128,35 +128,9 @@ TEST_F(AbbreviationParserMatch, ScoresEachWordOfACandidate) {
         int score; // 0: no match
         bool sameWordCount;
     } rows[] = {
-        {"verbose", "verbose", 2, true},
-        {"verb", "verbose", 1, true},
-        {"v", "v", 2, true},
-        {"verbosely", "verbose", 0, true},
-        {"x", "verbose", 0, true},
-        {"V", "verbose", 0, true},
-        {"erb", "verbose", 0, true},
-        {"o-f", "output-file", 2, true},
-        {"output-f", "output-file", 3, true},
-        {"o-file", "output-file", 3, true},
-        {"output-file", "output-file", 4, true},
-        {"output-x", "output-file", 0, true},
-        {"x-file", "output-file", 0, true},
-        {"output", "output-file", 2, false},
-        {"o", "output-file", 1, false},
-        {"o-f", "output-file-name", 2, false},
-        {"o-f-x", "output-file", 0, false},
-        {"output-file", "output", 0, false},
-        {"output-", "output", 0, false},
-        {"", "verbose", 1, true},
-        {"", "", 2, true},
-        {"", "output-file", 1, false},
-        {"", "-x", 2, false},
-        {"-x", "-x", 4, true},
-        {"-x", "no-xray", 2, true},
-        {"a--b", "a--b", 6, true},
-        {"a--b", "a-c-b", 5, true},
-        {"a-c-b", "a--b", 0, true},
-        {"o-", "output-file", 2, true},
+        {"verb", "verbose", 1, true},       {"x", "verbose", 0, true},
+        {"o-file", "output-file", 3, true}, {"output", "output-file", 2, false},
+        {"o-f-x", "output-file", 0, false}, {"", "", 2, true},
     };
     for (const auto& row : rows) {
         SCOPED_TRACE(std::string(row.typed) + " against " + row.candidate);

@@ -1,12 +1,13 @@
 #pragma once
 
 #include <set>
+#include <stdexcept>
 #include <string>
 
 #include "support/RelativePositions.h"
 #include "tarv_3_3/EventHandler.h"
 
-/// Notes every event, and refuses what it is told to refuse.
+/// Notes every event; refuses, and throws at, what it is told to.
 class RecordingHandler : public tarv_3_3::EventHandler {
 public:
     explicit RecordingHandler(const RelativePositions& relative) : m_relative(relative) {}
@@ -20,6 +21,9 @@ public:
         note(std::string("value ") + name + "=\"" + value.text + "\"@" +
              std::to_string(m_relative(value.position)));
         lastValue = value.value;
+        if (value.text == thrownAt) {
+            throw std::runtime_error("thrown by a test");
+        }
         return refusedValues.count(value.text) == 0;
     }
 
@@ -32,6 +36,8 @@ public:
     std::string events;
     tarv_3_3::variant_t lastValue;
     std::set<std::string> refusedValues;
+    /// The value at which it throws.
+    std::string thrownAt = "no value";
     bool optionAnswer = true;
     bool unknownAnswer = true;
 
