@@ -71,25 +71,27 @@ public:
     ///@{
     /// The value: the last one given, all elements of a list, or the initial one. What is given to a list
     /// takes the place of its initial elements.
-    const T& operator*() const { return m_slot != nullptr ? *m_slot->target : nothing(); }
+    const T& operator*() const {
+        return m_state != nullptr ? *static_cast<const T*>(m_state->target) : nothing();
+    }
     const T* operator->() const { return &**this; }
     ///@}
 
     /// Whether somebody gave it: the command line, the environment or a settings file. A switch that was
     /// turned off is given as well, but counts as not given in every rule.
-    bool given() const { return m_slot != nullptr && m_slot->given != 0; }
+    bool given() const { return m_state != nullptr && m_state->given != 0; }
     /// How often it was given by the source that counts.
-    int count() const { return m_slot != nullptr ? m_slot->count : 0; }
+    int count() const { return m_state != nullptr ? m_state->count : 0; }
     /// Who gave it.
     Source source() const {
-        return m_slot != nullptr ? static_cast<Source>(m_slot->source) : Source::initial;
+        return m_state != nullptr ? static_cast<Source>(m_state->source) : Source::initial;
     }
     ///@{
     /// The index in `argv` of the last occurrence, or of the one with that number, from 0 on. -1 when
     /// there is none, or when it is not from the command line.
     int position() const { return position(count() - 1); }
     int position(int occurrence) const {
-        return 0 <= occurrence && occurrence < count() ? m_slot->positions[occurrence] : -1;
+        return 0 <= occurrence && occurrence < count() ? m_state->positions[occurrence] : -1;
     }
     ///@}
 
@@ -127,7 +129,7 @@ public:
     Handle check(const char* must, F accepts) const {
         static_assert(values::isCallable<bool, const F&, void(const Element&)>,
                       "tarv: a check takes the type of the option's elements, and returns a bool");
-        values::addCheck(m_slot, must, static_cast<F&&>(accepts));
+        values::addCheck<Element>(m_state, must, static_cast<F&&>(accepts));
         return *this;
     }
 
@@ -185,7 +187,7 @@ public:
     Handle completeWith(F completer) const {
         static_assert(values::isCallable<void, const F&, void(const char*, Candidates&)>,
                       "tarv: a completer takes a const char* and a Candidates&");
-        values::setCompleter<Candidates>(m_slot, static_cast<F&&>(completer));
+        values::setCompleter<Candidates>(m_state, static_cast<F&&>(completer));
         return *this;
     }
     /// How many arguments a positional list takes; `most` 0 for any number.
@@ -196,9 +198,9 @@ public:
     }
 
     /// @cond
-    explicit Handle(values::Slot<T>* slot) : m_slot(slot) {}
+    explicit Handle(engine::State* state) : m_state(state) {}
     engine::Option* option() const {
-        return m_slot != nullptr ? m_slot->option : nullptr;
+        return m_state != nullptr ? m_state->option : nullptr;
     }
 
 private:
@@ -211,7 +213,7 @@ private:
         return value;
     }
 
-    values::Slot<T>* m_slot = nullptr;
+    engine::State* m_state = nullptr;
     /// @endcond
 };
 
@@ -238,8 +240,8 @@ public:
     Handle<bool> flag(const char* names, const char* description) { return option<bool>(names, description); }
     /// Counts how often it is given: "-vvv" is three times.
     Handle<int> counter(const char* names, const char* description) {
-        auto* const slot = new (std::nothrow) values::Slot<int>(values::shapeForCounter);
-        return declare(engine::roleOption, names, description, slot, false);
+        return Handle<int>(engine::addPlain(m_record, engine::roleOption, names, description,
+                                            &values::shapeForCounter, nullptr, nullptr));
     }
     /// An option whose values go into `variable`, which outlives the program. What it holds now is what
     /// it holds again at the beginning of every parse.
@@ -326,22 +328,32 @@ protected:
 private:
     template <class T>
     [[gnu::cold]] Handle<T> add(int role, const char* names, const char* description) {
-        auto* const slot = new (std::nothrow) values::Slot<T>(values::shapeFor<T, false>);
-        return declare(role, names, description, slot, false);
+        if constexpr (values::isPlain<T>()) {
+            return Handle<T>(engine::addPlain(m_record, role, names, description, &values::shapeFor<T, false>,
+                                              nullptr, nullptr));
+        } else {
+            auto* const slot = new (std::nothrow) values::Slot<T>(values::shapeFor<T, false>);
+            return declare(role, names, description, slot, false);
+        }
     }
     template <class T>
     [[gnu::cold]] Handle<T> add(int role, const char* names, const char* description, T initial,
                                 T* variable = nullptr) {
-        auto* const slot =
-            new (std::nothrow) values::InitialSlot<T>(values::shapeFor<T, true>, static_cast<T&&>(initial));
-        if (slot != nullptr && variable != nullptr) {
-            slot->target = variable;
+        if constexpr (values::isPlain<T>()) {
+            return Handle<T>(engine::addPlain(m_record, role, names, description, &values::shapeFor<T, false>,
+                                              &initial, variable));
+        } else {
+            auto* const slot = new (std::nothrow)
+                values::InitialSlot<T>(values::shapeFor<T, true>, static_cast<T&&>(initial));
+            if (slot != nullptr && variable != nullptr) {
+                slot->target = variable;
+            }
+            const Handle<T> handle = declare<T>(role, names, description, slot, variable == nullptr);
+            if (handle.option() != nullptr) {
+                values::showDefault(handle.option(), slot->initial);
+            }
+            return handle;
         }
-        const Handle<T> handle = declare<T>(role, names, description, slot, variable == nullptr);
-        if (handle.option() != nullptr) {
-            values::showDefault(handle.option(), slot->initial);
-        }
-        return handle;
     }
     template <class T>
     Handle<T> declare(int role, const char* names, const char* description, values::Slot<T>* slot,
@@ -463,7 +475,7 @@ public:
 private:
     const engine::Result* drive(int argc, const char* const* argv, int purpose) {
         engine::begin(m_record, argc, argv, purpose);
-        engine::Step step = {sizeof(engine::Step), 0, nullptr, nullptr, nullptr, 0};
+        engine::Step step = {sizeof(engine::Step), 0, nullptr, nullptr, nullptr, 0, nullptr};
         for (bool accepted = true; engine::next(m_record, accepted, &step);) {
             accepted = values::perform(step);
         }

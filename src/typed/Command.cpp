@@ -18,7 +18,9 @@ Option::~Option() {
     if (state->completer != nullptr) {
         state->completer->destroy(state->completer);
     }
-    state->shape->destroy(state);
+    if (!isPlain()) {
+        state->shape->destroy(state);
+    }
 }
 
 bool Option::hasName(std::string_view wanted) const {

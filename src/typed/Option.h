@@ -21,6 +21,11 @@ struct Range {
     double mostReal = 0;
 };
 
+/// A value of a type that the library knows all of: a number, a switch, an enumeration.
+struct PlainValue {
+    alignas(long long) unsigned char bytes[sizeof(long long)] = {};
+};
+
 /// What was declared of an option, an action or a positional argument. Lives as long as its program, in one
 /// place.
 struct Option {
@@ -44,8 +49,16 @@ struct Option {
     }
     bool hasName(std::string_view wanted) const;
     bool isGiven() const { return state->given != 0; }
+    /// Whether the library makes and stores its values; then it has the state.
+    bool isPlain() const { return shape().valueSize != 0; }
 
     State* state = nullptr;
+    ///@{
+    /// Of a plain one.
+    State plainState = {};
+    PlainValue own;
+    PlainValue initial;
+    ///@}
     Command* owner = nullptr;
     int role = roleOption;
     /// The primary one first; never empty.

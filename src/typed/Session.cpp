@@ -9,6 +9,7 @@
 #include "typed/help.h"
 #include "typed/layers.h"
 #include "typed/messages.h"
+#include "typed/plainValues.h"
 #include "typed/rules.h"
 
 namespace tarv_3_3::typed::engine {
@@ -82,18 +83,29 @@ bool Session::next(bool accepted, Step& step) {
 }
 
 bool Session::nextRestore(Step& step) {
-    if (m_restored == m_all.size()) {
-        return false;
+    while (m_restored < m_all.size()) {
+        const Option& option = *m_all[m_restored++];
+        if (!option.isPlain()) {
+            step.kind = stepRestore;
+            step.state = option.state;
+            return true;
+        }
+        storePlain(option, option.initial);
     }
-    step.kind = stepRestore;
-    step.state = m_all[m_restored++]->state;
-    return true;
+    return false;
 }
 
 bool Session::nextTake(Step& step) {
-    if (m_line.wish != Wish::none || m_line.hasComplaint || !findTake()) {
-        return false;
+    while (m_line.wish == Wish::none && !m_line.hasComplaint && findTake()) {
+        startTake(step);
+        if (!m_line.occurrences[m_taken].option->isPlain() || takePlain(step)) {
+            return true;
+        }
     }
+    return false;
+}
+
+void Session::startTake(Step& step) {
     const Occurrence& occurrence = m_line.occurrences[m_taken];
     Option& option = *occurrence.option;
     m_taking.option = &option;
@@ -107,7 +119,18 @@ bool Session::nextTake(Step& step) {
     step.text = nextPiece();
     step.mode = occurrence.isOnlyChecked ? takeCheck : option.isBegun ? takeNext : takeFirst;
     option.isBegun = option.isBegun || step.mode == takeFirst;
-    return true;
+}
+
+// Whether the host's code is needed all the same, to check the value.
+bool Session::takePlain(Step& step) {
+    const bool isMade = makePlain(m_taking, step.text, m_value);
+    if (isMade && step.state->checks != nullptr) {
+        step.kind = stepCheck;
+        step.value = m_value.bytes;
+        return true;
+    }
+    judge(isMade);
+    return false;
 }
 
 // Whether there is a value left; the occurrence at hand then has it.
@@ -155,12 +178,14 @@ void Session::judge(bool accepted) {
     if (m_taking.isOutOfMemory) {
         m_program.hasParseFailed = true;
     }
+    const Occurrence& occurrence = m_line.occurrences[m_taken];
     if (!accepted || m_taking.isRefused) {
-        const Occurrence& occurrence = m_line.occurrences[m_taken];
         const std::string reason = m_taking.reason.empty() ? messages::isNotValid : m_taking.reason;
         const bool isWhole = m_piece == occurrence.text;
         m_line.complain(shownOccurrence(m_line, occurrence) + ": " +
                         (isWhole ? reason : messages::ofPiece(terminalText(m_piece), reason)));
+    } else if (m_taking.option->isPlain() && !occurrence.isOnlyChecked) {
+        storePlain(*m_taking.option, m_value);
     }
 }
 

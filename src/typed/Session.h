@@ -26,6 +26,8 @@ public:
 private:
     bool nextRestore(Step& step);
     bool nextTake(Step& step);
+    void startTake(Step& step);
+    bool takePlain(Step& step);
     bool findTake();
     const char* nextPiece();
     void judge(bool accepted);
@@ -48,6 +50,8 @@ private:
     bool m_isTaking = false;
     bool m_isFinished = false;
     Taking m_taking;
+    /// Of a plain option, what was made and is not yet stored.
+    PlainValue m_value;
 
     std::string m_output;
     std::string m_errors;

@@ -1,4 +1,5 @@
 #include <algorithm>
+#include <cstring>
 #include <memory>
 #include <new>
 
@@ -6,6 +7,7 @@
 #include "typed/enumerators.h"
 #include "typed/guarded.h"
 #include "typed/messages.h"
+#include "typed/plainValues.h"
 
 namespace tarv_3_3::typed::engine {
 
@@ -118,6 +120,28 @@ bool addOption(Command* command, int role, const char* names, const char* descri
         command->options.push_back(std::move(option));
     });
     return owner.state == nullptr;
+}
+
+State* addPlain(Command* command, int role, const char* names, const char* description, const Shape* shape,
+                const void* initial, void* variable) {
+    State* added = nullptr;
+    guarded(command, [&] {
+        makeRoomForOne(command->options);
+        std::unique_ptr<Option> option = makeOption(*command, role, names, description, *shape);
+        option->hasDefault = initial != nullptr && variable == nullptr;
+        option->state = &option->plainState;
+        option->state->shape = shape;
+        option->state->option = option.get();
+        option->state->target = variable != nullptr ? variable : option->own.bytes;
+        if (initial != nullptr) {
+            std::memcpy(option->initial.bytes, initial, shape->valueSize);
+            showPlainDefault(*option);
+        }
+        storePlain(*option, option->initial);
+        added = option->state;
+        command->options.push_back(std::move(option));
+    });
+    return added;
 }
 
 void addRule(Command* command, int kind, unsigned count, Option* const* options) {

@@ -68,6 +68,9 @@ struct Shape {
     bool (*take)(State*, Taking*, const char* text, int mode);
     void (*destroy)(State*);
     ///@}
+    /// The bytes of a value that the library makes and stores by itself, see `addPlain`; the host then has no
+    /// code of its own for it. Else 0.
+    unsigned valueSize;
 };
 
 /// Code of the host's that an option keeps: a check or a completer. The library ends it.
@@ -89,6 +92,8 @@ struct State {
     int source;
     /// Of each occurrence, its index in `argv`, or -1.
     const int* positions;
+    /// The value.
+    void* target;
 };
 
 /// What a command runs.
@@ -97,7 +102,7 @@ struct Body {
     void (*destroy)(Body*);
 };
 
-enum StepKind : int { stepRestore = 0, stepTake = 1, stepComplete = 2 };
+enum StepKind : int { stepRestore = 0, stepTake = 1, stepComplete = 2, stepCheck = 3 };
 
 /// What the host's code is needed for next. Fields are only ever added, at the end; the host says in
 /// `size` how many it knows.
@@ -108,6 +113,8 @@ struct Step {
     Taking* taking;
     const char* text;
     int mode;
+    /// What the checks are asked about.
+    const void* value;
 };
 
 /// What became of a command line. The texts belong to the program, until the next parse.
@@ -134,6 +141,10 @@ TARV_API void setBody(Command* command, Body* body);
 /// shown with `addDefault...`.
 TARV_API bool addOption(Command* command, int role, const char* names, const char* description, State* state,
                         unsigned initialIsDefault);
+/// The same for a value that the library makes, with a shape that says its `valueSize`. `initial` is null for
+/// none; `variable` is where the value goes, null for memory of the library's. Null when there is none left.
+TARV_API State* addPlain(Command* command, int role, const char* names, const char* description,
+                         const Shape* shape, const void* initial, void* variable);
 TARV_API void addRule(Command* command, int kind, unsigned count, Option* const* options);
 TARV_API void setJoinLetters(Command* program);
 TARV_API void setSettingsFile(Command* program, const char* path);

@@ -135,6 +135,20 @@ constexpr int kindOf() {
     }
 }
 
+/// Whether the library makes the values, so that a host has no code for the type.
+template <class T>
+constexpr bool isPlain() {
+    if constexpr (isForeign<T>) {
+        return false;
+    } else if constexpr (isDuration<T>) {
+        return __is_trivially_copyable(T) && isSigned<typename T::rep> && !isSame<typename T::rep, long double>;
+    } else if constexpr (__is_enum(T)) {
+        return !isNamed<T>;
+    } else {
+        return isWhole<T> || isSame<T, float> || isSame<T, double> || isSame<T, Size>;
+    }
+}
+
 // ---- Enumerations ---------------------------------------------------------------------------------
 
 template <class T, T...>
@@ -288,30 +302,29 @@ E valueAt(int place) {
 
 // ---- Records --------------------------------------------------------------------------------------
 
-template <class Element>
 struct Check : engine::Owned {
     const char* must;
-    bool (*accepts)(const Check*, const Element&);
+    /// Is given an element of the option's type.
+    bool (*accepts)(const Check*, const void* element);
 };
 
 struct Completer : engine::Owned {
     void (*call)(const Completer*, engine::Taking*, const char* word);
 };
 
-/// What a handle points to.
+/// What a handle points to, unless the library makes the value.
 template <class T>
 struct Slot : engine::State {
     using Element = typename ElementOf<T>::Type;
 
     Slot(const engine::Shape& itsShape, const T& value)
-        : engine::State{&itsShape, nullptr, nullptr, nullptr, 0, 0, 0, nullptr}, own(value) {}
+        : engine::State{&itsShape, nullptr, nullptr, nullptr, 0, 0, 0, nullptr, &own}, own(value) {}
     Slot(const engine::Shape& itsShape)
-        : engine::State{&itsShape, nullptr, nullptr, nullptr, 0, 0, 0, nullptr}, own() {}
+        : engine::State{&itsShape, nullptr, nullptr, nullptr, 0, 0, 0, nullptr, &own}, own() {}
     Slot(const Slot&) = delete;
     Slot& operator=(const Slot&) = delete;
 
     T own;
-    T* target = &own;
 };
 
 /// One with an initial value of its own.
@@ -379,15 +392,11 @@ template <class E>
     }
 }
 
-/// Reads one element and asks the checks.
-template <class E>
-[[gnu::cold]] bool readChecked(const engine::State* state, engine::Taking* taking, const char* text,
-                               E& element) {
-    if (!read(taking, text, element)) {
-        return false;
-    }
+/// Asks the checks about an element.
+[[gnu::cold]] inline bool isAccepted(const engine::State* state, engine::Taking* taking,
+                                     const void* element) {
     for (const engine::Owned* owned = state->checks; owned != nullptr; owned = owned->next) {
-        const auto* const check = static_cast<const Check<E>*>(owned);
+        const auto* const check = static_cast<const Check*>(owned);
         if (!check->accepts(check, element)) {
             return engine::refuse(taking, check->must);
         }
@@ -397,9 +406,9 @@ template <class E>
 
 template <class T>
 [[gnu::cold]] bool take(engine::State* state, engine::Taking* taking, const char* text, int mode) {
-    auto& slot = static_cast<Slot<T>&>(*state);
+    T& target = *static_cast<T*>(state->target);
     typename ElementOf<T>::Type element{};
-    if (!readChecked(state, taking, text, element)) {
+    if (!read(taking, text, element) || !isAccepted(state, taking, &element)) {
         return false;
     }
     if (mode == engine::takeCheck) {
@@ -407,26 +416,26 @@ template <class T>
     }
     if constexpr (isList<T>) {
         if (mode == engine::takeFirst) {
-            *slot.target = T();
+            target = T();
         }
         if constexpr (hasPushBack<T>) {
-            slot.target->push_back(static_cast<decltype(element)&&>(element));
+            target.push_back(static_cast<decltype(element)&&>(element));
         } else {
-            slot.target->insert(static_cast<decltype(element)&&>(element));
+            target.insert(static_cast<decltype(element)&&>(element));
         }
     } else {
-        *slot.target = static_cast<decltype(element)&&>(element);
+        target = static_cast<decltype(element)&&>(element);
     }
     return true;
 }
 
 template <class T, bool hasInitial>
 [[gnu::cold]] void restore(engine::State* state) {
+    T& target = *static_cast<T*>(state->target);
     if constexpr (hasInitial) {
-        auto& slot = static_cast<InitialSlot<T>&>(*state);
-        *slot.target = slot.initial;
+        target = static_cast<InitialSlot<T>&>(*state).initial;
     } else {
-        *static_cast<Slot<T>&>(*state).target = T();
+        target = T();
     }
 }
 
@@ -454,12 +463,16 @@ constexpr engine::Shape makeShape(int kind) {
     shape.holds = isList<T> ? engine::holdsMany : isOptional<T> ? engine::holdsOptional : engine::holdsOne;
     shape.isFloat = isSame<Element, float>;
     shape.isPath = isPath<Element>;
-    shape.restore = restore<T, hasInitial>;
-    shape.take = take<T>;
-    if constexpr (hasInitial) {
-        shape.destroy = destroy<InitialSlot<T>>;
+    if constexpr (isPlain<T>()) {
+        shape.valueSize = sizeof(T);
     } else {
-        shape.destroy = destroy<Slot<T>>;
+        shape.restore = restore<T, hasInitial>;
+        shape.take = take<T>;
+        if constexpr (hasInitial) {
+            shape.destroy = destroy<InitialSlot<T>>;
+        } else {
+            shape.destroy = destroy<Slot<T>>;
+        }
     }
     if constexpr (__is_enum(Element) && !isForeign<Element>) {
         shape.spelling = spellingOf<Element>();
@@ -595,28 +608,27 @@ void addChoice(engine::Option* option, const C& choice) {
     }
 }
 
-template <class T, class F>
-[[gnu::cold]] void addCheck(Slot<T>* slot, const char* must, F accepts) {
-    using Element = typename Slot<T>::Element;
-    struct With : Check<Element> {
-        explicit With(F&& function) : Check<Element>{}, test(static_cast<F&&>(function)) {}
+template <class Element, class F>
+[[gnu::cold]] void addCheck(engine::State* state, const char* must, F accepts) {
+    struct With : Check {
+        explicit With(F&& function) : Check{}, test(static_cast<F&&>(function)) {}
         F test;
     };
-    const char* const kept = engine::addCheck(slot != nullptr ? slot->option : nullptr, must);
+    const char* const kept = engine::addCheck(state != nullptr ? state->option : nullptr, must);
     if (kept == nullptr) {
         return;
     }
     With* const made = new (std::nothrow) With(static_cast<F&&>(accepts));
     if (made == nullptr) {
-        engine::failMemory(slot->option);
+        engine::failMemory(state->option);
         return;
     }
     made->must = kept;
-    made->accepts = [](const Check<Element>* check, const Element& element) -> bool {
-        return static_cast<const With*>(check)->test(element);
+    made->accepts = [](const Check* check, const void* element) -> bool {
+        return static_cast<const With*>(check)->test(*static_cast<const Element*>(element));
     };
     made->destroy = [](engine::Owned* check) { delete static_cast<With*>(check); };
-    engine::Owned** end = &slot->checks;
+    engine::Owned** end = &state->checks;
     while (*end != nullptr) {
         end = &(*end)->next;
     }
@@ -676,6 +688,8 @@ template <class F>
         return true;
     case engine::stepTake:
         return step.state->shape->take(step.state, step.taking, step.text, step.mode);
+    case engine::stepCheck:
+        return isAccepted(step.state, step.taking, step.value);
     default:
         static_cast<const Completer*>(step.state->completer)
             ->call(static_cast<const Completer*>(step.state->completer), step.taking, step.text);
