@@ -82,9 +82,9 @@ std::optional<std::size_t> Examples::wordCount(const std::set<std::size_t>& plac
 }
 
 std::string Examples::shown(const std::vector<std::string>& arguments) const {
-    std::vector<std::string> words = m_command;
-    words.insert(words.end(), arguments.begin(), arguments.end());
-    return shellQuoted(words);
+    std::vector<std::string> line = m_command;
+    line.insert(line.end(), arguments.begin(), arguments.end());
+    return shellQuoted(line);
 }
 
 const std::optional<std::string>& Examples::sample(std::size_t place) {

@@ -24,7 +24,7 @@ OlderLines::OlderLines(const Side& side, Examples& examples) : m_side(side), m_e
     }
 }
 
-std::optional<std::vector<std::string>> OlderLines::with(std::set<std::size_t> places) {
+std::optional<std::vector<std::string>> OlderLines::with(const std::set<std::size_t>& places) {
     return accepted(places, std::nullopt);
 }
 

@@ -16,7 +16,7 @@ public:
 
     /// The arguments of a command line that gives these options, what their rules ask for besides, and an
     /// action where one is needed; none where no such line is accepted.
-    std::optional<std::vector<std::string>> with(std::set<std::size_t> places);
+    std::optional<std::vector<std::string>> with(const std::set<std::size_t>& places);
 
     /// The same, with this number of arguments without a name and no option that is not needed.
     std::optional<std::vector<std::string>> withWords(std::size_t count);

@@ -95,6 +95,7 @@ public:
 private:
     static std::vector<Words> allWords(const std::vector<std::string>& names) {
         std::vector<Words> all;
+        all.reserve(names.size());
         for (const std::string& name : names) {
             all.push_back(wordsOf(name));
         }

@@ -5,9 +5,9 @@
 namespace tarv_program {
 
 const std::string* Option::note(std::string_view key) const {
-    for (const Note& note : notes) {
-        if (note.first == key) {
-            return &note.second;
+    for (const Note& said : notes) {
+        if (said.first == key) {
+            return &said.second;
         }
     }
     return nullptr;

@@ -88,15 +88,15 @@ bool JsonPlace::isTrue() const {
 }
 
 std::size_t JsonPlace::oneOf(std::initializer_list<const char*> known) const {
-    const std::string text = plainText();
+    const std::string word = plainText();
     std::size_t place = 0;
     for (const char* const name : known) {
-        if (text == name) {
+        if (word == name) {
             return place;
         }
         ++place;
     }
-    refuse("'" + text + "' is not known");
+    refuse("'" + word + "' is not known");
 }
 
 } // namespace tarv_program

@@ -29,13 +29,13 @@ std::vector<std::size_t> Slots::shares(std::size_t count) const {
 }
 
 std::vector<std::size_t> Slots::placesOf(std::size_t count) const {
-    std::vector<std::size_t> places;
+    std::vector<std::size_t> all;
     const std::vector<std::size_t> each = shares(count);
     for (std::size_t i = 0; i < m_places.size(); ++i) {
-        places.insert(places.end(), each[i], m_places[i]);
+        all.insert(all.end(), each[i], m_places[i]);
     }
-    places.resize(count, nowhere);
-    return places;
+    all.resize(count, nowhere);
+    return all;
 }
 
 std::string Slots::complaint(std::size_t count) const {

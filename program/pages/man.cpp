@@ -13,35 +13,35 @@ namespace {
 constexpr std::size_t widestLine = 78;
 
 std::string escaped(const std::string& text) {
-    std::string source;
+    std::string all;
     for (const char byte : visible(text)) {
         switch (byte) {
         case '\\':
-            source += "\\e";
+            all += "\\e";
             break;
         case '-':
-            source += "\\-";
+            all += "\\-";
             break;
         case '^':
-            source += "\\(ha";
+            all += "\\(ha";
             break;
         case '~':
-            source += "\\(ti";
+            all += "\\(ti";
             break;
         case '`':
-            source += "\\(ga";
+            all += "\\(ga";
             break;
         case '\'':
-            source += "\\(aq";
+            all += "\\(aq";
             break;
         case '"':
-            source += "\\(dq";
+            all += "\\(dq";
             break;
         default:
-            source += byte;
+            all += byte;
         }
     }
-    return source;
+    return all;
 }
 
 // Words on lines; a period at the beginning of one would be a request.
