@@ -221,9 +221,11 @@ private:
 /// good as long as the program.
 class Command {
 public:
-    /// Cannot be called. Unlike a deleted one, it says what to do instead.
+    /// @cond
+    // Cannot be called. Unlike a deleted one, it says what to do instead.
     __attribute__((unavailable("tarv: hold a verb by reference, as in auto& log = program.verb(...)")))
     Command(const Command&) : m_record(nullptr) {}
+    /// @endcond
     Command& operator=(const Command&) = delete;
 
     /// An option without a default: it holds a `T()` until it is given. A `bool` makes a switch.

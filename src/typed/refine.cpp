@@ -159,7 +159,7 @@ void addDefaultReal(Option* option, double value) {
 // A '\0' is no character that could be typed: it stands for none.
 void addDefaultText(Option* option, const char* text, unsigned long length) {
     guarded(option, [&] {
-        if (option->shape().kind == kindByte && length == 1 && *text == '\0') {
+        if (option->shape().kind == kindByte && *text == '\0') {
             return;
         }
         option->defaults.emplace_back(text != nullptr ? text : "", text != nullptr ? length : 0);

@@ -180,6 +180,16 @@ TEST(TypedProblems, OfVerbsAreFoundWhateverTheCommandLine) {
                                      "p init: 'graph': a rule is over options of another command\n");
 }
 
+TEST(TypedProblems, HelpOfAMistakenProgramIsShown) {
+    const CapturedAssertions assertions;
+    tarv::Program program("p");
+    program.flag("x", "Needs nothing.").needs(tarv::Handle<bool>());
+    EXPECT_EQ(parseLine(program, {"--help"}), "0 Usage: p [OPTION]...\n\nOptions:\n"
+                                              "  -x          Needs nothing.\n"
+                                              "  -h, --help  Show this help.\n");
+    EXPECT_EQ(assertions.expressions(), "p: 'x': it needs an option that does not go with it");
+}
+
 TEST(TypedProblems, AreToldTheAssertionHandlerOnce) {
     const CapturedAssertions assertions;
     tarv::Program program("p");
