@@ -238,12 +238,17 @@ public:
     Handle<Held> option(const char* names, const char* description, T initial) {
         return add<Held>(engine::roleOption, names, description, Held(static_cast<T&&>(initial)));
     }
+    // Templates, as all that names a type: a host compiles only what it uses.
     /// A switch, which is turned off by "no-" in front of its name.
-    Handle<bool> flag(const char* names, const char* description) { return option<bool>(names, description); }
+    template <class T = bool>
+    Handle<T> flag(const char* names, const char* description) {
+        return add<T>(engine::roleOption, names, description);
+    }
     /// Counts how often it is given: "-vvv" is three times.
-    Handle<int> counter(const char* names, const char* description) {
-        return Handle<int>(engine::addPlain(m_record, engine::roleOption, names, description,
-                                            &values::shapeForCounter, nullptr, nullptr));
+    template <class T = int>
+    Handle<T> counter(const char* names, const char* description) {
+        return Handle<T>(engine::addPlain(m_record, engine::roleOption, names, description,
+                                          &values::shapeForCounter<T>, nullptr, nullptr));
     }
     /// An option whose values go into `variable`, which outlives the program. What it holds now is what
     /// it holds again at the beginning of every parse.
@@ -277,8 +282,9 @@ public:
     }
     /// One of several things that the command does, of which a command line names one: "tar --list". It
     /// is a program of actions or of verbs, not of both.
-    Handle<bool> action(const char* names, const char* description) {
-        return add<bool>(engine::roleAction, names, description);
+    template <class T = bool>
+    Handle<T> action(const char* names, const char* description) {
+        return add<T>(engine::roleAction, names, description);
     }
 
     /// A verb, as "log" of "vcs log": the first argument without a name, which may be cut short. It has

@@ -141,7 +141,8 @@ constexpr bool isPlain() {
     if constexpr (isForeign<T>) {
         return false;
     } else if constexpr (isDuration<T>) {
-        return __is_trivially_copyable(T) && isSigned<typename T::rep> && !isSame<typename T::rep, long double>;
+        return __is_trivially_copyable(T) && isSigned<typename T::rep> &&
+               !isSame<typename T::rep, long double>;
     } else if constexpr (__is_enum(T)) {
         return !isNamed<T>;
     } else {
@@ -222,7 +223,11 @@ constexpr Spelled scan(const char* text) {
             typeLength != 0 && typeLength < end - text && *text == '(' && text[typeLength - 1] == ')' &&
             (text[typeLength] == '-' || ('0' <= text[typeLength] && text[typeLength] <= '9'));
         const char* const begin = text;
-        text = endOfValue(isSkipped ? text + typeLength : text);
+        text += isSkipped ? typeLength + 1 : 0;
+        while (isSkipped && '0' <= *text && *text <= '9') {
+            ++text;
+        }
+        text = endOfValue(text);
         if (!isSkipped) {
             const char* name = text;
             while (isNameByte(name[-1])) {
@@ -490,7 +495,8 @@ constexpr engine::Shape makeShape(int kind) {
 
 template <class T, bool hasInitial>
 inline constexpr engine::Shape shapeFor = makeShape<T, hasInitial>(kindOf<typename ElementOf<T>::Type>());
-inline constexpr engine::Shape shapeForCounter = makeShape<int, false>(engine::kindCounter);
+template <class T>
+inline constexpr engine::Shape shapeForCounter = makeShape<T, false>(engine::kindCounter);
 
 // ---- What a declaration says ----------------------------------------------------------------------
 
