@@ -91,6 +91,23 @@ TEST(OptionNames, ANameOfTwoOptionsIsNotUnique) {
     }
 }
 
+TEST(OptionNames, ANameOfTwoOptionsIsNotFound) {
+    Fixture apart;
+    declare<bool>(apart.record, option, "color");
+    declare<bool>(apart.verb, option, "no-color");
+    EXPECT_EQ(nullptr, findWhole(*apart.verb, "no-color"));
+    EXPECT_NE(nullptr, findWhole(*apart.verb, "color"));
+    EXPECT_NE(nullptr, findWhole(*apart.record, "no-color"));
+    Fixture together;
+    declare<bool>(together.record, option, "color");
+    declare<bool>(together.record, option, "no-color");
+    EXPECT_EQ(nullptr, findWhole(*together.record, "no-color"));
+    Fixture twice;
+    declare<int>(twice.record, option, "count");
+    declare<int>(twice.verb, option, "count");
+    EXPECT_EQ(nullptr, findWhole(*twice.verb, "count"));
+}
+
 TEST(OptionNames, AHundredNamesAreFound) {
     Fixture vcs;
     for (int i = 0; i < 100; ++i) {
