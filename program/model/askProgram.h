@@ -12,7 +12,7 @@ namespace tarv_program {
 /// How long another program may run, and how much it may print.
 struct Limits {
     std::chrono::milliseconds time = std::chrono::seconds(10);
-    std::size_t bytes = 16 * 1024 * 1024;
+    std::size_t bytes = std::size_t(16) * 1024 * 1024;
 };
 
 /// There is no such program.

@@ -11,7 +11,7 @@ namespace tarv_program {
 
 namespace {
 
-constexpr std::size_t mostBytes = 16 * 1024 * 1024;
+constexpr std::size_t mostBytes = std::size_t(16) * 1024 * 1024;
 
 bool isDescriptionFile(const std::string& path) {
     std::error_code ignored;
