@@ -345,6 +345,10 @@ TEST(Compare, ComparesArgumentsByTheirOrder) {
     const Option number = argument("target", vtInt32, {1, 1});
     const Option place = argument("place", vtString, {1, 1});
     const Option more = argument("more", vtString, {0, 1});
+    Option wide = argument("number", vtInt32, {1, 1});
+    Option narrow = wide;
+    wide.notes = {{"range", "-5..9"}};
+    narrow.notes = {{"range", "0..9"}};
     const struct {
         const char* title;
         std::vector<Option> older;
@@ -367,6 +371,7 @@ TEST(Compare, ComparesArgumentsByTheirOrder) {
          {target},
          "line: tool text text: is refused: there are too many arguments\n"},
         {"one that is a number now", {source, target}, {source, number}, "value: tool text '': is refused\n"},
+        {"a number that was less than zero", {wide}, {narrow}, "value: tool -- -5: is refused\n"},
         {"one that is a text now, which a number was", {source, number}, {source, target}, ""},
     };
     for (const auto& row : rows) {
@@ -377,6 +382,18 @@ TEST(Compare, ComparesArgumentsByTheirOrder) {
         newer.options = row.newer;
         EXPECT_EQ(reportAsBaseline(compare(older, newer)), row.expected);
     }
+}
+
+TEST(Compare, AsksRulesOverArgumentsWithoutAName) {
+    CommandLine older = described([](IParser& p) { p.option("force", "", vtNull); });
+    older.options.push_back(argument("source", vtString, {1, 1}));
+    older.options.push_back(argument("target", vtString, {0, 1}));
+    CommandLine newer = older;
+    newer.rules = {{ruleAtMostOne, {"force", "target"}}};
+    EXPECT_EQ(
+        reportAsBaseline(compare(older, newer)),
+        "line: tool --force text text: is refused: Option 'force' and option TARGET exclude each other\n");
+    EXPECT_EQ(reportAsBaseline(compare(newer, older)), "");
 }
 
 TEST(Compare, TakesHelpThatAProgramHasByItselfForTheSame) {
