@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <charconv>
 #include <new>
+#include <string_view>
 
 #include <tarv_3_3/description.h>
 
@@ -26,7 +27,7 @@ std::optional<variant_t> numberOf(const std::string& text) {
 }
 
 // What a comma at the end of a list of names makes.
-const std::string zeroName(1, '\0');
+constexpr std::string_view zeroName("\0", 1);
 
 std::string joined(const std::vector<std::string>& names) {
     std::string list;
