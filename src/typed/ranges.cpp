@@ -20,7 +20,10 @@ std::string showNumber(const Option& option, long long number) {
 }
 
 std::string showNumber(const Option& option, unsigned long long number) {
-    return option.shape().kind == kindSize ? showSize(number) : std::to_string(number);
+    const std::string digits = std::to_string(number);
+    return option.shape().kind == kindSize       ? showSize(number)
+           : option.shape().kind == kindDuration ? showDuration(digits, unitOf(option))
+                                                 : digits;
 }
 
 std::string showNumber(const Option& option, double number) {
@@ -44,6 +47,11 @@ NumberForm numberForm(const Option& option) {
     default:
         return NumberForm::none;
     }
+}
+
+long long greatestSigned(const Shape& shape) {
+    constexpr long long most = std::numeric_limits<long long>::max();
+    return shape.most < static_cast<unsigned long long>(most) ? static_cast<long long>(shape.most) : most;
 }
 
 bool hasRange(const Option& option) {
@@ -71,7 +79,7 @@ std::string mostText(const Option& option) {
     const Shape& shape = option.shape();
     switch (numberForm(option)) {
     case NumberForm::asSigned:
-        return showNumber(option, range.isSet ? range.mostSigned : static_cast<long long>(shape.most));
+        return showNumber(option, range.isSet ? range.mostSigned : greatestSigned(shape));
     case NumberForm::asUnsigned:
         return showNumber(option, range.isSet ? range.mostUnsigned : shape.most);
     case NumberForm::asReal:

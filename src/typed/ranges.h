@@ -17,6 +17,9 @@ std::string showNumber(const Option& option, double number);
 enum class NumberForm { none, asSigned, asUnsigned, asReal };
 NumberForm numberForm(const Option& option);
 
+/// The greatest number of its type, as far as a signed one holds it.
+long long greatestSigned(const Shape& shape);
+
 /// Whether the host set bounds that are closer than those of the type.
 bool hasRange(const Option& option);
 
@@ -26,7 +29,7 @@ std::string leastText(const Option& option);
 std::string mostText(const Option& option);
 ///@}
 
-/// "from 1 to 99", "at least 1" or "at most 99"; empty when there is no bound to speak of.
+/// "from 1 to 99"; empty where there are no bounds.
 std::string rangeText(const Option& option);
 
 } // namespace tarv_3_3::typed::engine

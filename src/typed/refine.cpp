@@ -16,7 +16,7 @@ void addFault(Option& option, const char* fault) {
 }
 
 void setSigned(Option& option, long long low, long long high) {
-    if (low < option.shape().least || high > static_cast<long long>(option.shape().most)) {
+    if (low < option.shape().least || high > greatestSigned(option.shape())) {
         addFault(option, outsideOfType);
     }
     option.range.leastSigned = low;

@@ -90,14 +90,19 @@ bool takeSigned(Taking& taking, std::string_view text, long long& number) {
         return false;
     }
     const long long least = option.range.isSet ? option.range.leastSigned : option.shape().least;
-    const long long most =
-        option.range.isSet ? option.range.mostSigned : static_cast<long long>(option.shape().most);
+    const long long most = option.range.isSet ? option.range.mostSigned : greatestSigned(option.shape());
     return isWithin(number, least, most) ? isAmong(taking, showNumber(option, number))
                                          : refuseByRange(taking);
 }
 
 bool takeUnsigned(Taking& taking, std::string_view text, unsigned long long& number) {
     const Option& option = *taking.option;
+    if (option.shape().kind == kindDuration) {
+        long long count = 0;
+        const bool isTaken = takeSigned(taking, text, count);
+        number = static_cast<unsigned long long>(count);
+        return isTaken;
+    }
     const bool isSize = option.shape().kind == kindSize;
     const NumberOutcome outcome = isSize ? readSize(text, number) : readWhole(text, number);
     if (!checkOutcome(taking, outcome, isSize ? messages::aSize : messages::aWholeNumber)) {

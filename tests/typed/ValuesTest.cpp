@@ -184,6 +184,27 @@ TEST(TypedValues, DurationsNeedAUnitAndAreExact) {
                                             "must be from -9223372036854775808ns to 9223372036854775807ns");
 }
 
+TEST(TypedValues, DurationsWithoutASignAreNotBelowZero) {
+    using Narrow = std::chrono::duration<unsigned short, std::milli>;
+    using Wide = std::chrono::duration<unsigned long long>;
+    expectValue<Narrow>("1.5s", Narrow(1500));
+    expectRefusal<Narrow>("3", "needs a unit: ns, us, ms, s, min, h or d");
+    expectRefusal<Narrow>("-1s", "must be from 0ms to 65535ms");
+    expectRefusal<Narrow>("66s", "must be from 0ms to 65535ms");
+    expectValue<Wide>("2min", Wide(120));
+    expectRefusal<Wide>("-1s", "must be from 0s to 9223372036854775807s");
+    tarv::Program program("p");
+    const auto wait = program.option("wait", "", Narrow(250)).range(Narrow(0), std::chrono::seconds(1));
+    EXPECT_STREQ(program.problems(), "");
+    EXPECT_EQ(parseLine(program, {}), "ok");
+    EXPECT_EQ(*wait, Narrow(250));
+    EXPECT_EQ(parseLine(program, {"--wait=2s"}),
+              "2 p: --wait=2s: must be from 0ms to 1000ms\nTry 'p --help'.\n");
+    EXPECT_EQ(parseLine(program, {"--help"}), "0 Usage: p [OPTION]...\n\nOptions:\n"
+                                              "      --wait=TIME  (from 0ms to 1000ms; default: 250ms)\n"
+                                              "  -h, --help       Show this help.\n");
+}
+
 TEST(TypedValues, AHostReadsItsOwnType) {
     tarv::Program program("p");
     const auto where = program.option<Point>("x", "");
