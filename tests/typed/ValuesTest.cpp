@@ -239,6 +239,35 @@ TEST(TypedValues, ContainersTakeEachPiece) {
     expectRefusal<std::vector<bool>>("maybe", "must be one of 1, true, yes, on, 0, false, no, off");
 }
 
+TEST(TypedValues, InitialValuesOfEverySizeAreShownAndRestored) {
+    tarv::Program program("p");
+    const auto narrow = program.option("a", "", static_cast<signed char>(-3));
+    const auto natural = program.option("b", "", static_cast<unsigned char>(200));
+    const auto small = program.option("c", "", static_cast<short>(-300));
+    const auto smallNatural = program.option("d", "", static_cast<unsigned short>(65535));
+    const auto wide = program.option("e", "", -5000000000LL);
+    const auto wideNatural = program.option("f", "", 18446744073709551615ULL);
+    const auto real = program.option("g", "", 0.25F);
+    const auto level = program.option("i", "", high);
+    EXPECT_EQ(parseLine(program, {"-a=4", "-b=5", "-c=6", "-d=7", "-e=8", "-f=9", "-g=10", "-i=low"}), "ok");
+    EXPECT_TRUE(*narrow == 4 && *natural == 5 && *small == 6 && *smallNatural == 7);
+    EXPECT_TRUE(*wide == 8 && *wideNatural == 9 && *real == 10 && *level == low);
+    EXPECT_EQ(parseLine(program, {}), "ok");
+    EXPECT_TRUE(*narrow == -3 && *natural == 200 && *small == -300 && *smallNatural == 65535);
+    EXPECT_TRUE(*wide == -5000000000LL && *wideNatural == 18446744073709551615ULL);
+    EXPECT_TRUE(*real == 0.25F && *level == high);
+    EXPECT_EQ(parseLine(program, {"--help"}), "0 Usage: p [OPTION]...\n\nOptions:\n"
+                                              "  -a=NUMBER   (default: -3)\n"
+                                              "  -b=NUMBER   (default: 200)\n"
+                                              "  -c=NUMBER   (default: -300)\n"
+                                              "  -d=NUMBER   (default: 65535)\n"
+                                              "  -e=NUMBER   (default: -5000000000)\n"
+                                              "  -f=NUMBER   (default: 18446744073709551615)\n"
+                                              "  -g=NUMBER   (default: 0.25)\n"
+                                              "  -i=WORD     (one of low, high; default: high)\n"
+                                              "  -h, --help  Show this help.\n");
+}
+
 TEST(TypedValues, WhatIsGivenReplacesTheInitialList) {
     tarv::Program program("p");
     const auto list = program.option("x", "", std::vector<int>{1, 2});
