@@ -124,6 +124,11 @@ std::string titleOf(const std::string& name) {
     return title;
 }
 
+std::size_t endOfSentence(const std::string& text) {
+    const std::size_t end = text.find(". ");
+    return end == std::string::npos ? text.size() : end + 1;
+}
+
 } // namespace
 
 std::string asManual(const Page& page, const std::string& section, const std::string& date) {
@@ -131,13 +136,17 @@ std::string asManual(const Page& page, const std::string& section, const std::st
     std::string text =
         ".TH " + quotedArgument(titleOf(name)) + " " + quotedArgument(section) + " " + dateArgument(date) +
         " " + quotedArgument(page.command.front() + (page.version.empty() ? "" : " " + page.version)) + "\n";
-    // What the line says up to the dash is what manuals are found by.
-    text += ".SH NAME\n" +
-            filled(escaped(name) + " \\- " + escaped(page.purpose.empty() ? "a program" : page.purpose));
+    // Manuals are listed with this line, so it is one sentence.
+    const std::string purpose = page.purpose.empty() ? "a program" : page.purpose;
+    const std::size_t end = endOfSentence(purpose);
+    text += ".SH NAME\n" + filled(escaped(name) + " \\- " + escaped(purpose.substr(0, end)));
     text += ".SH SYNOPSIS\n";
     for (const Runs& runs : page.synopses) {
         text += &runs == &page.synopses.front() ? "" : ".br\n";
         text += filled(source(runs));
+    }
+    if (end < purpose.size()) {
+        text += ".SH DESCRIPTION\n" + filled(escaped(purpose.substr(end + 1)));
     }
     for (const Section& part : page.sections) {
         text += (part.level == 1 ? ".SH " : ".SS ") +
