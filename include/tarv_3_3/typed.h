@@ -224,7 +224,8 @@ public:
     /// @cond
     // Cannot be called. Unlike a deleted one, it says what to do instead.
     __attribute__((unavailable("tarv: hold a verb by reference, as in auto& log = program.verb(...)")))
-    Command(const Command&) : m_record(nullptr) {}
+    Command(const Command&)
+        : m_record(nullptr) {}
     /// @endcond
     Command& operator=(const Command&) = delete;
 
