@@ -96,42 +96,52 @@ void addOptions(std::vector<Section>& sections, const CommandLine& line, int lev
     addIfNotEmpty(sections, rules);
 }
 
+void addWord(Runs& runs, const std::string& name, bool isOptional, bool isRepeated) {
+    runs.push_back({Run::plain, isOptional ? "[" : ""});
+    runs.push_back({Run::placeholder, name});
+    runs.push_back({Run::plain, std::string(isOptional ? "]" : "") + (isRepeated ? "... " : " ")});
+}
+
+bool takesArguments(const Option& option) {
+    return option.positional == Positional::filled ||
+           (option.positional != Positional::no && option.count.has_value());
+}
+
+// One that is needed several times is shown as often, up to three times.
+void addArgument(Runs& runs, const Option& option) {
+    const std::string name = option.primaryName().empty() ? "ARGUMENT" : option.shownName();
+    const unsigned long least = option.count ? option.count->least : 0;
+    const unsigned long shown = std::min(least, 3UL);
+    for (unsigned long i = 1; i < shown; ++i) {
+        addWord(runs, name, false, false);
+    }
+    addWord(runs, name, least == 0, !option.count || !option.count->most || *option.count->most > shown);
+}
+
+bool hasShown(const CommandLine& line, bool isAction) {
+    return std::any_of(line.options.begin(), line.options.end(),
+                       [&](const Option& option) { return isShown(option) && option.isAction == isAction; });
+}
+
 Runs synopsis(const std::vector<std::string>& command, const CommandLine& line) {
     Runs runs;
     for (const std::string& word : command) {
         runs.push_back({Run::literal, word});
         runs.push_back({Run::plain, " "});
     }
-    const auto add = [&](const std::string& name, bool isOptional, bool isRepeated) {
-        runs.push_back({Run::plain, isOptional ? "[" : ""});
-        runs.push_back({Run::placeholder, name});
-        runs.push_back({Run::plain, std::string(isOptional ? "]" : "") + (isRepeated ? "... " : " ")});
-    };
-    const auto has = [&](bool isAction) {
-        return std::any_of(line.options.begin(), line.options.end(), [&](const Option& option) {
-            return isShown(option) && option.isAction == isAction;
-        });
-    };
-    if (has(true)) {
-        add("ACTION", false, false);
+    if (hasShown(line, true)) {
+        addWord(runs, "ACTION", false, false);
     }
-    if (has(false) || !line.mends.empty()) {
-        add("OPTION", true, true);
+    if (hasShown(line, false) || !line.mends.empty()) {
+        addWord(runs, "OPTION", true, true);
     }
     if (!line.verbs.empty()) {
-        add("VERB", false, false);
-        add("ARGUMENT", true, true);
+        addWord(runs, "VERB", false, false);
+        addWord(runs, "ARGUMENT", true, true);
     }
     for (const Option& option : line.options) {
-        if (option.positional == Positional::filled ||
-            (option.positional != Positional::no && option.count)) {
-            const std::string name = option.primaryName().empty() ? "ARGUMENT" : option.shownName();
-            const unsigned long least = option.count ? option.count->least : 0;
-            const unsigned long shown = std::min(least, 3UL);
-            for (unsigned long i = 1; i < shown; ++i) {
-                add(name, false, false);
-            }
-            add(name, least == 0, !option.count || !option.count->most || *option.count->most > shown);
+        if (takesArguments(option)) {
+            addArgument(runs, option);
         }
     }
     runs.back().text.erase(runs.back().text.find_last_not_of(' ') + 1);
