@@ -30,10 +30,10 @@ NameOutcome NameMatcher::look(const std::string& argument, const std::vector<Opt
 // A candidate that equals the typed name has the highest score possible, and only another equal one ties with
 // it. So if there is just one, the table need not be searched.
 bool NameMatcher::findWholeName(std::string_view typed, RegisteredOptionStorage& registry) {
-    std::size_t index = 0;
-    m_isWhole = registry.findOnly(typed, index);
+    std::size_t found = 0;
+    m_isWhole = registry.findOnly(typed, found);
     if (m_isWhole) {
-        m_index = static_cast<std::int64_t>(index);
+        m_index = static_cast<std::int64_t>(found);
     }
     return m_isWhole;
 }

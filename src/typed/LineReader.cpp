@@ -144,16 +144,16 @@ void LineReader::readName(std::size_t place) {
 // Nothing beats a whole name, and most are; what the parser would say of it is plain.
 bool LineReader::readWholeName(std::size_t place) {
     const std::string& argument = m_line.arguments[place];
-    ReadArgument read;
-    read.token = splitToken(argument, m_spaces);
-    const std::string_view typed = read.token.nameIn(argument);
+    ReadArgument whole;
+    whole.token = splitToken(argument, m_spaces);
+    const std::string_view typed = whole.token.nameIn(argument);
     const Option* const option = isOptionName(typed) ? findWhole(*m_line.chosen, typed) : nullptr;
     if (option == nullptr) {
         return false;
     }
-    read.name = typed;
-    read.isNegated = option->isSwitch() && beginsWithNegation(typed);
-    readNamed(place, *option, read);
+    whole.name = typed;
+    whole.isNegated = option->isSwitch() && beginsWithNegation(typed);
+    readNamed(place, *option, whole);
     return true;
 }
 
