@@ -100,7 +100,7 @@ TEST_F(IterationOverEntries, GivesOccurrencesWithoutValuesWhateverTheUpperBound)
     EXPECT_EQ(givenTo("verbose", 2, 3), "missing");
 }
 
-TEST_F(IterationOverEntries, GivesAgainWhatItHadNoMemoryFor) {
+TEST_F(IterationOverEntries, GivesAgainWhatIsLostWhenMemoryRunsOut) {
     entries.store({"level"}, occurrences({1}, {{"a", 2}}));
     EXPECT_TRUE(iteration.find("level", 0, INT_MAX));
     failing::arm(1, failing::Mode::forGood);
