@@ -1,9 +1,9 @@
-#include <cstdlib>
 #include <string>
 #include <vector>
 
 #include <gtest/gtest.h>
 
+#include "support/EnvironmentVariable.h"
 #include "support/TemporaryDirectory.h"
 #include "support/TypedLine.h"
 
@@ -16,18 +16,6 @@ using Texts = std::vector<std::string>;
 std::string wrong(const std::string& message, const std::string& path = "p") {
     return "2 p: " + message + "\nTry '" + path + " --help'.\n";
 }
-
-/// Sets a variable for as long as it lives.
-class Variable {
-public:
-    Variable(const char* name, const char* value) : m_name(name) { setenv(name, value, 1); }
-    Variable(const Variable&) = delete;
-    Variable& operator=(const Variable&) = delete;
-    ~Variable() { unsetenv(m_name); }
-
-private:
-    const char* m_name;
-};
 
 TEST(TypedLayers, TheStrongestSourceCounts) {
     const TemporaryDirectory directory;
@@ -42,8 +30,8 @@ TEST(TypedLayers, TheStrongestSourceCounts) {
     EXPECT_EQ(*list, (Texts{"f", "g", "h"}));
     EXPECT_EQ(list.count(), 2);
     {
-        const Variable levelVariable("TARV_TEST_LEVEL", "3");
-        const Variable listVariable("TARV_TEST_LIST", "e");
+        const EnvironmentVariable levelVariable("TARV_TEST_LEVEL", "3");
+        const EnvironmentVariable listVariable("TARV_TEST_LIST", "e");
         EXPECT_EQ(parseLine(program, {}), "ok");
         EXPECT_EQ(*level, 3);
         EXPECT_EQ(level.source(), tarv::Source::environment);
@@ -83,7 +71,7 @@ TEST(TypedLayers, VariablesAreReadByTheirKind) {
                 {"TARV_TEST_WORD", "re", "TARV_TEST_WORD=re: must be one of red or blue", false, 0}};
     for (const auto& row : rows) {
         SCOPED_TRACE(std::string(row.name) + "=" + row.value);
-        const Variable variable(row.name, row.value);
+        const EnvironmentVariable variable(row.name, row.value);
         EXPECT_EQ(parseLine(program, {}), *row.message == '\0' ? "ok" : wrong(row.message));
         if (*row.message == '\0') {
             EXPECT_EQ(*color, row.color);
@@ -145,7 +133,7 @@ TEST(TypedLayers, AFileThatIsNamedMustBeThere) {
     const std::string none = directory.pathOf("none");
     EXPECT_EQ(parseLine(program, {"--config=" + none}),
               wrong("cannot read the settings file '" + none + "'"));
-    const Variable variable("TARV_TEST_CONFIG", strong.c_str());
+    const EnvironmentVariable variable("TARV_TEST_CONFIG", strong.c_str());
     EXPECT_EQ(parseLine(program, {}), "ok");
     EXPECT_EQ(*level, 3);
     EXPECT_EQ(config.source(), tarv::Source::environment);
@@ -162,7 +150,7 @@ TEST(TypedLayers, AStrongerSourceExcludesAWeakerOne) {
     const auto overwrite = program.flag("overwrite", "");
     program.atMostOne(skip, overwrite);
     program.settingsFile(directory.write("conf", "overwrite\n").c_str());
-    const Variable variable("TARV_TEST_SKIP", "1");
+    const EnvironmentVariable variable("TARV_TEST_SKIP", "1");
     EXPECT_EQ(parseLine(program, {}), "ok");
     EXPECT_TRUE(*skip && !*overwrite && !overwrite.given());
     EXPECT_EQ(overwrite.source(), tarv::Source::initial);
@@ -177,7 +165,7 @@ TEST(TypedLayers, AnActionExcludesWhatDoesNotGoWithIt) {
     const auto list = program.action("list", "");
     const auto make = program.action("make", "");
     const auto level = program.option("level", "", 1).goesWith(make).env("TARV_TEST_LEVEL");
-    const Variable variable("TARV_TEST_LEVEL", "3");
+    const EnvironmentVariable variable("TARV_TEST_LEVEL", "3");
     EXPECT_EQ(parseLine(program, {"--make"}), "ok");
     EXPECT_EQ(*level, 3);
     EXPECT_EQ(parseLine(program, {"--list"}), "ok");
@@ -228,12 +216,12 @@ TEST(TypedLayers, AbbreviationsAreToldOrRefusedOnRequest) {
     const Texts line = {"--m-c=3", "lo"};
     EXPECT_EQ(parseLine(program, line), "ok");
     {
-        const Variable variable("TARV_ABBREVIATIONS", "warn");
+        const EnvironmentVariable variable("TARV_ABBREVIATIONS", "warn");
         EXPECT_EQ(parseLine(program, line),
                   "okp: '--m-c' is short for '--max-count'\np: 'lo' is short for 'log'\n");
         EXPECT_EQ(parseLine(program, {"--max-count=3", "log"}), "ok");
     }
-    const Variable variable("TARV_ABBREVIATIONS", "error");
+    const EnvironmentVariable variable("TARV_ABBREVIATIONS", "error");
     EXPECT_EQ(parseLine(program, line), wrong("'--m-c' must be written in full: '--max-count'", "p log"));
     EXPECT_EQ(parseLine(program, {"lo"}), wrong("'lo' must be written in full: 'log'", "p log"));
     EXPECT_EQ(parseLine(program, {"--max-count=3", "log"}), "ok");

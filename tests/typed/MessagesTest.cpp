@@ -6,6 +6,7 @@
 
 #include <gtest/gtest.h>
 
+#include "support/EnvironmentVariable.h"
 #include "support/TemporaryDirectory.h"
 #include "support/TypedLine.h"
 
@@ -43,18 +44,6 @@ void expectSaid(tarv::Program& program, const std::vector<Row>& rows) {
     }
 }
 
-/// Variables that are set for as long as it lives.
-class Variable {
-public:
-    Variable(const char* name, const char* value) : m_name(name) { setenv(name, value, 1); }
-    Variable(const Variable&) = delete;
-    Variable& operator=(const Variable&) = delete;
-    ~Variable() { unsetenv(m_name); }
-
-private:
-    const char* m_name;
-};
-
 TEST(TypedMessages, OfNames) {
     tarv::Program program("p", "1.0");
     program.option<int>("max-count,m", "");
@@ -82,9 +71,9 @@ TEST(TypedMessages, OfNames) {
          {{"--text="}, "2 p: --text=: the value is empty\nTry 'p --help'.\n"},
          {{"--text", ""}, "2 p: --text : the value is empty\nTry 'p --help'.\n"},
          {{"a\nb"}, "2 p: unexpected argument 'a\\x0ab'\nTry 'p --help'.\n"}});
-    const Variable warn("TARV_ABBREVIATIONS", "warn");
+    const EnvironmentVariable warn("TARV_ABBREVIATIONS", "warn");
     expectSaid(program, {{{"--max-c=3"}, "okp: '--max-c' is short for '--max-count'\n"}});
-    const Variable error("TARV_ABBREVIATIONS", "error");
+    const EnvironmentVariable error("TARV_ABBREVIATIONS", "error");
     expectSaid(program,
                {{{"--max-c=3"}, "2 p: '--max-c' must be written in full: '--max-count'\nTry 'p --help'.\n"}});
 }
@@ -118,9 +107,9 @@ TEST(TypedMessages, OfVerbs) {
          {{"--max-=3", "log"},
           "2 p: ambiguous option '--max-', could be '--max-count' or '--max-depth'\nTry 'p log --help'.\n"},
          {{"log", "x"}, "2 p: unexpected argument 'x'\nTry 'p log --help'.\n"}});
-    const Variable warn("TARV_ABBREVIATIONS", "warn");
+    const EnvironmentVariable warn("TARV_ABBREVIATIONS", "warn");
     expectSaid(program, {{{"rem", "add"}, "okp: 'rem' is short for 'remote'\n"}});
-    const Variable error("TARV_ABBREVIATIONS", "error");
+    const EnvironmentVariable error("TARV_ABBREVIATIONS", "error");
     expectSaid(program, {{{"rem", "add"},
                           "2 p: 'rem' must be written in full: 'remote'\nTry 'p remote add --help'.\n"}});
 }
@@ -270,7 +259,7 @@ TEST(TypedMessages, OfVariables) {
          "2 p: TARV_TEST_LIST=a,much: 'much' must be short\nTry 'p --help'.\n"}};
     for (const auto& [variable, message] : rows) {
         SCOPED_TRACE(message);
-        const Variable set(variable.first, variable.second);
+        const EnvironmentVariable set(variable.first, variable.second);
         EXPECT_EQ(parseLine(program, {}), message);
     }
 }
