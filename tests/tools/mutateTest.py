@@ -340,6 +340,16 @@ class MutateTest(unittest.TestCase):
         (self.root / "src/toy/moves.cpp").write_text(MOVES)
         self.assertEqual(sorted_blocks(self.mutate("--list", "--only", "src/toy/moves.cpp").stdout), sorted_blocks(MOVED))
 
+    def test_takes_files_and_folders_together(self):
+        (self.root / "src/toy/moves.cpp").write_text(MOVES)
+        (self.root / "src/toybox").mkdir()
+        (self.root / "src/toybox/left.cpp").write_text(MOVES)
+        self.assertEqual(sorted_blocks(self.mutate("--list", "--only", "src/toy/").stdout),
+                         sorted_blocks(MUTANTS + "\n" + MOVED))
+        self.assertEqual(sorted_blocks(self.mutate("--list", "--only", "src/toy/toy.cpp",
+                                                   "--only", "src/toy/moves.cpp").stdout),
+                         sorted_blocks(MUTANTS + "\n" + MOVED))
+
     def test_prints_what_the_tests_do_not_notice(self):
         self.build_test()
         outcome = self.mutate()
