@@ -17,7 +17,7 @@ declare -A groups=(
     [ci]="ccache clang-format clang-tidy cppcheck dpkg-dev file lintian shellcheck"
     [coverage]="gcovr"
     [memcheck]="valgrind"
-    [benchmark]="git libbenchmark-dev python3 time valgrind"
+    [benchmark]="git gnuplot-nox libbenchmark-dev python3 time valgrind"
     [peers]="libabsl-dev libargtable2-dev libboost-program-options-dev libcli11-dev libcxxopts-dev
         libgflags-dev libpopt-dev libtclap-dev llvm-14-dev"
 )

@@ -33,7 +33,7 @@ __attribute__((visibility("default"))) int addedLater() {
 }
 } // namespace tarv_3_3
 END
-"$other_compiler" -std=c++17 -O1 -shared -fPIC -fvisibility=hidden -I "$work/include" -I "$work/src" -I "$generated" \
+"$other_compiler" -std=c++17 -O0 -shared -fPIC -fvisibility=hidden -I "$work/include" -I "$work/src" -I "$generated" \
     "$work"/src/*/*.cpp "$work/src/added.cpp" \
     -Wl,-soname,libtarv.so.3.3 -Wl,--version-script="$root/cmake/tarv.map" -o "$work/lib/libtarv.so.3.3"
 nm --dynamic --defined-only "$work/lib/libtarv.so.3.3" | grep ' _ZN8tarv_3_310addedLaterEv' >/dev/null
