@@ -34,6 +34,7 @@ TEST(FromString, ReadsABoolFromZeroAndOneAlone) {
         {"yes", none},    {"on", none},   {"", none},
         {" ", none},      {"1x", none},   {"1 0", none},
         {"1.0", none},    {"0x1", none},  {"18446744073709551617", none},
+        {"1~", none},     {"0~", none},
     };
     expectConverted(vtBool, rows);
 }

@@ -156,6 +156,12 @@ TEST_F(ParseResultQueries, FindTheFirstInRangeWhetherPositionsAscendOrNot) {
     }
 }
 
+// The counter wraps around, or a handler parses into the same result, between the values of one list.
+TEST_F(ParseResultQueries, FindTheFirstValueInRangeWhetherThoseOfAnOccurrenceAscendOrNot) {
+    result.store(optionNamed({"list"}), occurrences({20}, {{"a", 5}, {"b", 30}, {"c", 10}, {"d", 40}}));
+    EXPECT_EQ(get("list", 20, 50), "\"b\"@30");
+}
+
 // The occurrence is in the range, its value is not.
 TEST_F(ParseResultQueries, FindNoValueBehindTheUpperBoundOfAnOccurrenceInRange) {
     result.store(optionNamed({"wide"}), occurrences({60}, {{"far", 99}}));
