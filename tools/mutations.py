@@ -26,7 +26,7 @@ REMOVABLE = re.compile(r"(\w+(::\w+)*\s*(\(|\.|->|\[|[-+|&]?=[^=]|\+\+|--)"
                        r"|\+\+|--|\*|(delete|throw|break|continue)\b)")
 
 # How much memory is asked for in advance: no test can notice, since what needs more takes more.
-ROOM = re.compile(r"\.reserve\(|^constexpr std::size_t (usual|expected|first|growth)\w* = \d+;$")
+ROOM = re.compile(r"\.reserve\(|^constexpr std::size_t (typical|expected|first|growth)\w* = \d+;$")
 
 # What `return {};` returns as well.
 EMPTY_VALUES = {"{}", "nullptr", "Value()", "parseOk", "valueFound", "remarkStored"}

@@ -116,6 +116,8 @@ TEST(HostileLifetime, AResultFilledByAParserThatDoesNotKnowItsOptionsIsRefused) 
     ASSERT_EQ(parse(first, {"--name=x"}), parseOk);
     EXPECT_EQ(second.parser->parseStream("--other=y", first.result), 1);
     EXPECT_EQ(stored(first, {"name", "other"}), "name=x other=y");
+    EXPECT_EQ(parse(first, {"--name=z"}), 1);
+    EXPECT_EQ(stored(first, {"name", "other"}), "name=x,z other=y");
 }
 
 TEST(HostileLifetime, AResultOfAnotherParserThatKnowsItsOptionsIsFilled) {

@@ -126,6 +126,13 @@ TEST_F(ParseResultStore, KeepsAnOptionApartFromOneThatHasItsNameAsASynonym) {
     EXPECT_EQ(entries(), "a@1@2@3 b@1@3 x@2");
 }
 
+TEST_F(ParseResultStore, AppendsOnceUnderNewNamesThatCameWithAKnownOne) {
+    result.store(optionNamed({"c"}), nextOccurrence());
+    result.store(optionNamed({"a", "b", "c"}), nextOccurrence());
+    result.store(optionNamed({"a", "b", "c"}), nextOccurrence());
+    EXPECT_EQ(entries(), "a@2@3 b@2@3 c@2@3");
+}
+
 TEST_F(ParseResultStore, AppendsUnderTheNamesOfTheRepetitionAlone) {
     result.store(optionNamed({"a", "x", "y"}), nextOccurrence());
     result.store(optionNamed({"a", "y", "z"}), nextOccurrence());
@@ -250,6 +257,16 @@ TEST_F(ParseResultStore, KnowsWhetherOneParserAloneHasStored) {
     EXPECT_FALSE(result.isOnlyFrom(6));
     result.noteParser(5);
     EXPECT_FALSE(result.isOnlyFrom(5));
+}
+
+// A handler may parse with other parsers before anything is stored.
+TEST_F(ParseResultStore, IsOfNoParserWhenSeveralBeganBeforeTheFirstStored) {
+    for (const std::uint64_t number : {5U, 6U, 6U}) {
+        result.noteParser(number);
+    }
+    result.store(optionNamed({"a"}), nextOccurrence());
+    EXPECT_FALSE(result.isOnlyFrom(5));
+    EXPECT_FALSE(result.isOnlyFrom(6));
 }
 
 TEST_F(ParseResultStore, IsOfNoParserWhenSomebodyElseStoredFirst) {
