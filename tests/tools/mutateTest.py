@@ -16,10 +16,10 @@ bool isSmall(const std::vector<int>& list) {
     return list.size() < 3;
 }
 
-constexpr std::size_t usualSize = 4;
+constexpr std::size_t typicalSize = 4;
 
 void makeRoom(std::vector<int>& list) {
-    list.reserve(2 * usualSize);
+    list.reserve(2 * typicalSize);
 }
 
 const char* describe(int& calls, bool loud) {
