@@ -9,8 +9,10 @@ int main(int argc, char** argv) {
         for (const std::string& tag : *tasks.tags) {
             std::printf(", %s", tag.c_str());
         }
-        std::puts(*tasks.priority == Priority::high ? ", at once" : "");
+        std::puts(*tasks.priority == Priority::at_once ? ", at once" : "");
     });
-    tasks.list.does([&] { std::printf("list %d of %s\n", *tasks.count, tasks.file->c_str()); });
+    tasks.list.does([&] {
+        std::printf("list %d of %s%s\n", *tasks.count, tasks.file->c_str(), *tasks.all ? ", all" : "");
+    });
     return tasks.program.run(argc, argv);
 }

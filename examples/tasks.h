@@ -6,7 +6,7 @@
 
 namespace tarv = tarv_3_3::typed;
 
-enum class Priority { low, normal, high };
+enum class Priority { low, normal, at_once };
 
 /// The command line of tasks.
 struct Tasks {
@@ -22,4 +22,5 @@ struct Tasks {
 
     tarv::Command& list = program.verb("list", "Show the tasks.");
     tarv::Handle<int> count = list.option("max-count,n", "Show no more than this many.", 10).range(1, 99);
+    tarv::Handle<bool> all = list.flag("all,a", "Show those that are done as well.");
 };
