@@ -12,8 +12,9 @@
 namespace tarv_program {
 
 void print(const std::string& text) {
-    const bool isWritten = std::fwrite(text.data(), 1, text.size(), stdout) == text.size();
-    if (!isWritten || std::fflush(stdout) != 0) {
+    std::fwrite(text.data(), 1, text.size(), stdout);
+    // What the library printed before may have been lost, too.
+    if (std::fflush(stdout) != 0 || std::ferror(stdout) != 0) {
         throw Failure(std::string("cannot write: ") + std::strerror(errno));
     }
 }
