@@ -1,13 +1,9 @@
 #include <gtest/gtest.h>
 
-#include <filesystem>
-
-#include <sys/stat.h>
 #include <tarv_3_3/description.h>
 
 #include "Described.h"
 #include "lint/lintScript.h"
-#include "support/TemporaryDirectory.h"
 
 using namespace tarv_3_3;
 
@@ -184,67 +180,6 @@ TEST(ReadCalls, ReadsATreeThatIsDeeperThanAnyStack) {
     }
     tree.append(depth, ']').append("}");
     EXPECT_EQ(readCalls(tree, "").size(), 0U);
-}
-
-class ReplaceScriptTest : public testing::Test {
-protected:
-    ReplaceScriptTest() {
-        script.path = directory.write("script.sh", script.contents);
-        Diagnostic found = {false, 1, 6, "", Replacement{5, 5, "--output"}};
-        script.diagnostics = {found};
-    }
-
-    std::string left() const {
-        std::string names;
-        for (const auto& entry : std::filesystem::directory_iterator(directory.pathOf(""))) {
-            names += entry.path().filename().string() + " ";
-        }
-        return names;
-    }
-
-    TemporaryDirectory directory;
-    LintedScript script = {"", "pack --out=x\n", {}};
-};
-
-TEST_F(ReplaceScriptTest, WritesWhatIsMendedAndKeepsTheMode) {
-    chmod(script.path.c_str(), 0741);
-    replaceScript(script);
-    struct stat file = {};
-    stat(script.path.c_str(), &file);
-    EXPECT_EQ(file.st_mode & 07777U, 0741U);
-    EXPECT_EQ(left(), "script.sh ");
-    std::string contents;
-    {
-        std::ifstream stream(script.path);
-        std::getline(stream, contents);
-    }
-    EXPECT_EQ(contents, "pack --output=x");
-}
-
-TEST_F(ReplaceScriptTest, LeavesAScriptAloneThatWasChangedMeanwhile) {
-    directory.write("script.sh", "pack --out=y\n");
-    EXPECT_THROW(replaceScript(script), Failure);
-    EXPECT_EQ(left(), "script.sh ");
-    std::ifstream stream(script.path);
-    std::string contents;
-    std::getline(stream, contents);
-    EXPECT_EQ(contents, "pack --out=y");
-}
-
-TEST_F(ReplaceScriptTest, WritesNothingWhereNothingIsToBeMended) {
-    script.diagnostics.clear();
-    struct stat before = {};
-    stat(script.path.c_str(), &before);
-    replaceScript(script);
-    struct stat now = {};
-    stat(script.path.c_str(), &now);
-    EXPECT_EQ(now.st_ino, before.st_ino);
-}
-
-TEST_F(ReplaceScriptTest, SaysThatAScriptIsGone) {
-    std::filesystem::remove(script.path);
-    EXPECT_THROW(replaceScript(script), Failure);
-    EXPECT_EQ(left(), "");
 }
 
 TEST(Mended, ChangesAPlaceOnce) {
