@@ -88,8 +88,11 @@ public:
     }
 
     void forEach(const std::function<void(const Abbreviations&)>& use) {
-        Abbreviations group = {"", 1};
-        add(0, group, m_touched, use);
+        std::vector<const Words*> fitting;
+        for (const Words& words : m_touched) {
+            fitting.push_back(&words);
+        }
+        add(0, {"", 1}, fitting, use);
     }
 
 private:
@@ -102,7 +105,7 @@ private:
         return all;
     }
 
-    void add(std::size_t place, const Abbreviations& group, const std::vector<Words>& fitting,
+    void add(std::size_t place, const Abbreviations& group, const std::vector<const Words*>& fitting,
              const std::function<void(const Abbreviations&)>& use) {
         if (place == m_words.size()) {
             use(group);
@@ -110,9 +113,9 @@ private:
         }
         for (const Cut& cut : m_cuts[place]) {
             const std::string_view typed = m_words[place].substr(0, cut.greatest);
-            std::vector<Words> left;
-            for (const Words& words : fitting) {
-                if (words[place].substr(0, typed.size()) == typed) {
+            std::vector<const Words*> left;
+            for (const Words* const words : fitting) {
+                if ((*words)[place].substr(0, typed.size()) == typed) {
                     left.push_back(words);
                 }
             }
