@@ -80,9 +80,13 @@ public:
 
     void judge(ExplainedLine& line) const {
         const LineAnswer answer = askLine(m_side, m_arguments);
-        line.isMended = m_isMended;
         // Help goes before any complaint.
         line.isAccepted = m_isAnswered || (answer.isAccepted && m_refusedValue.empty());
+        if (m_isMended) {
+            line.doubt = "The program mends this before it is parsed; whether it is accepted cannot be told.";
+        } else if (line.isAccepted && !m_isAnswered && !m_side.line().verbs.empty()) {
+            line.doubt = "There is no verb; whether the program does without one cannot be told.";
+        }
         line.message = answer.isAccepted ? m_refusedValue : answer.message;
     }
 
@@ -220,8 +224,27 @@ private:
     bool m_isAnswered = false;
 };
 
-const CommandLine& verbOf(const LevelPart& part) {
-    return part.side.line().verbs[part.verb.place];
+void addVerb(ExplainedLine& line, const LevelPart& part) {
+    const std::string& typed = part.arguments[part.count];
+    if (part.verb.kind == Meaning::one) {
+        const CommandLine& verb = part.side.line().verbs[part.verb.place];
+        line.words.push_back({shellQuoted(typed), "verb " + shellQuoted(verb.names.front()), "",
+                              part.verb.name == typed ? "" : "abbreviated"});
+        return;
+    }
+    const bool isAmbiguous = part.verb.kind == Meaning::several;
+    line.words.push_back({shellQuoted(typed), "?", "",
+                          isAmbiguous ? "ambiguous: " + visible(joined(part.verb.candidates)) : "no verb"});
+    line.message = "'" + typed + "' is " + (isAmbiguous ? "short for several verbs" : "no verb");
+}
+
+void addHelp(ExplainedLine& line, const LevelPart& part) {
+    const std::string& typed = part.arguments[part.count];
+    line.words.push_back({shellQuoted(typed), "verb help", "", typed == "help" ? "" : "abbreviated"});
+    for (std::size_t i = part.count + 1; i < part.arguments.size(); ++i) {
+        line.words.push_back({shellQuoted(part.arguments[i]), "what help is asked for", "", ""});
+    }
+    line.isAccepted = true;
 }
 
 } // namespace
@@ -231,21 +254,13 @@ ExplainedLine explainLine(const CommandLine& program, const std::vector<std::str
     forEachLevel(program, arguments, [&](const LevelPart& part) {
         Level level(part);
         level.add(explained);
-        if (!part.isVerbNext) {
+        if (part.isVerbNext) {
+            addVerb(explained, part);
+        } else if (part.isHelpNext) {
+            addHelp(explained, part);
+        } else {
             level.addNotGiven(explained);
             level.judge(explained);
-            return;
-        }
-        const std::string& typed = part.arguments[part.count];
-        const bool isAmbiguous = part.verb.kind == Meaning::several;
-        if (part.verb.kind == Meaning::one) {
-            explained.words.push_back({shellQuoted(typed), "verb " + shellQuoted(verbOf(part).names.front()),
-                                       "", part.verb.name == typed ? "" : "abbreviated"});
-        } else {
-            explained.words.push_back(
-                {shellQuoted(typed), "?", "",
-                 isAmbiguous ? "ambiguous: " + visible(joined(part.verb.candidates)) : "no verb"});
-            explained.message = "'" + typed + "' is " + (isAmbiguous ? "short for several verbs" : "no verb");
         }
     });
     return explained;
@@ -273,8 +288,8 @@ std::string table(const ExplainedLine& line) {
     for (const std::string& sentence : line.notGiven) {
         text += "Not given: " + sentence + ".\n";
     }
-    if (line.isMended) {
-        return text + "The program mends this before it is parsed; whether it is accepted cannot be told.\n";
+    if (!line.doubt.empty()) {
+        return text + line.doubt + "\n";
     }
     return text + (line.isAccepted ? "Accepted.\n" : "Refused: " + visible(line.message) + "\n");
 }

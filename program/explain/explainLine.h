@@ -22,8 +22,9 @@ struct ExplainedLine {
     std::vector<ExplainedWord> words;
     /// What is not given, and what it is then.
     std::vector<std::string> notGiven;
-    /// Whether the program changes some of it before it is parsed, so that nothing is known of the outcome.
-    bool isMended = false;
+    /// Why nothing is known of the outcome, such as that the program mends it before it is parsed; "" when it
+    /// is.
+    std::string doubt;
     bool isAccepted = false;
     /// Why it is not.
     std::string message;

@@ -4,6 +4,7 @@
 #include <memory>
 #include <new>
 
+#include "model/mends.h"
 #include "model/verbs.h"
 
 namespace tarv_program {
@@ -43,6 +44,11 @@ std::size_t firstNameless(const Explanation& explanation, const std::vector<std:
     return place;
 }
 
+// Verbs that are declared go before.
+bool asksForHelp(const CommandLine& program, const std::string& word, const Meaning& verb) {
+    return verb.kind == Meaning::nothing && mendOf(program, "--" + word) == "help";
+}
+
 } // namespace
 
 void forEachLevel(const CommandLine& program, const std::vector<std::string>& arguments,
@@ -57,12 +63,12 @@ void forEachLevel(const CommandLine& program, const std::vector<std::string>& ar
                                             arguments.end());
         const OwnedExplanation explanation = explained(side, left);
         const std::size_t count = line.verbs.empty() ? left.size() : firstNameless(*explanation, left);
-        LevelPart part = {side, left, *explanation, first, count, count < left.size(), Meaning()};
-        // Programs of that kind have the verb help.
-        part.isVerbNext = part.isVerbNext && (program.mends.empty() || left[count] != "help");
+        LevelPart part = {side, left, *explanation, first, count, count < left.size(), Meaning(), false};
         if (part.isVerbNext) {
             const CommandLine names = verbsAsOptions(line);
             part.verb = Side(names).meaningOf(left[count]);
+            part.isHelpNext = lines.size() == 1 && asksForHelp(line, left[count], part.verb);
+            part.isVerbNext = !part.isHelpNext;
         }
         use(part);
         if (!part.isVerbNext || part.verb.kind != Meaning::one) {

@@ -24,6 +24,9 @@ struct LevelPart {
     /// The argument behind them is to be a verb: what it means among the verbs of `side`.
     bool isVerbNext;
     Meaning verb;
+    /// The argument behind them asks for help instead, as it does in programs that mend their command lines;
+    /// verbs behind it say with what.
+    bool isHelpNext;
 
     const tarv_3_3::ExplainedArgument& at(std::size_t place) const {
         return explainedAt(explanation, static_cast<unsigned>(place));
@@ -31,7 +34,7 @@ struct LevelPart {
 };
 
 /// Calls `use` for the program, and for each verb in the arguments with those behind it. Ends behind one that
-/// is no verb.
+/// is no verb, and in front of what asks for help.
 void forEachLevel(const CommandLine& program, const std::vector<std::string>& arguments,
                   const std::function<void(const LevelPart&)>& use);
 

@@ -67,7 +67,7 @@ void declareExplain(typed::Program& tool) {
     verb.does([=] {
         const ExplainedLine line = explainLine(loadDescription(*program), *arguments);
         print(table(line));
-        return line.isAccepted || line.isMended ? 0 : 1;
+        return line.isAccepted || !line.doubt.empty() ? 0 : 1;
     });
 }
 

@@ -44,6 +44,8 @@ private:
         }
         if (part.isVerbNext) {
             checkVerb(wordAt(part, part.count), part);
+        } else if (part.isHelpNext) {
+            checkVerbName(wordAt(part, part.count), "help");
         }
     }
 
@@ -55,9 +57,15 @@ private:
             report(word, true, quoted(word.text) + " is ambiguous: " + list(part.verb.candidates, ""));
         } else if (part.verb.kind != Meaning::one) {
             report(word, true, quoted(word.text) + " is no verb");
-        } else if (part.verb.name != word.text) {
-            report(word, false, quoted(word.text) + " is short for " + quoted(part.verb.name));
-            mend(word, 0, word.text.size(), part.verb.name);
+        } else {
+            checkVerbName(word, part.verb.name);
+        }
+    }
+
+    void checkVerbName(const Word& word, const std::string& name) {
+        if (word.text != name) {
+            report(word, false, quoted(word.text) + " is short for " + quoted(name));
+            mend(word, 0, word.text.size(), name);
         }
     }
 

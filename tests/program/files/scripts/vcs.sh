@@ -4,3 +4,4 @@ vcs --help
 vcs log --hel
 vcs help log
 vcs sta --no-such
+vcs he log
