@@ -151,6 +151,36 @@ TEST(Compare, FindsValuesThatAreRefusedOrTakenForOthers) {
     });
 }
 
+TEST(Compare, FindsNarrowerRangesOfEveryKind) {
+    const struct {
+        das_variant_type_t kind;
+        const char* older;
+        const char* newer;
+        const char* refused;
+    } rows[] = {
+        {vtInt32, "-5..9", "-4..9", "-5"},
+        {vtInt32, "..1.5", "..0.5", "1"},
+        {vtUInt32, "1..4294967295", "1..4294967294", "4294967295"},
+        {vtInt64, "-9223372036854775808..", "-9223372036854775807..", "-9223372036854775808"},
+        {vtUInt64, "..18446744073709551615", "..18446744073709551614", "18446744073709551615"},
+        {vtDouble, "0.25..0.5", "0.25..0.375", "0.5"},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(std::string(row.older) + " and " + row.newer);
+        CommandLine older = described(nothing);
+        Option option;
+        option.kind = row.kind;
+        option.names = {"n"};
+        option.notes = {{"range", row.older}};
+        older.options = {option};
+        CommandLine newer = older;
+        newer.options[0].notes = {{"range", row.newer}};
+        EXPECT_EQ(reportAsBaseline(compare(older, newer)),
+                  std::string("value: tool --n=") + row.refused + ": is refused\n");
+        EXPECT_EQ(reportAsBaseline(compare(newer, older)), "");
+    }
+}
+
 TEST(Compare, FindsRulesThatRefuseMore) {
     expectRows({
         {"one that is required now", [](IParser& p) { p.option("a", "", vtNull); },
@@ -343,6 +373,8 @@ TEST(Compare, ComparesArgumentsByTheirOrder) {
     const Option source = argument("source", vtString, {1, {}});
     const Option target = argument("target", vtString, {1, 1});
     const Option number = argument("target", vtInt32, {1, 1});
+    const Option amount = argument("amount", vtInt32, {1, 1});
+    const Option length = argument("length", vtInt32, {1, 1});
     const Option place = argument("place", vtString, {1, 1});
     const Option more = argument("more", vtString, {0, 1});
     Option wide = argument("number", vtInt32, {1, 1});
@@ -357,6 +389,7 @@ TEST(Compare, ComparesArgumentsByTheirOrder) {
     } rows[] = {
         {"nothing changed", {source, target}, {source, target}, ""},
         {"another name, which nobody types", {source, target}, {source, place}, ""},
+        {"other names for both", {target, amount}, {place, length}, ""},
         {"the other way round",
          {source, target},
          {target, source},

@@ -57,6 +57,9 @@ TEST(ReadDescription, NamesThePlaceOfWhatIsWrong) {
              ", \"declarations\": [{\"role\": \"option\", \"kind\": \"none\", \"text\": \"\xEF\xBF\xBD"
              "4\"}]}",
          "it: declarations[0].text: holds U+FFFD without the two digits of a byte"},
+        {std::string(begin) +
+             ", \"declarations\": [{\"role\": \"option\", \"kind\": \"none\", \"text\": \"\xEF\xBF\xBD\"}]}",
+         "it: declarations[0].text: holds U+FFFD without the two digits of a byte"},
         {std::string(begin) + R"(, "verbs": [{"flags": []}]})", "it: verbs[0] has no names"},
         {std::string(begin) + "}", "read"},
     };
