@@ -1,5 +1,7 @@
 #include <algorithm>
 
+#include <tarv_3_3/description.h>
+
 #include "pages/Page.h"
 #include "pages/entries.h"
 
@@ -62,6 +64,16 @@ void addLastResort(Section& options, const CommandLine& line) {
     }
 }
 
+// What a program of the typed face requires, it says of the option as well.
+bool isSaidOfItsOption(const Rule& rule, const CommandLine& line) {
+    return rule.kind == tarv_3_3::ruleRequired &&
+           std::any_of(line.options.begin(), line.options.end(), [&](const Option& option) {
+               const std::string* const required = option.note("required");
+               return required != nullptr && *required == "1" &&
+                      rule.names == std::vector<std::string>{option.primaryName()};
+           });
+}
+
 // Options in the order of the topics, those without one first.
 void addOptions(std::vector<Section>& sections, const CommandLine& line, int level) {
     Section actions = section("Actions", level);
@@ -89,7 +101,7 @@ void addOptions(std::vector<Section>& sections, const CommandLine& line, int lev
     }
     Section rules = section("Rules", level);
     for (const Rule& rule : line.rules) {
-        if (!rule.names.empty()) {
+        if (!rule.names.empty() && !isSaidOfItsOption(rule, line)) {
             rules.paragraphs.push_back(sentenceOf(rule));
         }
     }
