@@ -81,7 +81,7 @@ TEST(ReadDescription, RefusesVerbsThatNeverEnd) {
 
 TEST(ReadDescription, ReadsWhatAProgramOfSeveralVerbsAdds) {
     const CommandLine line = readDescription(R"({"format": "tarv-description", "version": "1.3",
-        "program": {"name": "vcs", "version": "2.1", "text": "Tracks."}, "unknown": [1],
+        "program": {"name": "vcs", "version": "2.1", "text": "Tracks\ufffdC3 \ufffdFF."}, "unknown": [1],
         "flags": ["rejectUnknown", "noLists"], "optionFiles": true, "mends": ["numbers"],
         "settings": [{"file": "/etc/vcs"}, {"option": "config"}], "topics": [{"name": "a", "title": "A"}],
         "declarations": [{"role": "option", "kind": "string", "names": ["file"], "positional": "filled",
@@ -96,7 +96,7 @@ TEST(ReadDescription, ReadsWhatAProgramOfSeveralVerbsAdds) {
     EXPECT_EQ(line.minorVersion, 3U);
     EXPECT_EQ(line.names, std::vector<std::string>{"vcs"});
     EXPECT_EQ(line.version, "2.1");
-    EXPECT_EQ(line.text, "Tracks.");
+    EXPECT_EQ(line.text, "Tracks\xC3 \xFF.");
     EXPECT_EQ(line.flags, flagRejectUnknown | flagNoLists);
     EXPECT_TRUE(line.readsOptionFiles);
     EXPECT_EQ(line.mends, std::vector<std::string>{"numbers"});
