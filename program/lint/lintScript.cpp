@@ -19,7 +19,7 @@ constexpr unsigned deepestScript = 3;
 
 std::string treeOfFile(const std::string& path) {
     return outputOf({"shfmt", "--to-json", "-ln=bash"},
-                    Limits{std::chrono::seconds(60), 1024UL * 1024 * 1024}, path);
+                    Limits{std::chrono::seconds(60), 1024UL * 1024 * 1024}, path, Complaints::areTold);
 }
 
 std::string treeOf(const std::string& path) {

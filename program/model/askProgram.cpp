@@ -21,7 +21,8 @@ using Clock = std::chrono::steady_clock;
 /// A child process in a process group of its own, and the end of the pipe that its output comes through.
 class Child {
 public:
-    Child(const std::vector<std::string>& command, const std::string& input) : m_name(command.front()) {
+    Child(const std::vector<std::string>& command, const std::string& input, Complaints complaints)
+        : m_name(command.front()), m_complaints(complaints) {
         int ends[2];
         if (pipe2(ends, O_CLOEXEC) != 0) {
             throw Failure(m_name + ": " + std::strerror(errno));
@@ -67,7 +68,7 @@ public:
         }
     }
 
-    void expectSuccess(Clock::time_point end) {
+    void expectSuccess(Clock::time_point end, const std::string& output) {
         int status = 0;
         while (waitpid(m_process, &status, WNOHANG) == 0) {
             if (Clock::now() > end) {
@@ -78,6 +79,9 @@ public:
         m_process = 0;
         if (WIFSIGNALED(status)) {
             throw Failure(m_name + ": ended by signal " + std::to_string(WTERMSIG(status)));
+        }
+        if (WEXITSTATUS(status) != 0 && m_complaints == Complaints::areTold && !output.empty()) {
+            throw Failure(m_name + ": " + output.substr(0, output.find('\n')));
         }
         if (WEXITSTATUS(status) != 0) {
             throw Failure(m_name + ": ended with exit code " + std::to_string(WEXITSTATUS(status)));
@@ -91,7 +95,11 @@ private:
         posix_spawn_file_actions_addopen(&actions, STDIN_FILENO, input.empty() ? "/dev/null" : input.c_str(),
                                          O_RDONLY, 0);
         posix_spawn_file_actions_adddup2(&actions, output, STDOUT_FILENO);
-        posix_spawn_file_actions_addopen(&actions, STDERR_FILENO, "/dev/null", O_WRONLY, 0);
+        if (m_complaints == Complaints::areTold) {
+            posix_spawn_file_actions_adddup2(&actions, output, STDERR_FILENO);
+        } else {
+            posix_spawn_file_actions_addopen(&actions, STDERR_FILENO, "/dev/null", O_WRONLY, 0);
+        }
         posix_spawnattr_t attributes;
         posix_spawnattr_init(&attributes);
         posix_spawnattr_setflags(&attributes, POSIX_SPAWN_SETPGROUP);
@@ -119,19 +127,20 @@ private:
 
     [[noreturn]] void refuseToWait() { throw Failure(m_name + ": takes too long"); }
 
-    std::string m_name;
+    const std::string m_name;
+    const Complaints m_complaints;
     int m_output = -1;
     pid_t m_process = 0;
 };
 
 } // namespace
 
-std::string outputOf(const std::vector<std::string>& command, const Limits& limits,
-                     const std::string& input) {
+std::string outputOf(const std::vector<std::string>& command, const Limits& limits, const std::string& input,
+                     Complaints complaints) {
     const Clock::time_point end = Clock::now() + limits.time;
-    Child child(command, input);
+    Child child(command, input, complaints);
     std::string output = child.readAll(limits, end);
-    child.expectSuccess(end);
+    child.expectSuccess(end, output);
     return output;
 }
 

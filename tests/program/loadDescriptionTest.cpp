@@ -64,6 +64,35 @@ TEST_F(LoadDescriptionTest, RefusesWhatIsNoAnswer) {
     }
 }
 
+TEST_F(LoadDescriptionTest, TellsWhatAProgramComplainsOfOnRequest) {
+    const std::string path = directory.pathOf("tool");
+    const struct {
+        const char* script;
+        const char* hidden;
+        const char* told;
+    } rows[] = {
+        {"echo 2:5: bad >&2; echo more >&2; exit 1", ": ended with exit code 1", ": 2:5: bad"},
+        {"printf bad >&2; exit 1", ": ended with exit code 1", ": bad"},
+        {"exit 1", ": ended with exit code 1", ": ended with exit code 1"},
+        {"echo bad; kill -9 $$", ": ended by signal 9", ": ended by signal 9"},
+    };
+    const auto failureWith = [&](Complaints complaints) {
+        try {
+            return outputOf({path}, Limits(), "", complaints);
+        } catch (const Failure& failure) {
+            return std::string(failure.what());
+        }
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.script);
+        program("tool", row.script);
+        EXPECT_EQ(failureWith(Complaints::areHidden), path + row.hidden);
+        EXPECT_EQ(failureWith(Complaints::areTold), path + row.told);
+    }
+    program("tool", "echo said; echo lost >&2");
+    EXPECT_EQ(failureWith(Complaints::areHidden), "said\n");
+}
+
 TEST_F(LoadDescriptionTest, KillsAProgramThatRunsOnWithAllItsChildren) {
     const std::string path =
         program("tool", "(sleep 1; echo x >" + directory.pathOf("left") + ") & sleep 60");
