@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
 
+#include <nlohmann/json.hpp>
+
 #include <tarv_3_3/description.h>
 
 #include "Described.h"
@@ -170,6 +172,22 @@ TEST(ReadCalls, TrustsNoOffsetThatDoesNotFitTheScript) {
     ASSERT_EQ(calls.size(), 1U);
     EXPECT_EQ(calls[0][0].text, "pack");
     EXPECT_FALSE(calls[0][0].isContiguous(0, 4));
+}
+
+TEST(ReadCalls, TakesABackslashOutInFrontOfAnotherByte) {
+    const struct {
+        const char* source;
+        const char* expected;
+    } rows[] = {{"pack", "pack"}, {"\\pack", "pack"}, {"pa\\\\ck", "pa\\ck"}, {"pack\\", "pack\\"}};
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.source);
+        const std::string place = R"({"Offset": 0, "Line": 1, "Col": 1})";
+        const std::string value = nlohmann::json(row.source).dump();
+        const std::string tree = R"({"Type": "File", "Cmd": {"Type": "CallExpr", "Args": [{"Pos": )" + place +
+                                 R"(, "Parts": [{"Type": "Lit", "Value": )" + value + R"(, "ValuePos": )" +
+                                 place + "}]}]}}";
+        EXPECT_EQ(readCalls(tree, row.source).at(0).at(0).text, row.expected);
+    }
 }
 
 TEST(ReadCalls, ReadsATreeThatIsDeeperThanAnyStack) {
