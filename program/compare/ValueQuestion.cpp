@@ -14,8 +14,6 @@ CommandLine alone(const Option& option) {
     Option& only = line.options.front();
     only.names = {"value"};
     only.isAction = false;
-    only.tags.clear();
-    only.topic.clear();
     only.notes.clear();
     only.defaultText.reset();
     only.separator = option.isSlot() ? '\0' : option.separator;
