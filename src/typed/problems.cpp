@@ -5,6 +5,7 @@
 #include <unordered_set>
 
 #include "description/terminalText.h"
+#include "options/findOption.h"
 #include "recognition/tokenSyntax.h"
 #include "typed/CommandLine.h"
 #include "typed/Taking.h"
@@ -21,8 +22,6 @@ bool endsName(char byte) {
 bool isOneOf(const std::string& text, std::initializer_list<const char*> texts) {
     return std::any_of(texts.begin(), texts.end(), [&](const char* known) { return text == known; });
 }
-
-constexpr std::string_view negation = "no-";
 
 // Commands nest only as deep as the host declares them.
 // NOLINTBEGIN(misc-no-recursion)
@@ -74,8 +73,7 @@ private:
     static bool negates(const std::vector<std::string_view>& names,
                         const std::vector<std::string_view>& switches) {
         return std::any_of(names.begin(), names.end(), [&](std::string_view name) {
-            return name.substr(0, negation.size()) == negation &&
-                   holds(switches, name.substr(negation.size()));
+            return beginsWithNegation(name) && holds(switches, name.substr(negation.size()));
         });
     }
 
@@ -87,8 +85,8 @@ private:
     }
 
     bool isOwn(std::string_view name) const {
-        const bool isNegated = name.substr(0, negation.size()) == negation;
-        return holds(m_names, name) || (isNegated && holds(m_switches, name.substr(negation.size())));
+        return holds(m_names, name) ||
+               (beginsWithNegation(name) && holds(m_switches, name.substr(negation.size())));
     }
 
     static bool holds(const std::vector<std::string_view>& names, std::string_view name) {
@@ -164,6 +162,7 @@ private:
         if (option.isRequired && option.hasDefault) {
             add(option.name(), "it is required and has a default");
         }
+        lookForNegation(option);
         if (!option.isPositional() && option.isMany() && option.least + option.most != 0) {
             add(option.name(), "times() is for positional arguments");
         }
@@ -175,6 +174,15 @@ private:
         }
         lookAtDefault(option);
         lookAtOthers(option);
+    }
+
+    // The parse takes it as "no-" in front of a name.
+    void lookForNegation(const Option& option) {
+        for (const std::string& name : option.names) {
+            if (option.isSwitch() && beginsWithNegation(name)) {
+                add(name, "a switch whose name begins with \"no-\" is off when it is given");
+            }
+        }
     }
 
     void lookAtDefault(Option& option) {

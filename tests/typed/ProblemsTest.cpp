@@ -21,6 +21,15 @@ std::string problemsOf(Declare declare) {
     return program.problems();
 }
 
+/// A switch, if it may have that name.
+void declareNamed(tarv::Command& command, const std::string& name) {
+    if (name.compare(0, 3, "no-") == 0) {
+        command.option<int>(name.c_str(), "");
+    } else {
+        command.flag(name.c_str(), "");
+    }
+}
+
 TEST(TypedProblems, AreNamedWithTheirOption) {
     EXPECT_EQ(problemsOf([](tarv::Program& p) { p.flag("a", "").env("A").topic("T").hidden(); }), "");
     EXPECT_EQ(problemsOf([](tarv::Program& p) {
@@ -81,6 +90,27 @@ TEST(TypedProblems, AreNamedWithTheirOption) {
                   p.verb("log", "");
               }),
               "p: 'p': a program has verbs or actions, not both\n");
+}
+
+TEST(TypedProblems, ASwitchIsNotNamedForWhatItTurnsOff) {
+    constexpr const char* problem = ": a switch whose name begins with \"no-\" is off when it is given\n";
+    for (const char* name : {"no-color", "no-", "no-no-x"}) {
+        SCOPED_TRACE(name);
+        const std::string quoted = "p: '" + std::string(name) + "'";
+        EXPECT_EQ(problemsOf([&](tarv::Program& p) { p.flag(name, ""); }), quoted + problem);
+        EXPECT_EQ(problemsOf([&](tarv::Program& p) { p.option(name, "", true); }), quoted + problem);
+        EXPECT_EQ(problemsOf([&](tarv::Program& p) { p.option<int>(name, ""); }), "");
+        EXPECT_EQ(problemsOf([&](tarv::Program& p) { p.option<std::vector<bool>>(name, ""); }), "");
+        EXPECT_EQ(problemsOf([&](tarv::Program& p) { p.counter(name, ""); }), "");
+        EXPECT_EQ(problemsOf([&](tarv::Program& p) { p.action(name, ""); }), "");
+        EXPECT_EQ(problemsOf([&](tarv::Program& p) { p.positional<bool>(name, ""); }), "");
+    }
+    EXPECT_EQ(problemsOf([](tarv::Program& p) { p.verb("log", "").flag("plain,no-color", ""); }),
+              "p log: 'no-color'" + std::string(problem));
+    for (const char* name : {"no", "nocolor", "n", "color-no-", "No-color"}) {
+        SCOPED_TRACE(name);
+        EXPECT_EQ(problemsOf([&](tarv::Program& p) { p.flag(name, ""); }), "");
+    }
 }
 
 TEST(TypedProblems, OfCountsAreFound) {
@@ -155,10 +185,10 @@ TEST(TypedProblems, AVerbTakesNoNameFromAbove) {
     for (const auto& row : rows) {
         SCOPED_TRACE(std::string(row.above) + " " + row.below);
         tarv::Program program("p");
-        program.flag(row.above, "");
+        declareNamed(program, row.above);
         tarv::Command& log = program.verb("log", "");
         log.option<int>("other", "");
-        log.verb("add", "").flag(row.below, "");
+        declareNamed(log.verb("add", ""), row.below);
         EXPECT_STREQ(program.problems(), row.problem);
     }
 }
