@@ -12,8 +12,9 @@ struct Point {
 };
 
 /// Found because it stands beside the type.
-bool fromText(const char* text, Point& point) {
+bool fromText(const char* text, Point& point, const char*& must) {
     int end = 0;
+    must = "two whole numbers, such as 3:-4";
     return std::sscanf(text, "%d:%d%n", &point.x, &point.y, &end) == 2 && text[end] == '\0';
 }
 

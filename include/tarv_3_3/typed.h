@@ -22,6 +22,10 @@
 /// which a `bool fromText(const char*, T&)` is found; a `std::optional` of these; every container of these
 /// with `push_back` or `insert`. Nothing else compiles. This header includes none of theirs.
 ///
+/// A `bool fromText(const char*, T&, const char*& must)` says as well what a text must be that it refuses, as
+/// in "must be two numbers": it makes `must` "two numbers", a text that lives until the next call, or leaves
+/// it null. It is taken where both are found.
+///
 /// Names are without dashes, the whole one first, separated by commas: "max-count,n". Every text is
 /// copied. Mistakes in declarations are found at the first parse, before the command line is looked at:
 /// see `Program::problems`. Without memory a declaration yields a handle that holds a `T()`, and the

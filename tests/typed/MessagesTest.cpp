@@ -1,5 +1,6 @@
 #include <chrono>
 #include <cstdlib>
+#include <optional>
 #include <string>
 #include <utility>
 #include <vector>
@@ -26,6 +27,24 @@ struct Point {
 bool fromText(const char* text, Point& point) {
     point.x = std::atoi(text);
     return *text == '+';
+}
+
+struct Span {
+    int length;
+};
+
+/// Says what is wrong, but for a '?'.
+bool fromText(const char* text, Span& span, const char*& must) {
+    static std::string said;
+    said = std::string("longer than ") + text;
+    span.length = std::atoi(text);
+    must = *text != '?' ? said.c_str() : nullptr;
+    return *text == '+';
+}
+
+/// Not asked.
+bool fromText(const char*, Span&) {
+    return true;
 }
 
 struct Row {
@@ -184,6 +203,27 @@ TEST(TypedMessages, OfValues) {
           "2 p: --switches=maybe: must be one of 1, true, yes, on, 0, false, no, off\nTry 'p --help'.\n"},
          {{"x"}, "2 p: N 'x': must be a whole number\nTry 'p --help'.\n"},
          {{"1", "2"}, "2 p: unexpected argument '2'\nTry 'p --help'.\n"}});
+}
+
+TEST(TypedMessages, OfValuesThatTheHostExplains) {
+    tarv::Program program("p");
+    const auto span = program.option<Span>("span", "");
+    const auto perhaps = program.option<std::optional<Span>>("perhaps", "");
+    const auto spans = program.option<std::vector<Span>>("spans", "").check("short", [](const Span& one) {
+        return one.length < 9;
+    });
+    program.positional<Span>("from", "");
+    expectSaid(program,
+               {{{"--span=3"}, "2 p: --span=3: must be longer than 3\nTry 'p --help'.\n"},
+                {{"--span=?"}, "2 p: --span=?: is not valid\nTry 'p --help'.\n"},
+                {{"--perhaps=4"}, "2 p: --perhaps=4: must be longer than 4\nTry 'p --help'.\n"},
+                {{"--spans=+1,5,6"}, "2 p: --spans=+1,5,6: '5' must be longer than 5\nTry 'p --help'.\n"},
+                {{"--spans=+9"}, "2 p: --spans=+9: must be short\nTry 'p --help'.\n"},
+                {{"7"}, "2 p: FROM '7': must be longer than 7\nTry 'p --help'.\n"},
+                {{"--span=+3", "--perhaps=+4", "--spans=+5,+6"}, "ok"}});
+    EXPECT_EQ(span->length, 3);
+    EXPECT_EQ(perhaps->value_or(Span{0}).length, 4);
+    EXPECT_EQ(spans->back().length, 6);
 }
 
 TEST(TypedMessages, OfArguments) {

@@ -18,8 +18,17 @@ inline constexpr bool never = false;
 
 // ---- What a type is -------------------------------------------------------------------------------
 
+/// Whether the host reads the type, and says what is wrong with a text.
 template <class T, class = void>
-inline constexpr bool isForeign = false;
+inline constexpr bool isExplained = false;
+template <class T>
+inline constexpr bool isExplained<
+    T, Void<decltype(fromText(static_cast<const char*>(nullptr), given<T&>(), given<const char*&>()))>> =
+    true;
+
+/// Whether the host reads the type.
+template <class T, class = void>
+inline constexpr bool isForeign = isExplained<T>;
 template <class T>
 inline constexpr bool isForeign<T, Void<decltype(fromText(static_cast<const char*>(nullptr), given<T&>()))>> =
     true;
@@ -364,7 +373,10 @@ template <class N>
 /// Reads one element; false when the text is none, which the library notes.
 template <class E>
 [[gnu::cold]] bool read(engine::Taking* taking, const char* text, E& element) {
-    if constexpr (isForeign<E>) {
+    if constexpr (isExplained<E>) {
+        const char* must = nullptr;
+        return fromText(text, element, must) || engine::refuse(taking, must);
+    } else if constexpr (isForeign<E>) {
         return fromText(text, element) || engine::refuse(taking, nullptr);
     } else if constexpr (isSame<E, bool>) {
         return engine::readSwitch(taking, text, &element);
