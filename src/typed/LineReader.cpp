@@ -97,16 +97,15 @@ void LineReader::readUpToLast() {
 
 void LineReader::readArgument(std::size_t place) {
     const std::string& argument = m_line.arguments[place];
-    const std::size_t dash = dashLength(argument);
-    if (m_isBehindMarker || m_isInRest || dash == 0 || argument == "-") {
+    if (m_isBehindMarker || m_isInRest || dashLength(argument) == 0 || argument == "-") {
         readWord(place);
     } else if (argument == endMarkerText) {
         m_isBehindMarker = true;
-    } else if (m_program.joinsLetters && dashLength(argument.substr(dash)) == 0) {
+    } else if (areLetters(argument)) {
         if (isNumberWord(argument) && m_line.chosen->findOption(argument.substr(1, 1)) == nullptr) {
             readWord(place);
         } else {
-            readLetters(place, dash);
+            readLetters(place);
         }
     } else {
         readName(place);

@@ -32,6 +32,12 @@ public:
 
     /// Reads all arguments but the last, as far as that depends on them alone.
     void readUpToLast();
+    ///@{
+    /// Whether the last argument, which is not read yet, is of joined letters, and reads these; false when
+    /// one of them is unknown.
+    bool isLastOfLetters() const;
+    bool readLastLetters();
+    ///@}
 
 private:
     void readArgument(std::size_t place);
@@ -42,8 +48,9 @@ private:
     void readValue(std::size_t place, const Option& option, const ReadArgument& read);
     void readUnfit(std::size_t place, const ReadArgument& read);
     bool readRepeatedLetter(std::size_t place, const ReadArgument& read);
-    void readLetters(std::size_t place, std::size_t behindDash);
-    bool readLetter(std::size_t place, std::size_t from, std::size_t length);
+    bool areLetters(const std::string& argument) const;
+    bool readLetters(std::size_t place);
+    std::size_t readLetter(std::size_t place, std::size_t from, std::size_t length);
     void takeNextValue(std::size_t place, const Option& option, const std::string& typed);
     void add(const Option& option, std::size_t place, const char* text);
     void noteAbbreviation(const std::string& typed, const std::string& whole);

@@ -3,6 +3,7 @@
 
 #include "description/terminalText.h"
 #include "description/utf8.h"
+#include "recognition/tokenSyntax.h"
 #include "typed/LineReader.h"
 #include "typed/messages.h"
 
@@ -27,35 +28,49 @@ bool LineReader::readRepeatedLetter(std::size_t place, const ReadArgument& read)
     return true;
 }
 
-void LineReader::readLetters(std::size_t place, std::size_t behindDash) {
+// Behind one dash.
+bool LineReader::areLetters(const std::string& argument) const {
+    const std::size_t dash = dashLength(argument);
+    return m_program.joinsLetters && 0 < dash && dash < argument.size() &&
+           dashLength(argument.substr(dash)) == 0;
+}
+
+bool LineReader::isLastOfLetters() const {
+    return m_awaiting == nullptr && !isBehindMarker() && areLetters(m_line.arguments.back());
+}
+
+bool LineReader::readLastLetters() {
+    return readLetters(m_line.arguments.size() - 1);
+}
+
+// Whether all of them are known.
+bool LineReader::readLetters(std::size_t place) {
     const std::string& argument = m_line.arguments[place];
-    std::size_t from = behindDash;
+    std::size_t from = dashLength(argument);
     while (from < argument.size()) {
         const std::size_t length =
             std::max<std::size_t>(internal::utf8Length(std::string_view(argument).substr(from)), 1);
-        if (!readLetter(place, from, length)) {
-            return;
-        }
-        from += length;
+        from = readLetter(place, from, length);
     }
+    return from == argument.size();
 }
 
-// Whether letters may follow.
-bool LineReader::readLetter(std::size_t place, std::size_t from, std::size_t length) {
+// Where the next letter is; past the end behind an unknown one.
+std::size_t LineReader::readLetter(std::size_t place, std::size_t from, std::size_t length) {
     const std::string& argument = m_line.arguments[place];
     const std::string letter = argument.substr(from, length);
     const Option* const option = m_line.chosen->findOption(letter);
     if (option == nullptr) {
         if (letter == "h") {
             m_line.wish = m_line.wish == Wish::none ? Wish::help : m_line.wish;
-            return true;
+            return from + length;
         }
         m_line.complain(messages::unknownOption(terminalText("-" + letter)));
-        return false;
+        return std::string::npos;
     }
     if (!option->takesValue()) {
         add(*option, place, "1");
-        return true;
+        return from + length;
     }
     const char* value = argument.c_str() + from + length;
     if (*value == '\0') {
@@ -64,7 +79,7 @@ bool LineReader::readLetter(std::size_t place, std::size_t from, std::size_t len
         // "-l=3" is what it is elsewhere, and "-t=" has the value "=".
         add(*option, place, value[0] == '=' && value[1] != '\0' ? value + 1 : value);
     }
-    return false;
+    return argument.size();
 }
 
 } // namespace tarv_3_3::typed::engine

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <cstring>
 
-#include "recognition/tokenSyntax.h"
+#include "completion/KeptCompletion.h"
 #include "tarv_3_3/description.h"
 #include "typed/LineReader.h"
 #include "typed/positionals.h"
@@ -65,11 +65,12 @@ ProgramCompleter::ProgramCompleter(Command& program, const std::vector<std::stri
 void ProgramCompleter::readLine() {
     LineReader reader(m_program, m_line);
     reader.readUpToLast();
-    const std::string& word = m_line.arguments.back();
-    m_isLetters = m_program.joinsLetters && !reader.isBehindMarker() && reader.awaiting() == nullptr &&
-                  word.size() > 1 && dashLength(word) == 1 && dashLength(word.substr(1)) == 0;
     m_wordCount = reader.words().size();
+    m_isOfLetters = reader.isLastOfLetters();
     declareLevel();
+    if (m_isOfLetters) {
+        readLetters(reader);
+    }
     m_words.push_back(m_line.arguments.front());
     for (const Occurrence& occurrence : m_line.occurrences) {
         m_words.push_back(writtenOut(occurrence));
@@ -77,10 +78,10 @@ void ProgramCompleter::readLine() {
     m_words.erase(std::remove(m_words.begin() + 1, m_words.end(), ""), m_words.end());
     if (reader.isBehindMarker()) {
         m_words.emplace_back("--");
-    } else if (reader.awaiting() != nullptr) {
+    } else if (reader.awaiting() != nullptr && !m_isOfLetters) {
         m_words.push_back("--" + reader.awaiting()->name());
     }
-    m_words.push_back(word);
+    m_words.push_back(m_writtenLetters + m_line.arguments.back().substr(m_letters.size()));
 }
 
 void ProgramCompleter::declareLevel() {
@@ -149,9 +150,6 @@ void ProgramCompleter::addRules() {
 }
 
 const Completion* ProgramCompleter::answer() {
-    if (m_isLetters) {
-        return nullptr;
-    }
     std::vector<const char*> words;
     for (const std::string& word : m_words) {
         words.push_back(word.c_str());
@@ -162,6 +160,9 @@ const Completion* ProgramCompleter::answer() {
     };
     m_completion.reset(
         complete(m_parser.get(), static_cast<int>(words.size()), words.data(), completer, this));
+    if (m_isOfLetters && m_completion != nullptr) {
+        m_completion.reset(completeLetters(*m_completion).release());
+    }
     return m_completion.get();
 }
 

@@ -9,7 +9,13 @@
 #include "typed/CommandLine.h"
 #include "typed/levelParser.h"
 
-namespace tarv_3_3::typed::engine {
+namespace tarv_3_3 {
+
+class KeptCompletion;
+
+namespace typed::engine {
+
+class LineReader;
 
 /// Answers what may stand in place of the last word of a command line.
 class ProgramCompleter {
@@ -33,10 +39,13 @@ private:
     };
 
     void readLine();
+    void readLetters(LineReader& reader);
     void declareLevel();
     void declarePositional();
     void declare(Option& option);
     void addRules();
+    bool mayLettersStand() const;
+    std::unique_ptr<KeptCompletion> completeLetters(const Completion& written) const;
     bool completeValue(const char* name, const char* word, CandidateSink& sink);
     void offerVerbs(const std::string& word, CandidateSink& sink) const;
 
@@ -48,7 +57,15 @@ private:
     /// The words in front of the cursor, written so that no mend is needed, and the last one.
     std::vector<std::string> m_words;
     std::size_t m_wordCount = 0;
-    bool m_isLetters = false;
+    bool m_isOfLetters = false;
+    ///@{
+    /// Of joined letters at the cursor what stands in front of the value of the last one, as it is typed and
+    /// as the last one is written out. Empty where a letter is unknown.
+    std::string m_letters;
+    std::string m_writtenLetters;
+    /// How many stand in front of the last one.
+    std::size_t m_letterCount = 0;
+    ///@}
     Option* m_asked = nullptr;
     std::string m_askedWord;
     bool m_isOffered = false;
@@ -56,4 +73,6 @@ private:
     std::unique_ptr<const Completion, Release> m_completion;
 };
 
-} // namespace tarv_3_3::typed::engine
+} // namespace typed::engine
+
+} // namespace tarv_3_3

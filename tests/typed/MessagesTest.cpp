@@ -103,6 +103,7 @@ TEST(TypedMessages, OfLetters) {
     program.flag("n", "");
     program.option<int>("l", "");
     expectSaid(program, {{{"-nx"}, "2 p: unknown option '-x'\nTry 'p --help'.\n"},
+                         {{"\u2013"}, "2 p: unknown option '\u2013'\nTry 'p --help'.\n"},
                          {{"-nl"}, "2 p: option '-l' needs a value\nTry 'p --help'.\n"},
                          {{"-nlx"}, "2 p: -nlx: must be a whole number\nTry 'p --help'.\n"}});
 }

@@ -113,13 +113,128 @@ TEST(ProgramCompleter, OffersOnlyWhatGoesWithAnAction) {
     EXPECT_EQ(offered(tar, {"-x", "--"}), "--directory= --verbose --help");
 }
 
-TEST(ProgramCompleter, JoinedLettersAndRestsAreLeftAlone) {
+struct Letters {
+    OpenProgram program{"p"};
+    tarv::Handle<bool> all = program.flag("all,a", "");
+    tarv::Handle<bool> almost = program.flag("all-but-one,b", "");
+    tarv::Handle<int> verbose = program.counter("verbose,v", "");
+    tarv::Handle<std::string> level = program.option<std::string>("l", "").oneOf("3", "30", "5");
+    tarv::Handle<std::vector<Format>> formats = program.option<std::vector<Format>>("format,f", "");
+    tarv::Handle<std::string> output = program.option<std::string>("output,o", "");
+    tarv::Handle<std::string> sign = program.option<std::string>("sign,s", "").oneOf("=x", "y");
+    tarv::Handle<bool> umlaut = program.flag("\u00fc", "");
+    tarv::Handle<bool> secret = program.flag("secret,z", "").hidden();
+
+    Letters() {
+        program.joinLetters();
+        program.atMostOne(all, almost);
+        output.completeWith([](const char*, tarv::Candidates&) {});
+    }
+};
+
+TEST(ProgramCompleter, ContinuesJoinedLetters) {
+    Letters letters;
+    const struct {
+        std::vector<std::string> line;
+        const char* offered;
+    } rows[] = {
+        {{"-a"}, "-a"},
+        {{"-va"}, "-va"},
+        {{"-vv"}, "-vv"},
+        {{"-z"}, "-z"},
+        {{"-v\u00fc"}, "-v\u00fc"},
+        {{"\u2013av"}, "\u2013av"},
+        {{"-ab"}, ""},
+        {{"-a", "-b"}, ""},
+        {{"--all", "-vb"}, ""},
+        {{"-l"}, "-l3 -l30 -l5"},
+        {{"-vl"}, "-vl3 -vl30 -vl5"},
+        {{"-vl3"}, "-vl3 -vl30"},
+        {{"-vl="}, "-vl=3 -vl=30 -vl=5"},
+        {{"-vl=5"}, "-vl=5"},
+        {{"-vl=="}, ""},
+        {{"-vl", "3"}, "3 30"},
+        {{"-f"}, "-fpng -fjpeg -fwebp"},
+        {{"-afj"}, "-afjpeg"},
+        {{"-fpng,"}, "-fpng,jpeg -fpng,webp"},
+        {{"-s"}, "-sy"},
+        {{"-s="}, "-s==x -s=y"},
+        {{"-x"}, ""},
+        {{"-ax"}, ""},
+        {{"-xa"}, ""},
+        {{"-h"}, ""},
+        {{"-vh"}, ""},
+        {{"-"}, "--all --all-but-one --verbose --l= --format= --output= --sign= --\u00fc --help"},
+        {{"--", "-a"}, "files"},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.line.back() + " behind " + row.line.front());
+        EXPECT_EQ(offered(letters.program, row.line), row.offered);
+    }
+}
+
+TEST(ProgramCompleter, AddsFilesToJoinedLetters) {
+    OpenProgram program("p");
+    program.joinLetters().flag("all,a", "");
+    program.option<std::filesystem::path>("output,o", "");
+    const struct {
+        const char* word;
+        unsigned offset;
+        const char* common;
+    } rows[] = {{"-o", 2, "-o"}, {"-aodi", 3, "-aodi"}, {"-o=di", 3, "-o=di"}};
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.word);
+        tarv::engine::ProgramCompleter completer(program.record(), {"p", row.word});
+        const Completion* const completion = completer.answer();
+        ASSERT_NE(completion, nullptr);
+        EXPECT_EQ(completion->files, tarv_3_3::completeFiles);
+        EXPECT_EQ(completion->fileOffset, row.offset);
+        EXPECT_STREQ(completion->common, row.common);
+    }
+    Letters letters;
+    tarv::engine::ProgramCompleter completer(letters.program.record(), {"p", "-vfj"});
+    EXPECT_STREQ(completer.answer()->common, "-vfjpeg");
+    tarv::engine::ProgramCompleter asking(letters.program.record(), {"p", "-voab"});
+    asking.answer();
+    ASSERT_NE(asking.asked(), nullptr);
+    EXPECT_EQ(asking.asked()->name(), "output");
+    EXPECT_EQ(asking.askedWord(), "ab");
+}
+
+TEST(ProgramCompleter, OffersOnlyLettersThatAreAccepted) {
+    Letters letters;
+    const std::vector<std::string> pieces = {"",  "a", "b", "v", "l", "f", "o",   "s", "z",
+                                             "h", "x", "3", "j", "=", ",", "png", "y", "\u00fc"};
+    int offers = 0;
+    for (const std::string& first : pieces) {
+        for (const std::string& second : pieces) {
+            for (const std::string& third : pieces) {
+                const std::string word = "-" + first + second + third;
+                if (word == "-") {
+                    continue;
+                }
+                tarv::engine::ProgramCompleter completer(letters.program.record(), {"p", word});
+                const Completion* const completion = completer.answer();
+                ASSERT_NE(completion, nullptr);
+                for (unsigned i = 0; i < completion->candidateCount; ++i) {
+                    const std::string offer = completion->candidates[i].text;
+                    EXPECT_EQ(offer.substr(0, word.size()), word);
+                    EXPECT_EQ(parseLine(letters.program, {offer}), "ok") << offer << " for " << word;
+                    ++offers;
+                }
+            }
+        }
+    }
+    EXPECT_GT(offers, 500);
+}
+
+TEST(ProgramCompleter, LeavesRestsAlone) {
     OpenProgram program("p");
     program.joinLetters();
     program.flag("all,a", "");
     program.rest<std::vector<std::string>>("command", "").completeAs("file");
-    EXPECT_EQ(offered(program, {"-a"}), "nothing");
     EXPECT_EQ(offered(program, {"--a"}), "--all");
+    EXPECT_EQ(offered(program, {"ls", "-a"}), "files");
     EXPECT_EQ(offered(program, {"ls", "--a"}), "files");
 }
 
