@@ -34,48 +34,85 @@ char32_t codeOf(std::string_view character) {
     return code;
 }
 
+bool isAscii(char byte) {
+    return static_cast<unsigned char>(byte) < 0x80;
+}
+
+// A byte that is no UTF-8 is a character by itself.
+std::size_t characterLength(std::string_view text) {
+    return std::max<std::size_t>(internal::utf8Length(text), 1);
+}
+
+// Of what begins a text: ASCII without a place to break it.
+std::size_t lengthOfRun(std::string_view text) {
+    const auto ends = [](char byte) { return byte == ' ' || byte == '\n' || !isAscii(byte); };
+    return static_cast<std::size_t>(std::find_if(text.begin(), text.end(), ends) - text.begin());
+}
+
+// Of a character that is not ASCII.
 std::size_t columnsOfCharacter(std::string_view character) {
-    if (static_cast<unsigned char>(character.front()) < 0x80 || internal::utf8Length(character) == 0) {
+    if (internal::utf8Length(character) == 0) {
         return 1;
     }
     const char32_t code = codeOf(character);
     return isIn(withoutColumn, code) ? 0 : isIn(withTwoColumns, code) ? 2 : 1;
 }
 
-/// A line while it is filled.
+std::string_view longer(std::string_view part, std::size_t bytes) {
+    return {part.data(), part.size() + bytes};
+}
+
+/// The line at hand, and the piece behind it: parts of a text that grow as the text is read.
 class Wrapper {
 public:
     explicit Wrapper(std::size_t width) : m_width(width) {}
 
-    void add(std::string_view character) {
-        const std::size_t columns = columnsOfCharacter(character);
-        if (character == "\n") {
-            endLine();
-        } else if (character == " ") {
-            endPiece();
-            m_blanks += m_line.empty() ? 0 : 1;
-        } else {
-            addToPiece(character, columns);
-        }
-    }
-
-    std::vector<std::string> finish() {
+    void addBreak(char byte) {
         endPiece();
-        if (!m_line.empty() || m_lines.empty()) {
-            m_lines.push_back(m_line);
+        if (byte == '\n') {
+            startLine();
+        } else {
+            m_blanks += m_line.empty() ? 0 : 1;
         }
-        return m_lines;
     }
 
-private:
-    void addToPiece(std::string_view character, std::size_t columns) {
+    /// Characters of one column each.
+    void addRun(std::string_view run) {
+        if (m_endsWide) {
+            endPiece();
+        }
+        while (m_pieceColumns + run.size() > m_width) {
+            const std::size_t fitting = m_width - m_pieceColumns;
+            addToPiece(run.substr(0, fitting), fitting);
+            run.remove_prefix(fitting);
+            endPiece();
+        }
+        addToPiece(run, run.size());
+    }
+
+    /// One that is not ASCII.
+    void addCharacter(std::string_view character) {
+        const std::size_t columns = columnsOfCharacter(character);
         const bool isWide = columns == 2;
         if (columns > 0 && (isWide || m_endsWide || m_pieceColumns + columns > m_width)) {
             endPiece();
         }
-        m_piece += character;
-        m_pieceColumns += columns;
+        addToPiece(character, columns);
         m_endsWide = columns == 0 ? m_endsWide : isWide;
+    }
+
+    std::vector<std::string_view> finish() {
+        endPiece();
+        if (!m_line.empty() || m_lines.empty()) {
+            startLine();
+        }
+        return std::move(m_lines);
+    }
+
+private:
+    void addToPiece(std::string_view text, std::size_t columns) {
+        m_piece = m_piece.empty() ? text : longer(m_piece, text.size());
+        m_pieceColumns += columns;
     }
 
     // Puts the piece, which is not cut, on the line or on a new one.
@@ -84,59 +121,59 @@ private:
             return;
         }
         if (m_lineColumns + m_blanks + m_pieceColumns > m_width && !m_line.empty()) {
-            m_lines.push_back(m_line);
-            m_line.clear();
-            m_lineColumns = 0;
-            m_blanks = 0;
+            startLine();
         }
-        m_line.append(m_blanks, ' ').append(m_piece);
+        m_line = m_line.empty() ? m_piece : longer(m_line, m_blanks + m_piece.size());
         m_lineColumns += m_blanks + m_pieceColumns;
         m_blanks = 0;
-        m_piece.clear();
+        m_piece = {};
         m_pieceColumns = 0;
         m_endsWide = false;
     }
 
-    void endLine() {
-        endPiece();
+    void startLine() {
         m_lines.push_back(m_line);
-        m_line.clear();
+        m_line = {};
         m_lineColumns = 0;
         m_blanks = 0;
     }
 
     const std::size_t m_width;
-    std::vector<std::string> m_lines;
-    std::string m_line;
+    std::vector<std::string_view> m_lines;
+    std::string_view m_line;
     std::size_t m_lineColumns = 0;
     std::size_t m_blanks = 0;
-    /// What has no place to break it.
-    std::string m_piece;
+    /// A part of the text that has no place to break it.
+    std::string_view m_piece;
     std::size_t m_pieceColumns = 0;
     bool m_endsWide = false;
 };
 
 } // namespace
 
-std::size_t characterLength(std::string_view text) {
-    return std::max<std::size_t>(internal::utf8Length(text), 1);
-}
-
 std::size_t columnsOf(std::string_view text) {
     std::size_t columns = 0;
     while (!text.empty()) {
-        const std::size_t length = characterLength(text);
-        columns += columnsOfCharacter(text.substr(0, length));
+        const std::size_t length = isAscii(text.front()) ? 1 : characterLength(text);
+        columns += isAscii(text.front()) ? 1 : columnsOfCharacter(text.substr(0, length));
         text.remove_prefix(length);
     }
     return columns;
 }
 
-std::vector<std::string> wrapColumns(std::string_view text, std::size_t width) {
+std::vector<std::string_view> wrapColumns(std::string_view text, std::size_t width) {
     Wrapper wrapper(std::max<std::size_t>(width, 2));
     while (!text.empty()) {
-        const std::size_t length = characterLength(text);
-        wrapper.add(text.substr(0, length));
+        std::size_t length = 1;
+        if (text.front() == ' ' || text.front() == '\n') {
+            wrapper.addBreak(text.front());
+        } else if (isAscii(text.front())) {
+            length = lengthOfRun(text);
+            wrapper.addRun(text.substr(0, length));
+        } else {
+            length = characterLength(text);
+            wrapper.addCharacter(text.substr(0, length));
+        }
         text.remove_prefix(length);
     }
     return wrapper.finish();

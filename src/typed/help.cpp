@@ -18,6 +18,8 @@ constexpr std::size_t longestLeft = 28;
 struct Row {
     std::string left;
     std::string right;
+    /// Of what stands left.
+    std::size_t columns;
 };
 
 struct Section {
@@ -32,7 +34,9 @@ public:
 
     std::string write() {
         appendUsage();
-        appendText();
+        if (!m_command.text.empty()) {
+            appendLines(m_command.text);
+        }
         addArguments();
         addVerbs();
         addOptions(m_command, "Options");
@@ -67,26 +71,22 @@ private:
             usage += " " + argumentSynopsis(*option);
         }
         constexpr std::size_t label = 7;
-        const std::vector<std::string> lines = wrapColumns(usage, m_style.width - label);
-        for (const std::string& line : lines) {
-            m_help +=
-                (&line == &lines.front() ? bold("Usage:") + " " : std::string(label, ' ')) + line + "\n";
+        std::string front = bold("Usage:") + " ";
+        for (const std::string_view line : wrapColumns(usage, m_style.width - label)) {
+            m_help.append(front).append(line).append("\n");
+            front.assign(label, ' ');
         }
     }
 
-    void appendText() {
-        if (!m_command.text.empty()) {
-            for (const std::string& line : wrapColumns(m_command.text, m_style.width)) {
-                m_help += line + "\n";
-            }
+    void appendLines(const std::string& text) {
+        for (const std::string_view line : wrapColumns(text, m_style.width)) {
+            m_help.append(line).append("\n");
         }
     }
 
     void appendParagraph(const std::string& text) {
         m_help += "\n";
-        for (const std::string& line : wrapColumns(text, m_style.width)) {
-            m_help += line + "\n";
-        }
+        appendLines(text);
     }
 
     Section& section(const std::string& heading) {
@@ -95,11 +95,16 @@ private:
         return found != m_sections.end() ? *found : m_sections.emplace_back(Section{heading, {}});
     }
 
+    void addRow(const std::string& heading, std::string left, std::string right) {
+        const std::size_t columns = columnsOf(left);
+        section(heading).rows.push_back({std::move(left), std::move(right), columns});
+    }
+
     void addArguments() {
         for (const Option* option : positionalsOf(m_command)) {
             std::string text = optionText(*option);
             if (!text.empty() && !option->isHidden) {
-                section("Arguments").rows.push_back({argumentSynopsis(*option), std::move(text)});
+                addRow("Arguments", argumentSynopsis(*option), std::move(text));
             }
         }
     }
@@ -110,7 +115,7 @@ private:
             for (const std::string& name : verb->names) {
                 names.append(names.empty() ? "" : ", ").append(name);
             }
-            section("Verbs").rows.push_back({std::move(names), verb->text});
+            addRow("Verbs", std::move(names), verb->text);
         }
     }
 
@@ -118,8 +123,8 @@ private:
         for (const std::unique_ptr<Option>& option : command.options) {
             if (!option->isPositional() && !option->isHidden) {
                 const std::string& topic = option->topic.empty() ? heading : option->topic;
-                section(option->role == roleAction && option->topic.empty() ? "Actions" : topic)
-                    .rows.push_back({optionSynopsis(*option), optionText(*option)});
+                addRow(option->role == roleAction && option->topic.empty() ? "Actions" : topic,
+                       optionSynopsis(*option), optionText(*option));
             }
         }
     }
@@ -133,10 +138,10 @@ private:
             }
         }
         if (!names.empty()) {
-            section("Options").rows.push_back({namesSynopsis(names), "Show this help."});
+            addRow("Options", namesSynopsis(names), "Show this help.");
         }
         if (m_command.program().hasVersion && m_command.findOption("version") == nullptr) {
-            section("Options").rows.push_back({namesSynopsis({"version"}), "Show the version."});
+            addRow("Options", namesSynopsis({"version"}), "Show the version.");
         }
     }
 
@@ -146,8 +151,7 @@ private:
         std::size_t widest = 0;
         for (const Section& part : m_sections) {
             for (const Row& row : part.rows) {
-                const std::size_t columns = columnsOf(row.left);
-                widest = columns <= most ? std::max(widest, columns) : widest;
+                widest = row.columns <= most ? std::max(widest, row.columns) : widest;
             }
         }
         return indent + widest + gap;
@@ -177,21 +181,20 @@ private:
     }
 
     void appendRow(const Row& row, std::size_t column) {
-        std::string line = std::string(indent, ' ') + row.left;
-        std::size_t at = indent + columnsOf(row.left);
+        m_help.append(indent, ' ').append(row.left);
+        std::size_t at = indent + row.columns;
         const std::size_t width = m_style.width > column ? m_style.width - column : 1;
-        for (const std::string& text : wrapColumns(row.right, width)) {
+        for (const std::string_view text : wrapColumns(row.right, width)) {
             if (at + gap > column) {
-                m_help += line + "\n";
-                line.clear();
+                m_help += "\n";
                 at = 0;
             }
             if (!text.empty()) {
-                line.append(column - at, ' ').append(text);
+                m_help.append(column - at, ' ').append(text);
             }
             at = column;
         }
-        m_help += line + "\n";
+        m_help += "\n";
     }
 
     const Command& m_command;

@@ -62,11 +62,11 @@ std::vector<std::string> namesInHelp(const std::vector<Option*>& options) {
 
 // How many arguments a list takes, where that is more than its synopsis shows.
 std::string countText(const Option& option) {
-    const std::string least = std::to_string(option.least);
-    const std::string most = std::to_string(option.most);
     if (!option.isMany() || (option.least <= 1 && option.most == 0)) {
         return "";
     }
+    const std::string least = std::to_string(option.least);
+    const std::string most = std::to_string(option.most);
     return option.most == 0              ? "at least " + least + " times"
            : option.least == option.most ? least + " times"
            : option.least == 0           ? "at most " + most + " times"
@@ -103,25 +103,20 @@ std::string valueName(const Option& option) {
     return isSplit ? name + option.separator + "..." : name;
 }
 
-std::string namesSynopsis(const std::vector<std::string>& names) {
+std::string namesSynopsis(const std::vector<std::string>& names, const char* prefix) {
     std::string letters;
     std::string words;
     for (const std::string& name : names) {
-        std::string& list = name.size() == 1 ? letters : words;
-        list.append(list.empty() ? "" : ", ").append(dashed(name));
+        const bool isLetter = name.size() == 1 && *prefix == '\0';
+        std::string& list = isLetter ? letters : words;
+        list.append(list.empty() ? "" : ", ").append(isLetter ? "-" : "--").append(prefix).append(name);
     }
     return letters.empty() ? "    " + words : words.empty() ? letters : letters + ", " + words;
 }
 
 std::string optionSynopsis(const Option& option) {
-    std::vector<std::string> names = option.names;
-    if (isOnByDefault(option)) {
-        for (std::string& name : names) {
-            name.insert(0, "no-");
-        }
-    }
-    const std::string synopsis = namesSynopsis(names);
-    return option.takesValue() ? synopsis + "=" + valueName(option) : synopsis;
+    std::string synopsis = namesSynopsis(option.names, isOnByDefault(option) ? "no-" : "");
+    return option.takesValue() ? synopsis.append("=").append(valueName(option)) : synopsis;
 }
 
 std::string argumentSynopsis(const Option& option) {

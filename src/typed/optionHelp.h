@@ -22,7 +22,7 @@ std::string optionText(const Option& option);
 /// A rule over options as a sentence; empty unless help shows two of them or more.
 std::string ruleText(const GroupRule& rule);
 
-/// Names as they are typed, letters first.
-std::string namesSynopsis(const std::vector<std::string>& names);
+/// Names as they are typed, with `prefix` in front of each, letters first.
+std::string namesSynopsis(const std::vector<std::string>& names, const char* prefix = "");
 
 } // namespace tarv_3_3::typed::engine

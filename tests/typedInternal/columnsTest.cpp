@@ -1,12 +1,15 @@
 #include "typed/columns.h"
 
+#include <string_view>
+#include <vector>
+
 #include <gtest/gtest.h>
 
 namespace {
 
 using namespace tarv_3_3::typed::engine;
 
-using Lines = std::vector<std::string>;
+using Lines = std::vector<std::string_view>;
 
 TEST(Columns, CountWhatATerminalShows) {
     const struct {
@@ -39,6 +42,9 @@ TEST(Columns, TextIsWrappedAtBlanksAndBesideWideCharacters) {
     EXPECT_EQ(wrapColumns("日本語", 4), (Lines{"日本", "語"}));
     EXPECT_EQ(wrapColumns("日本語", 5), (Lines{"日本", "語"}));
     EXPECT_EQ(wrapColumns("x日y", 3), (Lines{"x日", "y"}));
+    EXPECT_EQ(wrapColumns("日abcd", 3), (Lines{"日", "abc", "d"}));
+    EXPECT_EQ(wrapColumns("üabcdefgh", 3), (Lines{"üab", "cde", "fgh"}));
+    EXPECT_EQ(wrapColumns("ab üabc", 5), (Lines{"ab", "üabc"}));
     EXPECT_EQ(wrapColumns("über Größe", 5), (Lines{"über", "Größe"}));
     EXPECT_EQ(wrapColumns("aaau\u0308bb", 4), (Lines{"aaau\u0308", "bb"}));
     EXPECT_EQ(wrapColumns("\xff\xff\xff", 2), (Lines{"\xff\xff", "\xff"}));
