@@ -118,7 +118,7 @@ void LineReader::readWord(std::size_t place) {
         return;
     }
     m_words.push_back(place);
-    m_isInRest = m_isInRest || hasRest(*m_line.chosen);
+    m_isInRest = m_isInRest || (m_words.size() == 1 && hasRest(*m_line.chosen));
 }
 
 void LineReader::readName(std::size_t place) {

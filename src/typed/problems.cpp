@@ -15,8 +15,14 @@ namespace tarv_3_3::typed::engine {
 
 namespace {
 
-bool endsName(char byte) {
-    return byte == '=' || byte == ' ' || ('\t' <= byte && byte <= '\r');
+// Whether a byte of it would end it on a command line.
+bool isCut(const std::string& name) {
+    for (const char byte : name) {
+        if (byte == '=' || byte == ' ' || ('\t' <= byte && byte <= '\r')) {
+            return true;
+        }
+    }
+    return false;
 }
 
 bool isOneOf(const std::string& text, std::initializer_list<const char*> texts) {
@@ -140,7 +146,7 @@ private:
             add(name, "a name is empty");
         } else if (dashLength(name) != 0) {
             add(name, "names are without dashes in front");
-        } else if (std::any_of(name.begin(), name.end(), [](char byte) { return endsName(byte); })) {
+        } else if (isCut(name)) {
             add(name, "a name has no blank and no '='");
         }
     }
@@ -169,7 +175,7 @@ private:
         if (option.most != 0 && option.least > option.most) {
             add(option.name(), "it takes fewer arguments at most than at least");
         }
-        if (!isOneOf(option.completeAs, {"", "file", "directory", "none"})) {
+        if (!option.completeAs.empty() && !isOneOf(option.completeAs, {"file", "directory", "none"})) {
             add(option.name(), "shells complete \"file\", \"directory\" or \"none\"");
         }
         lookAtDefault(option);
@@ -178,8 +184,11 @@ private:
 
     // The parse takes it as "no-" in front of a name.
     void lookForNegation(const Option& option) {
+        if (!option.isSwitch()) {
+            return;
+        }
         for (const std::string& name : option.names) {
-            if (option.isSwitch() && beginsWithNegation(name)) {
+            if (beginsWithNegation(name)) {
                 add(name, "a switch whose name begins with \"no-\" is off when it is given");
             }
         }
