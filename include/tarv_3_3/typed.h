@@ -3,6 +3,7 @@
 #include <new>
 
 #include "tarv_3_3/internal/typedEngine.h"
+#include "tarv_3_3/internal/typedRefinements.h"
 #include "tarv_3_3/internal/typedValues.h"
 
 /// Command lines declared with the types of C++. Start here.

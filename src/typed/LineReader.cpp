@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <cstdlib>
-#include <cstring>
 
 #include "description/terminalText.h"
 #include "options/findOption.h"
@@ -19,16 +18,6 @@ using internal::terminalText;
 
 namespace {
 
-bool isDigit(char byte) {
-    return '0' <= byte && byte <= '9';
-}
-
-// "-5" and "-.5", with whatever may follow.
-bool looksNegative(const std::string& argument) {
-    return argument.size() > 1 && argument[0] == '-' &&
-           (isDigit(argument[1]) || (argument[1] == '.' && argument.size() > 2 && isDigit(argument[2])));
-}
-
 std::string typedName(const std::string& argument, const ReadArgument& read) {
     return terminalText(argument.substr(0, read.token.nameEnd));
 }
@@ -42,26 +31,12 @@ std::vector<std::string> dashedNames(const std::vector<std::string>& names) {
     return list;
 }
 
-std::vector<std::string> quotedNames(const std::vector<std::string>& names) {
-    std::vector<std::string> list;
-    list.reserve(names.size());
-    for (const std::string& name : names) {
-        list.push_back("'" + name + "'");
-    }
-    return list;
-}
-
 Abbreviations wantedAbbreviations() {
     const char* const text = std::getenv("TARV_ABBREVIATIONS");
     const std::string_view wanted = text != nullptr ? text : "";
     return wanted == "error"  ? Abbreviations::areRefused
            : wanted == "warn" ? Abbreviations::areTold
                               : Abbreviations::areTaken;
-}
-
-bool takesNumbers(const Command& command) {
-    return std::any_of(command.options.begin(), command.options.end(),
-                       [](const auto& option) { return option->isPositional() && option->takesNumbers(); });
 }
 
 bool hasRest(const Command& command) {
@@ -172,39 +147,6 @@ void LineReader::readNamed(std::size_t place, const Option& option, const ReadAr
     }
 }
 
-// An empty value behind '=' or a blank is one, and never the next argument.
-void LineReader::readValue(std::size_t place, const Option& option, const ReadArgument& read) {
-    const std::string& argument = m_line.arguments[place];
-    if (read.token.hasValue) {
-        add(option, place, argument.c_str() + read.token.valueStart);
-    } else {
-        takeNextValue(place, option, argument);
-    }
-}
-
-void LineReader::takeNextValue(std::size_t place, const Option& option, const std::string& typed) {
-    if (place + 1 >= m_end) {
-        m_awaiting = &option;
-        m_line.complain(messages::valueIsMissing(terminalText(typed)));
-    } else if (isValueOf(option, m_line.arguments[place + 1])) {
-        add(option, place, m_line.arguments[place + 1].c_str());
-        ++m_next;
-    } else {
-        m_line.complain(messages::valueIsMissing(terminalText(typed)));
-    }
-}
-
-// What begins with a dash is an option, but for a lone one and for numbers.
-bool LineReader::isValueOf(const Option& option, const std::string& argument) const {
-    return !beginsWithHyphen(argument) || argument == "-" ||
-           (option.takesNumbers() && looksNegative(argument));
-}
-
-// "-5" is a number where arguments without a name are numbers, unless it is the name of an option.
-bool LineReader::isNumberWord(const std::string& argument) const {
-    return looksNegative(argument) && takesNumbers(*m_line.chosen);
-}
-
 void LineReader::readUnfit(std::size_t place, const ReadArgument& read) {
     const std::string& argument = m_line.arguments[place];
     const std::string typed = typedName(argument, read);
@@ -223,19 +165,6 @@ void LineReader::readUnfit(std::size_t place, const ReadArgument& read) {
                         suggestOption(*m_line.chosen, argument));
     } else if (m_line.wish == Wish::none) {
         m_line.wish = wish;
-    }
-}
-
-void LineReader::add(const Option& option, std::size_t place, const char* text) {
-    Occurrence occurrence;
-    occurrence.option = const_cast<Option*>(&option);
-    occurrence.text = text;
-    occurrence.place = static_cast<int>(place);
-    m_line.occurrences.push_back(occurrence);
-    const char separators[] = {option.separator, '\0'};
-    const bool isEmpty = text[std::strspn(text, separators)] == '\0';
-    if (option.takesValue() && isEmpty && !(option.mayBeEmpty && *text == '\0')) {
-        m_line.complain(shownOccurrence(m_line, occurrence) + ": " + messages::isEmpty);
     }
 }
 
@@ -263,45 +192,6 @@ LevelParser& LineReader::level() {
         m_reader = std::make_unique<Reader>(*m_level.parser);
     }
     return m_level;
-}
-
-// A word is a verb as a whole: it is looked up as if it had dashes, which it must not have. Several names of
-// one verb are no ambiguity.
-void LineReader::enterVerb(std::size_t place) {
-    const std::string& word = m_line.arguments[place];
-    if (m_isLost) {
-        return;
-    }
-    const std::vector<std::string> names = verbNamesFor(word);
-    Command* const verb = names.empty() ? nullptr : m_line.chosen->findVerb(names.front());
-    const bool isOne = std::all_of(names.begin(), names.end(), [&](const std::string& name) {
-        return m_line.chosen->findVerb(name) == verb;
-    });
-    if (verb != nullptr && isOne) {
-        noteAbbreviation(word, names.front());
-        enter(*verb);
-    } else if (verb != nullptr) {
-        m_isLost = true;
-        m_line.complain(messages::ambiguousVerb(terminalText(word), quotedNames(names)));
-    } else if (!m_isHelpVerb && m_line.chosen == &m_program && wishOf(word, m_program) == Wish::help) {
-        m_isHelpVerb = true;
-        m_line.wish = m_line.wish == Wish::none ? Wish::help : m_line.wish;
-    } else {
-        m_isLost = true;
-        m_line.complain(messages::unknownVerb(terminalText(word)), suggestVerb(*m_line.chosen, word));
-    }
-}
-
-std::vector<std::string> LineReader::verbNamesFor(const std::string& word) const {
-    const std::unique_ptr<BasicParser> verbs = makeVerbParser(*m_line.chosen);
-    NameMatcher matcher;
-    const std::string argument = "--" + word;
-    const NameOutcome outcome = matcher.look(argument, verbs->registry().m_options, &verbs->registry());
-    if (word.empty() || matcher.token().hasValue || dashLength(word) != 0) {
-        return {};
-    }
-    return outcome == NameOutcome::found ? std::vector<std::string>{std::string(matcher.bestNameIn(argument))}
-                                         : matcher.bestNames();
 }
 
 void LineReader::finish() {
