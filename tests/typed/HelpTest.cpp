@@ -37,6 +37,27 @@ tarv::Program convert() {
     return program;
 }
 
+TEST(TypedHelp, ShowsTheElementsOfADefaultAsTheyAreTyped) {
+    tarv::Program program("p");
+    const std::vector<int> two = {1, 2};
+    program.option("split", "One argument.", two);
+    program.option("own", "Another separator.", two).separator(':');
+    program.option("each", "One argument each.", two).separator('\0');
+    program.positional("number", "One argument each.", two);
+    EXPECT_EQ(helpAt(program, "80", {"--help"}), R"(
+0 Usage: p [OPTION]... [NUMBER]...
+
+Arguments:
+  [NUMBER]...             One argument each. (default: 1 2)
+
+Options:
+      --split=NUMBER,...  One argument. (default: 1,2)
+      --own=NUMBER:...    Another separator. (default: 1:2)
+      --each=NUMBER       One argument each. (default: 1 2)
+  -h, --help              Show this help.
+)");
+}
+
 TEST(TypedHelp, IsLaidOutForEightyColumns) {
     tarv::Program program = convert();
     EXPECT_EQ(helpAt(program, "", {"--help"}), R"(

@@ -90,7 +90,7 @@ TEST(TypedRequests, ScriptsAreThoseOfTheProgramAsItWasStarted) {
 TEST(TypedRequests, TheDescriptionHoldsWhatABoundVariableHeld) {
     int level = 3;
     bool color = true;
-    std::vector<std::string> files = {"-"};
+    std::vector<std::string> files = {"-", "a"};
     tarv::Program program("p");
     program.bind("level", level, "");
     program.bind("color", color, "");
@@ -107,7 +107,7 @@ TEST(TypedRequests, TheDescriptionHoldsWhatABoundVariableHeld) {
 {"role": "option", "kind": "int32", "names": ["level"], "default": "3"},
 {"role": "option", "kind": "switch", "names": ["color"], "default": "1", "negatable": true},
 {"role": "option", "kind": "int32", "names": ["required"], "notes": {"required": "1"}},
-{"role": "option", "kind": "string", "names": ["file"], "default": "-", "positional": "filled", "count": {"least": 0}}],
+{"role": "option", "kind": "string", "names": ["file"], "default": "- a", "positional": "filled", "count": {"least": 0}}],
 "rules": [
 {"kind": "required", "names": ["required"]}],
 "checks": []}
