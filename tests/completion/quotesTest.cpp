@@ -47,6 +47,11 @@ TEST(Unquote, TakesOffWhatBashTakesOff) {
     }
 }
 
+TEST(Unquote, TakesAZeroByteForOneLikeOthers) {
+    const std::string zero(1, '\0');
+    EXPECT_EQ(unquote("a" + zero + "\"b" + zero).text, "a" + zero + "b" + zero);
+}
+
 TEST(Quote, MakesBashTakeATextLiterally) {
     const struct {
         const char* text;
