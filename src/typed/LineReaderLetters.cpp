@@ -32,7 +32,7 @@ bool LineReader::readRepeatedLetter(std::size_t place, const ReadArgument& read)
 bool LineReader::areLetters(const std::string& argument) const {
     const std::size_t dash = dashLength(argument);
     return m_program.joinsLetters && 0 < dash && dash < argument.size() &&
-           dashLength(argument.substr(dash)) == 0;
+           dashLength(std::string_view(argument).substr(dash)) == 0;
 }
 
 bool LineReader::isLastOfLetters() const {

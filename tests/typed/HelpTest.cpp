@@ -43,6 +43,7 @@ TEST(TypedHelp, ShowsTheElementsOfADefaultAsTheyAreTyped) {
     program.option("split", "One argument.", two);
     program.option("own", "Another separator.", two).separator(':');
     program.option("each", "One argument each.", two).separator('\0');
+    program.option("color,c", "Named for what is typed.", true);
     program.positional("number", "One argument each.", two);
     EXPECT_EQ(helpAt(program, "80", {"--help"}), R"(
 0 Usage: p [OPTION]... [NUMBER]...
@@ -54,6 +55,7 @@ Options:
       --split=NUMBER,...  One argument. (default: 1,2)
       --own=NUMBER:...    Another separator. (default: 1:2)
       --each=NUMBER       One argument each. (default: 1 2)
+      --no-color, --no-c  Named for what is typed.
   -h, --help              Show this help.
 )");
 }

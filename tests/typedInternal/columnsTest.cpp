@@ -43,6 +43,7 @@ TEST(Columns, TextIsWrappedAtBlanksAndBesideWideCharacters) {
     EXPECT_EQ(wrapColumns("日本語", 5), (Lines{"日本", "語"}));
     EXPECT_EQ(wrapColumns("x日y", 3), (Lines{"x日", "y"}));
     EXPECT_EQ(wrapColumns("日abcd", 3), (Lines{"日", "abc", "d"}));
+    EXPECT_EQ(wrapColumns("a日ü", 3), (Lines{"a日", "ü"}));
     EXPECT_EQ(wrapColumns("üabcdefgh", 3), (Lines{"üab", "cde", "fgh"}));
     EXPECT_EQ(wrapColumns("ab üabc", 5), (Lines{"ab", "üabc"}));
     EXPECT_EQ(wrapColumns("über Größe", 5), (Lines{"über", "Größe"}));

@@ -166,6 +166,8 @@ TEST(ProgramCompleter, ContinuesJoinedLetters) {
         {{"-vh"}, ""},
         {{"-"}, "--all --all-but-one --verbose --l= --format= --output= --sign= --\u00fc --help"},
         {{"--", "-a"}, "files"},
+        {{"--al"}, "--all --all-but-one"},
+        {{"l"}, ""},
     };
     for (const auto& row : rows) {
         SCOPED_TRACE(row.line.back() + " behind " + row.line.front());
