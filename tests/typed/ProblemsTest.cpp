@@ -11,8 +11,18 @@ namespace {
 namespace tarv = tarv_3_3::typed;
 
 enum class Paper { a4, letter };
+enum class Sparse { one = 1, minus = -7 };
 
 using Texts = std::vector<std::string>;
+
+} // namespace
+
+template <>
+struct tarv_3_3::typed::Names<Sparse> {
+    static constexpr Choice<Sparse> list[] = {{"one", Sparse::one}, {"minus-seven", Sparse::minus}};
+};
+
+namespace {
 
 template <class Declare>
 std::string problemsOf(Declare declare) {
@@ -60,6 +70,9 @@ TEST(TypedProblems, AreNamedWithTheirOption) {
               "p: 'x': its default grey must be one of red or blue\n");
     EXPECT_EQ(problemsOf([](tarv::Program& p) { p.option("x", "", static_cast<Paper>(7)); }),
               "p: 'x': its default has no name\np: 'x': its default  must be one of a4 or letter\n");
+    EXPECT_EQ(problemsOf([](tarv::Program& p) { p.option("x", "", static_cast<Sparse>(7)); }),
+              "p: 'x': its default has no name\np: 'x': its default  must be one of one or minus-seven\n");
+    EXPECT_EQ(problemsOf([](tarv::Program& p) { p.option("x", "", Sparse::minus); }), "");
     for (const char* name : {"a=", "a\tb", "a\rb"}) {
         EXPECT_EQ(problemsOf([&](tarv::Program& p) { p.flag(name, ""); }),
                   "p: '" + std::string(name) + "': a name has no blank and no '='\n");
