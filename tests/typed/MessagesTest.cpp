@@ -124,6 +124,8 @@ TEST(TypedMessages, OfVerbs) {
          {{"remoet"}, "2 p: unknown verb 'remoet'\nDid you mean 'remote'?\nTry 'p --help'.\n"},
          {{"zzz"}, "2 p: unknown verb 'zzz'\nTry 'p --help'.\n"},
          {{"lo"}, "2 p: ambiguous verb 'lo', could be 'log' or 'lock'\nTry 'p --help'.\n"},
+         {{"lo", "log"}, "2 p: ambiguous verb 'lo', could be 'log' or 'lock'\nTry 'p --help'.\n"},
+         {{"zzz", "log"}, "2 p: unknown verb 'zzz'\nTry 'p --help'.\n"},
          {{"--max-=3", "log"},
           "2 p: ambiguous option '--max-', could be '--max-count' or '--max-depth'\nTry 'p log --help'.\n"},
          {{"log", "x"}, "2 p: unexpected argument 'x'\nTry 'p log --help'.\n"}});
