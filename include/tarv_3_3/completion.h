@@ -63,7 +63,8 @@ protected:
 
 /// A host's function that offers values for the option with the primary name `option`. `word` is the typed
 /// part of the value, or of the last element of a list. Returns whether it knows the option. If not, and the
-/// option takes texts, the shell offers files. The pointers are valid during the call only.
+/// option takes texts, the shell offers files. What it offers comes before the allowed values of the option,
+/// and may be some of these, with descriptions. The pointers are valid during the call only.
 using ValueCompleter = bool (*)(void* context, const char* option, const char* word, CandidateSink& sink);
 
 /// Tells what may replace the last of `count` words, of which the first is the program. Nothing is stored,

@@ -44,9 +44,10 @@ void ValueOffer::addTo(KeptCompletion& kept, const HostValues& host) {
         return;
     }
     m_kept = &kept;
-    offerDeclared();
+    // Before the declared values, which have no descriptions: the host may describe them.
     const bool isKnown = host.complete != nullptr &&
                          host.complete(host.context, m_option.primaryName().c_str(), m_piece.c_str(), *this);
+    offerDeclared();
     if (m_isOutOfMemory) {
         throw std::bad_alloc();
     }

@@ -29,5 +29,23 @@ TEST(ValueOffer, KeepsNoTextsInTheParserThatIsAsked) {
     release(completion);
 }
 
+bool describeGreen(void* /*context*/, const char* /*option*/, const char* /*word*/, CandidateSink& sink) {
+    sink.add("green", "as grass");
+    return true;
+}
+
+TEST(ValueOffer, BeginsWithWhatTheHostSaysOfAllowedValues) {
+    BasicParser parser(0);
+    parser.option("color", "", vtString, "").allowValue("red").allowValue("green");
+    const char* const words[] = {"tool", "--color="};
+    const Completion* const completion = complete(&parser, 2, words, describeGreen);
+    ASSERT_EQ(completion->candidateCount, 2U);
+    EXPECT_STREQ(completion->candidates[0].text, "--color=green");
+    EXPECT_STREQ(completion->candidates[0].description, "as grass");
+    EXPECT_STREQ(completion->candidates[1].text, "--color=red");
+    EXPECT_STREQ(completion->candidates[1].description, "");
+    release(completion);
+}
+
 } // namespace
 } // namespace tarv_3_3
