@@ -4,7 +4,6 @@
 
 #include <atomic>
 #include <cstring>
-#include <iterator>
 
 namespace tarv_3_3::internal {
 
@@ -96,8 +95,10 @@ HashKey makeHashKey(const void* seed) {
     // The first digits of pi: constants that nobody chose.
     constexpr std::uint64_t digits[] = {0x243F6A8885A308D3, 0x13198A2E03707344, 0xA4093822299F31D0,
                                         0x082EFA98EC4E6C89, 0x452821E638D01377};
-    for (std::size_t i = 0; i < std::size(key.words); ++i) {
-        key.words[i] = mix(words[0] ^ digits[i], words[1] ^ digits[i + 1]);
+    const std::uint64_t* digit = digits;
+    for (std::uint64_t& word : key.words) {
+        word = mix(words[0] ^ digit[0], words[1] ^ digit[1]);
+        ++digit;
     }
     return key;
 }

@@ -34,6 +34,19 @@ bool describeGreen(void* /*context*/, const char* /*option*/, const char* /*word
     return true;
 }
 
+TEST(ValueOffer, HasOneAndZeroForAPositionalSwitch) {
+    BasicParser parser(0);
+    parser.option("on", "", vtBool, "").positional();
+    const char* const words[] = {"tool", ""};
+    const Completion* const completion = complete(&parser, 2, words);
+    ASSERT_EQ(completion->candidateCount, 2U);
+    for (unsigned i = 0; i < 2; ++i) {
+        EXPECT_STREQ(completion->candidates[i].text, i == 0 ? "1" : "0");
+        EXPECT_STREQ(completion->candidates[i].description, "");
+    }
+    release(completion);
+}
+
 TEST(ValueOffer, BeginsWithWhatTheHostSaysOfAllowedValues) {
     BasicParser parser(0);
     parser.option("color", "", vtString, "").allowValue("red").allowValue("green");
