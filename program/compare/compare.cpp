@@ -69,6 +69,9 @@ void compareLevel(const CommandLine& older, const CommandLine& newer, const std:
     const Sides sides(older, newer);
     Examples examples(sides.older, command);
     compareNames(sides, examples, comparison);
+    for (const char* const name : {"help", "version"}) {
+        compareLastResort(sides, older, newer, name, examples, comparison);
+    }
     compareValues(sides, examples, comparison);
     compareLines(sides, examples, comparison);
     compareFacts(sides, examples, comparison);

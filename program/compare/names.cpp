@@ -28,6 +28,23 @@ std::vector<std::string> candidatesOf(const Option& option) {
     return names;
 }
 
+std::string said(const Meaning& meaning) {
+    if (meaning.kind == Meaning::nothing) {
+        return "is unknown";
+    }
+    if (meaning.kind == Meaning::positional) {
+        return "is a positional argument";
+    }
+    if (meaning.kind == Meaning::one) {
+        return "means " + shellQuoted("--" + meaning.name);
+    }
+    std::string text;
+    for (const std::string& name : meaning.candidates) {
+        text += (text.empty() ? "is ambiguous: " : ", ") + shellQuoted("--" + name);
+    }
+    return text;
+}
+
 class NameComparison {
 public:
     NameComparison(const Sides& sides, Examples& examples, Comparison& comparison)
@@ -111,11 +128,13 @@ private:
             return;
         }
         // Help and the version need no declaration in programs that have them by themselves.
-        if (now.kind == Meaning::nothing && mendOf(m_sides.newer.line(), "--" + typed.longest) ==
-                                                m_sides.older.option(before.place).primaryName()) {
+        const std::string mend =
+            now.kind == Meaning::nothing ? mendOf(m_sides.newer.line(), "--" + typed.longest) : "";
+        const bool isShown = mend == "help" || mend == "version";
+        if (isShown && mend == m_sides.older.option(before.place).primaryName()) {
             return;
         }
-        const std::string what = said(now);
+        const std::string what = isShown ? "shows the " + mend : said(now);
         Finding& finding = found[what];
         finding.kind = "name";
         finding.was = "means " + shellQuoted("--" + name);
@@ -123,23 +142,6 @@ private:
         finding.shorter += typed.count;
         std::string& shown = longest[what];
         shown = typed.longest.size() > shown.size() ? typed.longest : shown;
-    }
-
-    static std::string said(const Meaning& meaning) {
-        if (meaning.kind == Meaning::nothing) {
-            return "is unknown";
-        }
-        if (meaning.kind == Meaning::positional) {
-            return "is a positional argument";
-        }
-        if (meaning.kind == Meaning::one) {
-            return "means " + shellQuoted("--" + meaning.name);
-        }
-        std::string text;
-        for (const std::string& name : meaning.candidates) {
-            text += (text.empty() ? "is ambiguous: " : ", ") + shellQuoted("--" + name);
-        }
-        return text;
     }
 
     const Sides& m_sides;
@@ -155,6 +157,31 @@ private:
 
 void compareNames(const Sides& sides, Examples& examples, Comparison& comparison) {
     NameComparison(sides, examples, comparison).compareAll();
+}
+
+void compareLastResort(const Sides& sides, const CommandLine& older, const CommandLine& newer,
+                       const std::string& name, const Examples& examples, Comparison& comparison) {
+    // What each beginning does now; the longest one shows it.
+    std::map<std::string, Finding> found;
+    for (std::string typed = name; !typed.empty(); typed.pop_back()) {
+        const auto asks = [&](const Side& side, const CommandLine& program) {
+            return side.meaningOf(typed).kind == Meaning::nothing && mendOf(program, "--" + typed) == name;
+        };
+        if (!asks(sides.older, older) || asks(sides.newer, newer)) {
+            continue;
+        }
+        const std::string what = said(sides.newer.meaningOf(typed));
+        const bool isLongest = found.count(what) == 0;
+        Finding& finding = found[what];
+        if (isLongest) {
+            finding = {"name", examples.shown({"--" + typed}), "shows the " + name, what};
+        } else {
+            ++finding.shorter;
+        }
+    }
+    for (const auto& [now, finding] : found) {
+        comparison.breaks.push_back(finding);
+    }
 }
 
 void listNewNames(const Sides& sides, const Examples& examples, Comparison& comparison) {

@@ -30,6 +30,9 @@ std::vector<VerbPair> compareVerbs(const CommandLine& older, const CommandLine& 
     Examples examples(sides.older, command);
     Comparison found;
     compareNames(sides, examples, found);
+    if (command.size() == 1) {
+        compareLastResort(sides, older, newer, "help", examples, found);
+    }
     listNewNames(sides, examples, found);
     for (Finding& finding : found.breaks) {
         finding.kind = "verb";

@@ -454,6 +454,33 @@ CommandLine verb(std::vector<std::string> names, Declare declare) {
     return line;
 }
 
+// Declared names go before those that a program has by itself.
+TEST(Compare, FindsWaysToAskForHelpThatAreTakenAway) {
+    CommandLine older = described(nothing);
+    older.mends = {"loneDash"};
+    older.version = "1.0";
+    CommandLine newer = older;
+    newer.options = described([](IParser& p) {
+                        p.option("hello,v", "", vtNull);
+                        p.option("heap", "", vtNull);
+                    }).options;
+    EXPECT_EQ(reportAsBaseline(compare(older, newer)), "name: tool --he: is ambiguous: --hello, --heap\n"
+                                                       "name: tool --hel: means --hello\n"
+                                                       "name: tool --v: means --v\n");
+    EXPECT_EQ(reportAsBaseline(compare(newer, older)), "name: tool --hello: is unknown\n"
+                                                       "name: tool --v: shows the version\n"
+                                                       "name: tool --heap: is unknown\n");
+    newer = older;
+    newer.version = "";
+    EXPECT_EQ(reportAsBaseline(compare(older, newer)), "name: tool --version: is unknown\n");
+    newer = older;
+    older.verbs = {verb({"log"}, nothing)};
+    older.verbs[0].verbs = {verb({"all"}, nothing)};
+    newer.verbs = {older.verbs[0], verb({"hello"}, nothing)};
+    newer.verbs[0].verbs.push_back(verb({"help"}, nothing));
+    EXPECT_EQ(reportAsBaseline(compare(older, newer)), "verb: tool hel: means hello\n");
+}
+
 TEST(Compare, ComparesVerbsAndWhatBelongsToThem) {
     CommandLine older = described([](IParser& p) { p.option("dir", "", vtString).tokenize(0); });
     CommandLine newer = older;
