@@ -17,12 +17,7 @@ namespace {
 
 // Whether a byte of it would end it on a command line.
 bool isCut(const std::string& name) {
-    for (const char byte : name) {
-        if (byte == '=' || byte == ' ' || ('\t' <= byte && byte <= '\r')) {
-            return true;
-        }
-    }
-    return false;
+    return name.find_first_of("= \t\n\v\f\r") != std::string::npos;
 }
 
 bool isOneOf(const std::string& text, std::initializer_list<const char*> texts) {
