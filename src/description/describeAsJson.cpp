@@ -14,6 +14,7 @@ namespace {
 
 using internal::JsonWriter;
 using internal::writeList;
+using internal::writeNotes;
 using internal::writeText;
 using internal::writeTrue;
 
@@ -37,17 +38,6 @@ void writePositional(JsonWriter& json, const OptionDescription& option, bool isF
     if (option.m_positional) {
         json.member("positional", isFilled ? "filled" : "unused");
     }
-}
-
-void writeNotes(JsonWriter& json, const internal::Remarks::Notes& notes) {
-    if (notes.empty()) {
-        return;
-    }
-    json.open('{', "notes");
-    for (const auto& [key, value] : notes) {
-        json.member(key, value);
-    }
-    json.close('}');
 }
 
 void writeDeclaration(JsonWriter& json, const OptionDescription& option, bool isFilled,

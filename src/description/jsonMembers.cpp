@@ -44,6 +44,17 @@ void writeText(JsonWriter& json, const char* name, std::string_view text) {
     }
 }
 
+void writeNotes(JsonWriter& json, const std::vector<std::pair<std::string, std::string>>& notes) {
+    if (notes.empty()) {
+        return;
+    }
+    json.open('{', "notes");
+    for (const auto& [key, value] : notes) {
+        json.member(key, value);
+    }
+    json.close('}');
+}
+
 void writeFlags(JsonWriter& json, int flags) {
     const struct {
         int flag;

@@ -2,6 +2,8 @@
 
 #include <string>
 #include <string_view>
+#include <utility>
+#include <vector>
 
 #include "description/JsonWriter.h"
 #include "tarv_3_3/variant.h"
@@ -25,6 +27,9 @@ const char* ruleName(int kind);
 void writeTrue(JsonWriter& json, const char* name, bool isTrue);
 void writeText(JsonWriter& json, const char* name, std::string_view text);
 ///@}
+
+/// The member "notes", of keys and values; nothing when there are none.
+void writeNotes(JsonWriter& json, const std::vector<std::pair<std::string, std::string>>& notes);
 
 /// The names of `ParserFlag` bits.
 void writeFlags(JsonWriter& json, int flags);

@@ -16,6 +16,7 @@ namespace {
 
 using internal::JsonWriter;
 using internal::writeList;
+using internal::writeNotes;
 using internal::writeText;
 using internal::writeTrue;
 
@@ -73,7 +74,7 @@ void writeChecks(JsonWriter& json, const Option& option) {
     json.close(']');
 }
 
-using Notes = std::vector<std::pair<const char*, std::string>>;
+using Notes = std::vector<std::pair<std::string, std::string>>;
 
 Notes notesOf(const Option& option) {
     Notes notes = {{"complete", option.completeAs},
@@ -89,17 +90,6 @@ Notes notesOf(const Option& option) {
         notes.emplace_back("deprecated", option.insteadOfIt);
     }
     return notes;
-}
-
-void writeNotes(JsonWriter& json, const Notes& notes) {
-    if (notes.empty()) {
-        return;
-    }
-    json.open('{', "notes");
-    for (const auto& [key, value] : notes) {
-        json.member(key, value);
-    }
-    json.close('}');
 }
 
 std::vector<std::string> tagsOf(const Option& option) {
