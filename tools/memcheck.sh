@@ -3,8 +3,8 @@
 # a value that nobody set, or leaves a block behind that nothing points to; and when a test fails.
 #   tools/memcheck.sh [PRESET]
 # PRESET is "release" when not given; "debug" names the lines of what is found, and takes longer.
-# TARV_MODEL_LINES in the environment says how many command lines the model is compared on; most of the
-# time goes there.
+# TARV_TEST_PERCENT in the environment says how many of their rounds random tests make; most of the time goes
+# there.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 

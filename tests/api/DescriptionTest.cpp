@@ -100,23 +100,23 @@ TEST(Descriptions, KeepTheLayoutOfTheirRecords) {
     EXPECT_EQ(sizeof(tarv::Rule), 24U);
 }
 
-TEST(Descriptions, OfFiveThousandDeclarationsAreMadeAtOnce) {
+TEST(Descriptions, OfTwoThousandDeclarationsAreMadeAtOnce) {
     const CommandLine line;
-    for (int i = 0; i < 5000; ++i) {
+    for (int i = 0; i < 2000; ++i) {
         line.parser->option(("name-of-option-" + std::to_string(i)).c_str(), "", tarv::vtString);
     }
-    for (int i = 4999; i >= 0; --i) {
+    for (int i = 1999; i >= 0; --i) {
         ASSERT_EQ(tarv::annotate(line.parser, ("name-of-option-" + std::to_string(i)).c_str(), "value", "X"),
                   0);
     }
     const tarv::Description* const description = tarv::describe(line.parser);
     ASSERT_NE(description, nullptr);
-    EXPECT_EQ(description->declarationCount, 5000U);
-    EXPECT_STREQ(tarv::declarationAt(*description, 4999).names[0], "name-of-option-4999");
+    EXPECT_EQ(description->declarationCount, 2000U);
+    EXPECT_STREQ(tarv::declarationAt(*description, 1999).names[0], "name-of-option-1999");
     tarv::release(description);
-    EXPECT_NE(std::string(tarv::describeAsJson(line.parser)).find("name-of-option-4999"), std::string::npos);
-    EXPECT_STREQ(tarv::suggest(line.parser, "--name-of-optoin-4999"),
-                 "Did you mean '--name-of-option-4999'?");
+    EXPECT_NE(std::string(tarv::describeAsJson(line.parser)).find("name-of-option-1999"), std::string::npos);
+    EXPECT_STREQ(tarv::suggest(line.parser, "--name-of-optoin-1999"),
+                 "Did you mean '--name-of-option-1999'?");
 }
 
 TEST(Descriptions, FollowWhatAHandlerDeclaresInTheMiddleOfAParse) {

@@ -8,6 +8,7 @@
 #include "parser/BasicParser.h"
 #include "support/CapturedLog.h"
 #include "support/RandomCommandLine.h"
+#include "support/roundsOf.h"
 #include "tarv_3_3/IParseResult.h"
 #include "tarv_3_3/completion.h"
 
@@ -119,7 +120,7 @@ void expectAccepted(BasicParser& parser, const std::vector<std::string>& before,
 
 // Names that several options have in common are left out: what is stored under them belongs to all.
 TEST(Complete, OffersWhatTheParseAccepts) {
-    constexpr unsigned rounds = 20000;
+    const unsigned rounds = roundsOf(20000);
     Count count;
     for (unsigned seed = 0; seed < rounds && !testing::Test::HasFailure(); ++seed) {
         RandomCommandLine random(seed);
@@ -151,7 +152,7 @@ public:
 };
 
 TEST(Complete, OffersWhatTheParseAcceptsWhenCutShort) {
-    constexpr unsigned rounds = 20000;
+    const unsigned rounds = roundsOf(20000);
     unsigned cut = 0;
     for (unsigned seed = 0; seed < rounds && !testing::Test::HasFailure(); ++seed) {
         RandomCommandLine random(seed);

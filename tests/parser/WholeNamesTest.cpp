@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "parser/BasicParser.h"
+#include "support/roundsOf.h"
 #include "tarv_3_3/EventHandler.h"
 
 namespace tarv_3_3 {
@@ -171,7 +172,8 @@ protected:
 
 // An empty name, or one that begins with a dash, is refused whatever it fits.
 TEST_F(WholeNames, AreTakenAsTheWalkOverTheTableTakesThem) {
-    for (int round = 0; round < 1500; ++round) {
+    const unsigned rounds = roundsOf(1500);
+    for (unsigned round = 0; round < rounds; ++round) {
         BasicParser parser(0);
         Recorder recorder;
         parser.addHandler(&recorder);

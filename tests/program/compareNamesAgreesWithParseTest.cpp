@@ -9,6 +9,7 @@
 #include "compare/compare.h"
 #include "model/readDescription.h"
 #include "support/RandomCommandLine.h"
+#include "support/roundsOf.h"
 
 using namespace tarv_3_3;
 
@@ -90,7 +91,7 @@ CommandLine lineOf(IParser& parser) {
 
 TEST(CompareNames, FindsExactlyTheAbbreviationsThatAParseTakesOtherwise) {
     std::size_t all = 0;
-    constexpr unsigned rounds = 200;
+    const unsigned rounds = roundsOf(200);
     for (unsigned seed = 0; seed < rounds && !testing::Test::HasFailure(); ++seed) {
         RandomCommandLine random(seed);
         BasicParser older(flagRejectUnknown | flagDashIsNotPositional);

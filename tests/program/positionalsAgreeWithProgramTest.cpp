@@ -11,6 +11,7 @@
 #include "model/readDescription.h"
 #include "support/RandomCommandLine.h"
 #include "support/TypedLine.h"
+#include "support/roundsOf.h"
 
 using namespace tarv_3_3;
 
@@ -150,7 +151,7 @@ Texts randomArguments(RandomCommandLine& random) {
 
 TEST(Positionals, GoWhereTheProgramItselfTakesThem) {
     unsigned successes = 0;
-    constexpr unsigned rounds = 400;
+    const unsigned rounds = roundsOf(400);
     for (unsigned seed = 0; seed < rounds && !testing::Test::HasFailure(); ++seed) {
         RandomCommandLine random(seed);
         Sample sample(randomPlans(random));
@@ -185,7 +186,7 @@ TEST(Positionals, BreakWhereTheProgramsTakeThemForOthers) {
     const std::vector<Texts> lines = allLines();
     unsigned brokenPairs = 0;
     unsigned examples = 0;
-    constexpr unsigned rounds = 300;
+    const unsigned rounds = roundsOf(300);
     for (unsigned seed = 0; seed < rounds && !testing::Test::HasFailure(); ++seed) {
         RandomCommandLine random(seed);
         std::vector<Plan> plans = randomPlans(random);

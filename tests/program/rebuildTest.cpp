@@ -8,6 +8,7 @@
 
 #include "model/readDescription.h"
 #include "support/RandomCommandLine.h"
+#include "support/roundsOf.h"
 
 using namespace tarv_3_3;
 
@@ -67,7 +68,7 @@ nlohmann::json described(IParser& parser) {
 
 TEST(Rebuild, GivesTheDescriptionBackAndTheSameOutcomes) {
     unsigned successes = 0;
-    constexpr unsigned rounds = 1000;
+    const unsigned rounds = roundsOf(1000);
     for (unsigned seed = 0; seed < rounds && !testing::Test::HasFailure(); ++seed) {
         RandomCommandLine random(seed);
         BasicParser original(random.flags());

@@ -9,6 +9,7 @@
 #include "support/CapturedLog.h"
 #include "support/ExpectedParse.h"
 #include "support/RandomCommandLine.h"
+#include "support/roundsOf.h"
 
 namespace tarv_3_3 {
 namespace {
@@ -56,7 +57,7 @@ bool expectAgreement(BasicParser& parser, const std::vector<std::string>& argume
 }
 
 TEST(Reader, AgreesWithTheParseAboutRandomCommandLines) {
-    constexpr unsigned rounds = 6000;
+    const unsigned rounds = roundsOf(6000);
     unsigned successes = 0;
     for (unsigned seed = 0; seed < rounds && !testing::Test::HasFailure(); ++seed) {
         RandomCommandLine random(seed);

@@ -7,6 +7,7 @@
 
 #include "reliability/Model.h"
 #include "reliability/Session.h"
+#include "support/roundsOf.h"
 
 namespace {
 
@@ -303,7 +304,7 @@ void compareLines(unsigned int seed, int lines, Statuses& statuses) {
 
 TEST(Model, AgreesWithTheLibraryOnRandomCommandLines) {
     const unsigned int seed = numberFrom("TARV_MODEL_SEED", 1);
-    const unsigned int lines = numberFrom("TARV_MODEL_LINES", 100000);
+    const unsigned int lines = numberFrom("TARV_MODEL_LINES", roundsOf(100000));
     constexpr int linesPerTable = 50;
     std::cout << "TARV_MODEL_SEED=" << seed << " TARV_MODEL_LINES=" << lines << std::endl;
     Statuses statuses(7);
