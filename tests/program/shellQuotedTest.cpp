@@ -18,6 +18,7 @@ TEST(ShellQuoted, QuotesWhatAShellWouldNotTakeAsItIs) {
         {"gr\xC3\xBC\xC3\x9F", "'gr\xC3\xBC\xC3\x9F'"},
         {"\x1B[2J", "$'\\x1b[2J'"},
         {"a'b\n", "$'a\\'b\\x0a'"},
+        {"a\\b~\n", "$'a\\\\b~\\x0a'"},
         {"\xFF", "$'\\xff'"},
         {"\xC2\x9B", "$'\\xc2\\x9b'"},
         {"\xE2\x80", "$'\\xe2\\x80'"},
