@@ -150,9 +150,7 @@ std::vector<std::string> telltaleValues(const Option& older, const Option& newer
         if (option->separator != 0) {
             const std::string separator(1, option->separator);
             const std::string one = older.allowed.empty() ? "1" : older.allowed.front();
-            values.push_back(one);
-            values.back().append(separator).append(one);
-            values.push_back("one" + separator + "two");
+            values.push_back(one + separator + one);
         }
     }
     return values;
