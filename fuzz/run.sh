@@ -9,8 +9,13 @@ target=$1
 seconds=$2
 shift 2
 
+# Several targets may be fuzzed at once; one builds at a time.
+mkdir -p build/fuzz
+exec {lock}>build/fuzz/lock
+flock "$lock"
 cmake --preset fuzz > /dev/null
 cmake --build --preset fuzz --target "fuzz_$target" > /dev/null
+exec {lock}>&-
 found=build/fuzz/found/$target
 mkdir -p "$found"
 exec "build/fuzz/fuzz/fuzz_$target" -max_total_time="$seconds" -max_len=1024 -timeout=10 \
