@@ -25,10 +25,11 @@ bool isDescriptionFile(const std::string& path) {
 }
 
 std::string jsonOf(const std::string& source, const Limits& limits) {
-    if (isDescriptionFile(source)) {
+    std::error_code ignored;
+    // Nobody can look at the beginning of a pipe and leave it there.
+    if (std::filesystem::is_fifo(source, ignored) || isDescriptionFile(source)) {
         return contentsOf(source);
     }
-    std::error_code ignored;
     if (source.find('/') == std::string::npos && std::filesystem::is_regular_file(source, ignored)) {
         throw Failure(source + ": is a file, but no description; a program here is ./" + source);
     }

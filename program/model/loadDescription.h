@@ -14,10 +14,10 @@ std::string contentsOf(const std::string& path);
 /// What is between the last slash and the ending of a description's name: "seek" for "old/seek.json".
 std::string programName(const std::string& path);
 
-/// The description that `source` names: a file with JSON, a program by its path, or one in PATH. A file in
-/// the current folder that does not begin as a description does is refused, unless the path has a slash. The
-/// program is run with the one argument tarvoption=describe; any other answer than a description is refused.
-/// The name of the command line is that of the program, or of the file where it says none.
+/// The description that `source` names: a file or a pipe with JSON, a program by its path, or one in PATH. A
+/// file in the current folder that does not begin as a description does is refused, unless the path has a
+/// slash. The program is run with the one argument tarvoption=describe; any other answer than a description
+/// is refused. The name of the command line is that of the program, or of the file where it says none.
 CommandLine loadDescription(const std::string& source, const Limits& limits = Limits());
 
 /// The JSON of the same, read and found good.
