@@ -379,6 +379,9 @@ TEST(Compare, ComparesArgumentsByTheirOrder) {
     const Option more = argument("more", vtString, {0, 1});
     Option wide = argument("number", vtInt32, {1, 1});
     Option narrow = wide;
+    Option named;
+    named.kind = vtInt32;
+    named.names = {"named"};
     wide.notes = {{"range", "-5..9"}};
     narrow.notes = {{"range", "0..9"}};
     const struct {
@@ -399,6 +402,7 @@ TEST(Compare, ComparesArgumentsByTheirOrder) {
          {target},
          {place, target},
          "line: tool text: is refused: argument TARGET is missing\n"},
+        {"an option with a name in front", {source, target}, {named, source, target}, ""},
         {"one less",
          {target, more},
          {target},

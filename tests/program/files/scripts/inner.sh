@@ -15,3 +15,4 @@ sh -e script.sh -c 'pack --outp=l'
 sh -c 'if pack --outp=m'
 echo -exec pack --outp=n \;
 find . -exec pack --output=o {} \;
+sh -c 'echo another program'
