@@ -146,7 +146,8 @@ private:
 
     // Mends what was reported last.
     void mend(const Word& word, std::size_t begin, std::size_t end, const std::string& text) {
-        if (word.isContiguous(begin, end) && isPlain(text) && isPlain(word.text.substr(begin, end - begin))) {
+        // Plain text stands for itself, in quotes and out of them.
+        if (word.isContiguous(begin, end) && isPlain(text)) {
             m_found.back().fix = Replacement{word.offsets[begin], end - begin, text};
         }
     }

@@ -16,14 +16,17 @@ bool isControl(char byte) {
 // How many bytes of well-formed UTF-8 beyond ASCII, and beyond the control characters there, begin at `at`.
 std::size_t letterLength(const std::string& word, std::size_t at) {
     const auto lead = static_cast<unsigned char>(word[at]);
-    const std::size_t length = lead >= 0xC3 && lead < 0xE0   ? 2
-                               : lead >= 0xE1 && lead < 0xED ? 3
-                               : lead >= 0xF1 && lead < 0xF4 ? 4
-                                                             : 0;
+    const std::size_t length = lead < 0xC2 || lead > 0xF4 ? 0 : lead < 0xE0 ? 2 : lead < 0xF0 ? 3 : 4;
     if (length == 0 || at + length > word.size()) {
         return 0;
     }
-    for (std::size_t i = 1; i < length; ++i) {
+    const auto second = static_cast<unsigned char>(word[at + 1]);
+    const unsigned least = lead == 0xC2 || lead == 0xE0 ? 0xA0 : lead == 0xF0 ? 0x90 : 0x80;
+    const unsigned greatest = lead == 0xED ? 0x9F : lead == 0xF4 ? 0x8F : 0xBF;
+    if (second < least || second > greatest) {
+        return 0;
+    }
+    for (std::size_t i = 2; i < length; ++i) {
         if ((static_cast<unsigned char>(word[at + i]) & 0xC0) != 0x80) {
             return 0;
         }
