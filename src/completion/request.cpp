@@ -65,7 +65,6 @@ void printDescription(Answerer& answerer) {
     const char* const description = answerer.describeAsJson();
     if (description != nullptr) {
         print(description);
-        print("\n");
     }
 }
 

@@ -254,6 +254,24 @@ TEST(Complete, AnswersNothingToArgumentsThatAreNone) {
     release(static_cast<const Completion*>(nullptr));
 }
 
+TEST(AnswerCompletion, PrintsTheDescriptionThatIsAskedFor) {
+    const Parser parser = makeParser();
+    parser->option("level", "", vtInt32);
+    const char* const words[] = {"tool", "tarvoption=describe"};
+    testing::internal::CaptureStdout();
+    EXPECT_TRUE(answerCompletion(parser.get(), 2, words));
+    EXPECT_EQ(testing::internal::GetCapturedStdout(),
+              R"({"format": "tarv-description", "version": "1.0",
+"flags": [],
+"topics": [
+{"name": ""}],
+"declarations": [
+{"role": "option", "kind": "int32", "names": ["level"], "separator": ","}],
+"rules": [],
+"checks": []}
+)");
+}
+
 TEST(AnswerCompletion, IsNotAskedByOtherArguments) {
     const Parser parser = makeParser();
     const char* const words[] = {"tool", "x"};
