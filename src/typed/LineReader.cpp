@@ -161,8 +161,7 @@ void LineReader::readUnfit(std::size_t place, const ReadArgument& read) {
         m_line.complain(
             messages::takesNoValue(terminalText(argument), wish == Wish::help ? "--help" : "--version"));
     } else if (wish == Wish::none) {
-        m_line.complain(messages::unknownOption(typed.empty() ? terminalText(argument) : typed),
-                        suggestOption(*m_line.chosen, argument));
+        m_line.complain(messages::unknownOption(typed), suggestOption(*m_line.chosen, argument));
     } else if (m_line.wish == Wish::none) {
         m_line.wish = wish;
     }

@@ -18,8 +18,7 @@ bool isDigit(char byte) {
 
 // "-5" and "-.5", with whatever may follow.
 bool looksNegative(const std::string& argument) {
-    return argument.size() > 1 && argument[0] == '-' &&
-           (isDigit(argument[1]) || (argument[1] == '.' && argument.size() > 2 && isDigit(argument[2])));
+    return argument[0] == '-' && (isDigit(argument[1]) || (argument[1] == '.' && isDigit(argument[2])));
 }
 
 bool takesNumbers(const Command& command) {

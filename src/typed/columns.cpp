@@ -24,10 +24,11 @@ bool isIn(const CodeRange (&ranges)[count], char32_t code) {
     return found != std::end(ranges) && found->first <= code;
 }
 
+// Of several bytes.
 char32_t codeOf(std::string_view character) {
     const auto first = static_cast<unsigned char>(character.front());
     const std::size_t length = character.size();
-    char32_t code = length == 1 ? first : first & (0xFFU >> (length + 1));
+    char32_t code = first & (0xFFU >> (length + 1));
     for (const char byte : character.substr(1)) {
         code = code << 6 | (static_cast<unsigned char>(byte) & 0x3FU);
     }
@@ -115,12 +116,12 @@ private:
         m_pieceColumns += columns;
     }
 
-    // Puts the piece, which is not cut, on the line or on a new one.
+    // Puts the piece, which is not cut and not wider than a line, on the line or on a new one.
     void endPiece() {
         if (m_piece.empty()) {
             return;
         }
-        if (m_lineColumns + m_blanks + m_pieceColumns > m_width && !m_line.empty()) {
+        if (m_lineColumns + m_blanks + m_pieceColumns > m_width) {
             startLine();
         }
         m_line = m_line.empty() ? m_piece : longer(m_line, m_blanks + m_piece.size());

@@ -25,10 +25,11 @@ std::string joinedNames(const std::vector<Option*>& options) {
     return list;
 }
 
-// As no mend is needed: "--name=value". A value that is empty decides nothing that follows.
+// As no mend is needed: "--name=value". A value that is empty decides nothing that follows. What has no name
+// is not among the occurrences yet.
 std::string writtenOut(const Occurrence& occurrence) {
     const Option& option = *occurrence.option;
-    if (option.isPositional() || (option.takesValue() && *occurrence.text == '\0')) {
+    if (option.takesValue() && *occurrence.text == '\0') {
         return "";
     }
     if (option.takesValue()) {

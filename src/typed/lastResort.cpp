@@ -7,8 +7,7 @@ namespace tarv_3_3::typed::engine {
 namespace {
 
 bool fits(std::string_view typed, std::string_view name) {
-    const NameScore score = scoreName(typed, name);
-    return score.sameWordCount && score.score > 0;
+    return scoreName(typed, name).sameWordCount;
 }
 
 } // namespace
