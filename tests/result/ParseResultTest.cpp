@@ -374,6 +374,17 @@ TEST_F(ParseResultQueries, ConsumeNothingWhenAskedForThePresenceAlone) {
     EXPECT_EQ(value, variant_t("before"));
     EXPECT_EQ(position, 5);
     EXPECT_EQ(next(), "\"a\"@11");
+    EXPECT_EQ(result.get(std::string("absent"), nullptr, value, 0, end, position), 1);
+    EXPECT_EQ(value, variant_t("before"));
+    EXPECT_EQ(position, 5);
+}
+
+TEST_F(ParseResultQueries, YieldADefaultWhenAskedForThePresenceAlone) {
+    variant_t value("before");
+    int position = 5;
+    EXPECT_EQ(result.get(std::string("size"), nullptr, value, 0, end, position), 0);
+    EXPECT_EQ(value, variant_t(std::int32_t(7)));
+    EXPECT_EQ(position, 3);
 }
 
 } // namespace

@@ -253,11 +253,79 @@ TEST(TypedHelp, SaysHowOftenAListIsGiven) {
     }
 }
 
+TEST(TypedHelp, HasTwentyColumnsAtLeastAndEightyUnlessANumberSaysOtherwise) {
+    constexpr const char* narrow = R"(
+0 Usage: p [OPTION]...
+
+Options:
+      --text=TEXT
+              A text
+              of six
+              words
+              here.
+  -h, --help  Show
+              this
+              help.
+)";
+    constexpr const char* wide = R"(
+0 Usage: p [OPTION]...
+
+Options:
+      --text=TEXT  A text of six words here.
+  -h, --help       Show this help.
+)";
+    const struct {
+        const char* columns;
+        const char* help;
+    } rows[] = {{"20", narrow}, {"19", narrow}, {"1", narrow}, {"80", wide},
+                {"0", wide},    {"20x", wide},  {"x", wide},   {"-20", wide}};
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.columns);
+        tarv::Program program("p");
+        program.option<std::string>("text", "A text of six words here.");
+        EXPECT_EQ(helpAt(program, row.columns, {"--help"}), row.help);
+    }
+}
+
+TEST(TypedHelp, NamesOfTheHostAreItsOwn) {
+    tarv::Program program("p", "1.0", "");
+    program.verb("list", "Lists.");
+    program.does([] {});
+    program.flag("help", "Helps.");
+    program.flag("h", "Half.");
+    program.verb("show", "Shows.").positional<std::string>("file~", "Not shown.").hidden();
+    program.option<int>("version", "Which one.");
+    EXPECT_EQ(helpAt(program, "80", {"help"}), R"(
+0 Usage: p [OPTION]... [VERB [ARGUMENT]...]
+
+Verbs:
+  list                  Lists.
+  show                  Shows.
+
+Options:
+      --help            Helps.
+  -h                    Half.
+      --version=NUMBER  Which one.
+
+Try 'p help VERB' to read more about a verb.
+)");
+    EXPECT_EQ(helpAt(program, "80", {"help", "show"}), R"(
+0 Usage: p show [OPTION]... [FILE~]
+Shows.
+
+Options of p:
+      --help            Helps.
+  -h                    Half.
+      --version=NUMBER  Which one.
+)");
+}
+
 TEST(TypedHelp, ListsActions) {
     tarv::Program program("tar", nullptr, "");
     program.action("list,t", "List it.");
     const auto extract = program.action("extract,x", "Extract it.");
     program.flag("keep", "Keep it.").goesWith(extract);
+    program.action("test", "Test it.").topic("Checks");
     EXPECT_EQ(helpAt(program, "80", {"--help"}), R"(
 0 Usage: tar ACTION [OPTION]...
 
@@ -268,6 +336,9 @@ Actions:
 Options:
       --keep     Keep it. (with --extract)
   -h, --help     Show this help.
+
+Checks:
+      --test     Test it.
 )");
 }
 

@@ -109,7 +109,10 @@ TEST(TypedLastResort, HelpIsThatOfTheVerb) {
                         {"remote add -h", "help of p remote add"},
                         {"help remote add", "help of p remote add"},
                         {"bogus --help", "help of p"},
-                        {"log --version", "version"}};
+                        {"help bogus", "help of p"},
+                        {"help help", "help of p"},
+                        {"log --version", "version"},
+                        {"--version help", "version"}};
     for (const Row& row : rows) {
         SCOPED_TRACE(row.line);
         EXPECT_EQ(answer(program, row.line), row.answer);

@@ -85,6 +85,7 @@ TEST(TypedLayers, LinesOfSettingsAreWholeNamesAndAllChecked) {
     tarv::Program program("p");
     program.option<int>("max-count", "");
     const auto color = program.flag("color", "");
+    const auto paging = program.option("paging", "", true);
     tarv::Command& log = program.verb("log", "");
     const auto depth = log.option<int>("depth", "").range(1, 9);
     log.does([] {});
@@ -112,10 +113,12 @@ TEST(TypedLayers, LinesOfSettingsAreWholeNamesAndAllChecked) {
         const std::string expected = wrong(path + row.message, "p remote add");
         EXPECT_EQ(parseLine(program, {"remote", "add"}), *row.message == '\0' ? "ok" : expected);
     }
-    program.settingsFile(directory.write("conf", "color\nlog.depth=4\nremote.add.url=x y").c_str());
+    program.settingsFile(
+        directory.write("conf", "color\nno-paging\nlog.depth=4\nremote.add.url=x y").c_str());
     EXPECT_EQ(parseLine(program, {"log"}), "ok");
     EXPECT_EQ(*depth, 4);
     EXPECT_TRUE(*color);
+    EXPECT_FALSE(*paging);
     EXPECT_FALSE(url.given());
 }
 
@@ -141,6 +144,19 @@ TEST(TypedLayers, AFileThatIsNamedMustBeThere) {
     EXPECT_EQ(parseLine(program, {}), wrong(directory.pathOf("weak") + ":1: unknown setting 'config'"));
     program.settingsFile(directory.pathOf("").c_str());
     EXPECT_EQ(parseLine(program, {}), wrong("cannot read the settings file '" + directory.pathOf("") + "'"));
+    program.settingsFile((strong + "/conf").c_str());
+    EXPECT_EQ(parseLine(program, {}), wrong("cannot read the settings file '" + strong + "/conf'"));
+}
+
+TEST(TypedLayers, OfWhatIsNotUsedNobodyIsWarned) {
+    const TemporaryDirectory directory;
+    tarv::Program program("p");
+    program.option<int>("old", "").deprecated("").env("TARV_TEST_OLD");
+    program.verb("log", "").does([] {}).flag("older", "").deprecated("");
+    program.verb("show", "").does([] {});
+    program.settingsFile(directory.write("conf", "log.older\n").c_str());
+    EXPECT_EQ(parseLine(program, {"show"}), "ok");
+    EXPECT_EQ(parseLine(program, {"log"}), "okp: option '--older' is deprecated\n");
 }
 
 TEST(TypedLayers, AStrongerSourceExcludesAWeakerOne) {

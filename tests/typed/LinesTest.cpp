@@ -1,3 +1,4 @@
+#include <chrono>
 #include <cstdlib>
 #include <string>
 #include <vector>
@@ -29,6 +30,34 @@ TEST(TypedLines, ANumberWithAMinusIsAValueOfAnOptionThatTakesNumbers) {
     EXPECT_EQ(parseLine(program, {"--offset", "-x"}), wrong("option '--offset' needs a value"));
     EXPECT_EQ(parseLine(program, {"--text", "-5"}), wrong("option '--text' needs a value"));
     EXPECT_EQ(parseLine(program, {"--offset", "-5x"}), wrong("--offset -5x: must be a whole number"));
+}
+
+TEST(TypedLines, EveryKindOfNumberTakesOneWithAMinus) {
+    tarv::Program program("p");
+    program.option<unsigned>("unsigned", "");
+    program.option<double>("real", "");
+    program.option<tarv::Size>("size", "");
+    program.option<std::chrono::seconds>("wait", "");
+    program.option<std::vector<int>>("list", "");
+    program.option<char>("byte", "");
+    const struct {
+        const char* line;
+        const char* message;
+    } rows[] = {
+        {"--unsigned -5", "--unsigned -5: must be from 0 to 4294967295"},
+        {"--real -5", ""},
+        {"--real -.5", ""},
+        {"--real -.", "option '--real' needs a value"},
+        {"--real -.x", "option '--real' needs a value"},
+        {"--size -5", "--size -5: must be a number of bytes, such as 4096 or 4MiB"},
+        {"--wait -5s", ""},
+        {"--list -5", ""},
+        {"--byte -5", "option '--byte' needs a value"},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.line);
+        EXPECT_EQ(parseLine(program, words(row.line)), *row.message == '\0' ? "ok" : wrong(row.message));
+    }
 }
 
 TEST(TypedLines, ANumberWithAMinusIsAnArgumentWhereArgumentsAreNumbers) {
@@ -80,6 +109,14 @@ TEST(TypedLines, AnEmptyValueNeverTakesTheNextArgument) {
     EXPECT_EQ(parseLine(program, {"--name", ""}), wrong("--name : the value is empty"));
 }
 
+TEST(TypedLines, AListThatMayBeEmptyTakesAnEmptyTextButNoLoneSeparator) {
+    tarv::Program program("p");
+    const auto names = program.option<Texts>("name", "").mayBeEmpty();
+    EXPECT_EQ(parseLine(program, {"--name=", "--name=a"}), "ok");
+    EXPECT_EQ(*names, (Texts{"", "a"}));
+    EXPECT_EQ(parseLine(program, {"--name=,"}), wrong("--name=,: the value is empty"));
+}
+
 TEST(TypedLines, AnEmptyPositionalIsAnEmptyText) {
     tarv::Program program("p");
     const auto files = program.positional<Texts>("file", "");
@@ -103,6 +140,7 @@ TEST(TypedLines, RepeatedLettersCountACounter) {
     EXPECT_EQ(parseLine(program, {"-xx"}), wrong("unknown option '-xx'\nDid you mean '-x -x'?"));
     EXPECT_EQ(parseLine(program, {"--vv"}), wrong("unknown option '--vv'"));
     EXPECT_EQ(parseLine(program, {"-v=3"}), wrong("-v=3: option '-v' takes no value"));
+    EXPECT_EQ(parseLine(program, {"-vv=3"}), wrong("unknown option '-vv'"));
 }
 
 TEST(TypedLines, RequiredPositionalsAreServedFirst) {
@@ -254,13 +292,20 @@ TEST(TypedLines, TheTraceSaysWhatEachArgumentIs) {
     unsetenv("TARV_TEST_TRACED");
     EXPECT_EQ(parseLine(program, {traceSwitch, "--version"}).substr(0, 4), "0 p ");
     EXPECT_EQ(parseLine(program, {"log", traceSwitch}), "ok");
+    tarv::Program named("p");
+    named.positional<std::string>("file", "").env("TARV_TEST_TRACED");
+    setenv("TARV_TEST_TRACED", "a", 1);
+    EXPECT_EQ(parseLine(named, {traceSwitch}), "okp: TARV_TEST_TRACED=a is argument FILE, value 'a'\n");
+    unsetenv("TARV_TEST_TRACED");
 }
 
 TEST(TypedLines, ALineWithoutArgumentsOrProgramIsRight) {
     tarv::Program program("p");
     EXPECT_TRUE(program.parse(0, nullptr).goesOn());
-    const char* const argv[] = {"p", nullptr};
+    EXPECT_TRUE(program.parse(2, nullptr).goesOn());
+    const char* const argv[] = {"p", nullptr, "--bogus"};
     EXPECT_TRUE(program.parse(1, argv).goesOn());
+    EXPECT_TRUE(program.parse(3, argv).goesOn());
 }
 
 } // namespace

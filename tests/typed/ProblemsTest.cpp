@@ -31,6 +31,17 @@ std::string problemsOf(Declare declare) {
     return program.problems();
 }
 
+/// Of an option whose elements are of the type N. Compilers refuse constant bounds that are none of its
+/// values.
+template <class N, class Low, class High>
+std::string problemsOfRange(Low low, High high) {
+    volatile Low least = low;
+    volatile High greatest = high;
+    return problemsOf([&](tarv::Program& p) {
+        p.option<N>("x", "").range(static_cast<Low>(least), static_cast<High>(greatest));
+    });
+}
+
 /// A switch, if it may have that name.
 void declareNamed(tarv::Command& command, const std::string& name) {
     if (name.compare(0, 3, "no-") == 0) {
@@ -45,6 +56,7 @@ TEST(TypedProblems, AreNamedWithTheirOption) {
     EXPECT_EQ(problemsOf([](tarv::Program& p) {
                   p.flag("level", "");
                   p.option<int>("x,level", "");
+                  p.positional<int>("level", "");
               }),
               "p: 'level': the name is taken\n");
     EXPECT_EQ(problemsOf([](tarv::Program& p) {
@@ -83,11 +95,6 @@ TEST(TypedProblems, AreNamedWithTheirOption) {
               "p: 'x': the least number of the range is over the greatest one\n");
     EXPECT_EQ(problemsOf([](tarv::Program& p) { p.option<double>("x", "").range(1.5, 1.0); }),
               "p: 'x': the least number of the range is over the greatest one\n");
-    volatile int low = -1;
-    EXPECT_EQ(problemsOf([&](tarv::Program& p) {
-                  p.option<unsigned char>("x", "").range(static_cast<int>(low), 9);
-              }),
-              "p: 'x': a bound of the range is outside of its type\n");
     EXPECT_EQ(problemsOf([](tarv::Program& p) {
                   p.positional<Texts>("a", "");
                   p.positional<Texts>("b", "");
@@ -103,6 +110,23 @@ TEST(TypedProblems, AreNamedWithTheirOption) {
                   p.verb("log", "");
               }),
               "p: 'p': a program has verbs or actions, not both\n");
+}
+
+TEST(TypedProblems, OfRangesAreFound) {
+    const std::string isOutside = "p: 'x': a bound of the range is outside of its type\n";
+    const std::string isReversed = "p: 'x': the least number of the range is over the greatest one\n";
+    EXPECT_EQ((problemsOfRange<unsigned char>(-1, 9)), isOutside);
+    EXPECT_EQ((problemsOfRange<unsigned char>(0, 255)), "");
+    EXPECT_EQ((problemsOfRange<unsigned char>(0, 256)), isOutside);
+    EXPECT_EQ((problemsOfRange<signed char>(-128, 127)), "");
+    EXPECT_EQ((problemsOfRange<signed char>(-129, 127)), isOutside);
+    EXPECT_EQ((problemsOfRange<signed char>(-128, 128)), isOutside);
+    EXPECT_EQ((problemsOfRange<signed char>(0, 128)), isOutside);
+    EXPECT_EQ((problemsOfRange<long long>(0ULL, 9223372036854775807ULL)), "");
+    EXPECT_EQ((problemsOfRange<long long>(0ULL, 9223372036854775808ULL)), isOutside);
+    EXPECT_EQ((problemsOfRange<int>(-1, -1)), "");
+    EXPECT_EQ((problemsOfRange<int>(-1, -2)), isReversed);
+    EXPECT_EQ((problemsOfRange<int>(5, -5)), isReversed);
 }
 
 TEST(TypedProblems, ASwitchIsNotNamedForWhatItTurnsOff) {
@@ -182,6 +206,7 @@ TEST(TypedProblems, OfATextThatIsNoDefaultAreFound) {
                   p.option("x", "", Texts{"a", "c"}).oneOf("a", "b");
               }),
               "p: 'x': its default c must be one of a or b\n");
+    EXPECT_EQ(problemsOf([](tarv::Program& p) { p.option("x", "", std::vector<bool>{true, false}); }), "");
 }
 
 TEST(TypedProblems, AVerbTakesNoNameFromAbove) {
@@ -204,6 +229,39 @@ TEST(TypedProblems, AVerbTakesNoNameFromAbove) {
         declareNamed(log.verb("add", ""), row.below);
         EXPECT_STREQ(program.problems(), row.problem);
     }
+}
+
+TEST(TypedProblems, ANameIsTakenByTheVerbAbove) {
+    tarv::Program program("p");
+    program.flag("quiet", "");
+    tarv::Command& log = program.verb("log", "");
+    log.flag("level", "");
+    log.verb("add", "").flag("level", "");
+    log.verb("show", "").flag("levels", "");
+    EXPECT_STREQ(program.problems(),
+                 "p log add: 'level': the name is taken by an option of the command above\n");
+}
+
+TEST(TypedProblems, OfTwoOptionsOfOneNameTheFirstIsTaken) {
+    const CapturedAssertions assertions;
+    tarv::Program program("p");
+    const auto level = program.flag("level", "");
+    const auto other = program.option<int>("level,other", "");
+    EXPECT_EQ(parseLine(program, {"--level"}), "ok");
+    EXPECT_TRUE(*level && !other.given());
+    EXPECT_EQ(parseLine(program, {"--other=3"}), "2 p: unknown option '--other'\nTry 'p --help'.\n");
+    EXPECT_EQ(assertions.expressions(), "p: 'level': the name is taken");
+}
+
+TEST(TypedProblems, AVerbBelowActionsIsShownWithThem) {
+    const CapturedAssertions assertions;
+    tarv::Program program("p");
+    program.action("list", "");
+    program.verb("log", "");
+    EXPECT_EQ(parseLine(program, {"log", "--help"}), "0 Usage: p log ACTION [OPTION]...\n\nOptions:\n"
+                                                     "  -h, --help  Show this help.\n\nActions:\n"
+                                                     "      --list\n");
+    EXPECT_EQ(assertions.expressions(), "p: 'p': a program has verbs or actions, not both");
 }
 
 TEST(TypedProblems, OfVerbsAreFoundWhateverTheCommandLine) {

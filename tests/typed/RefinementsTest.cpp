@@ -113,7 +113,20 @@ TEST(TypedRefinements, ADeprecatedOptionIsTakenWithAWarning) {
     EXPECT_EQ(parseLine(program, {"--old"}), "okp: option '--old' is deprecated; use --new\n");
     EXPECT_TRUE(*old);
     EXPECT_EQ(parseLine(program, {"--older"}), "okp: option '--older' is deprecated\n");
+    EXPECT_EQ(parseLine(program, {"--older", "--older"}), "okp: option '--older' is deprecated\n");
     EXPECT_EQ(parseLine(program, {}), "ok");
+}
+
+TEST(TypedRefinements, WhatTheLibraryDoesNotKnowRefinesNothing) {
+    tarv::Program program("p");
+    const auto level = program.option("level", "Which one.", 3);
+    tarv::engine::refine(level.option(), 1000, "x");
+    tarv::engine::refine(nullptr, tarv::engine::refineRequired, "");
+    tarv::engine::failMemory(nullptr);
+    EXPECT_STREQ(program.problems(), "");
+    EXPECT_EQ(parseLine(program, {"--help"}), "0 Usage: p [OPTION]...\n\nOptions:\n"
+                                              "      --level=NUMBER  Which one. (default: 3)\n"
+                                              "  -h, --help          Show this help.\n");
 }
 
 TEST(TypedRefinements, ASeparatorSplitsListsAndNothingElse) {

@@ -70,6 +70,28 @@ TEST(TypedRequests, TheHostCompletesItsOwnValues) {
     EXPECT_EQ(asked, "nothing");
 }
 
+TEST(TypedRequests, ACompleterMayAddNull) {
+    tarv::Program program("p");
+    program.option<std::string>("word", "").completeWith([](const char*, tarv::Candidates& candidates) {
+        candidates.add(nullptr, "No value.");
+        candidates.add("one", nullptr);
+        candidates.add("other", "The other one.");
+    });
+    EXPECT_EQ(ask(program, "tarvoption=complete=zsh", {"p", "--word="}),
+              "0 tarv-complete 1 none\n\n\n--word=o\n--word=one\t\n--word=other\tThe other one.\n");
+}
+
+TEST(TypedRequests, NamesOfTheHostAreOfferedOnce) {
+    tarv::Program program("p", "1.0");
+    program.flag("help", "Helps.");
+    program.flag("version", "Tells.");
+    program.verb("help", "Helps more.");
+    EXPECT_EQ(ask(program, "tarvoption=complete=zsh", {"p", "--"}),
+              "0 tarv-complete 1 none\n\n\n\n--help\tHelps.\n--version\tTells.\n");
+    EXPECT_EQ(ask(program, "tarvoption=complete=zsh", {"p", "h"}),
+              "0 tarv-complete 1 none\n\n\nhelp\nhelp\tHelps more.\n");
+}
+
 TEST(TypedRequests, ACutQuestionHasNoAnswer) {
     tarv::Program program("vcs");
     EXPECT_EQ(ask(program, "tarvoption=complete=bash", {}), "0 ");

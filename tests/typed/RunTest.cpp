@@ -77,6 +77,19 @@ TEST(TypedRun, FailsWhenItCannotPrint) {
     const RedirectedOutput full("/dev/full");
     EXPECT_EQ(program.run(2, version), 1);
     EXPECT_EQ(program.run(1, version), 0);
+    // More than the stream keeps back.
+    tarv::Program wordy("p", nullptr, std::string(100000, 'x').c_str());
+    const char* const help[] = {"p", "--help"};
+    EXPECT_EQ(wordy.run(2, help), 1);
+}
+
+TEST(TypedRun, AProgramThatWasMovedFromHasNoMemory) {
+    tarv::Program program("p");
+    const tarv::Program moved(static_cast<tarv::Program&&>(program));
+    const char* const argv[] = {"p"};
+    testing::internal::CaptureStderr();
+    EXPECT_EQ(program.run(1, argv), 2);
+    EXPECT_EQ(testing::internal::GetCapturedStderr(), "out of memory\n");
 }
 
 } // namespace

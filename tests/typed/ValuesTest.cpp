@@ -133,6 +133,13 @@ TEST(TypedValues, ViewsAreKeptByTheProgram) {
 TEST(TypedValues, ACharacterIsOneByte) {
     expectValue<char>("x", 'x');
     expectRefusal<char>("xy", "must be one character");
+    expectValue<std::vector<char>>("x,y", {'x', 'y'});
+    expectRefusal<std::vector<char>>("x,yz", "'yz' must be one character");
+    tarv::Program program("p");
+    const auto mark = program.positional<char>("mark", "");
+    EXPECT_EQ(parseLine(program, {"x"}), "ok");
+    EXPECT_EQ(*mark, 'x');
+    EXPECT_EQ(parseLine(program, {""}), "2 p: MARK '': must be one character\nTry 'p --help'.\n");
 }
 
 TEST(TypedValues, EnumeratorsAreNamedByTheCompiler) {
@@ -224,6 +231,33 @@ TEST(TypedValues, AnOptionalIsEmptyUntilItIsGiven) {
     EXPECT_EQ(*number, 3);
     EXPECT_EQ(*text, "y");
     EXPECT_EQ(*flag, false);
+}
+
+TEST(TypedValues, WhatAnOptionalHoldsIsItsDefault) {
+    std::optional<char> mark = 'x';
+    std::optional<int> none;
+    tarv::Program program("p");
+    program.bind("mark", mark, "");
+    program.bind("none", none, "");
+    EXPECT_EQ(parseLine(program, {"--mark=y", "--none=3"}), "ok");
+    EXPECT_EQ(mark, 'y');
+    EXPECT_EQ(none, 3);
+    EXPECT_EQ(parseLine(program, {"--help"}), "0 Usage: p [OPTION]...\n\nOptions:\n"
+                                              "      --mark=CHAR    (default: x)\n"
+                                              "      --none=NUMBER\n"
+                                              "  -h, --help         Show this help.\n");
+    EXPECT_EQ(mark, 'x');
+    EXPECT_EQ(none, std::nullopt);
+}
+
+TEST(TypedValues, AViewOfNothingIsAnEmptyDefault) {
+    tarv::Program program("p");
+    const auto view = program.option("view", "", std::string_view());
+    EXPECT_STREQ(program.problems(), "");
+    EXPECT_EQ(parseLine(program, {"--view=a"}), "ok");
+    EXPECT_EQ(*view, "a");
+    EXPECT_EQ(parseLine(program, {}), "ok");
+    EXPECT_EQ(*view, "");
 }
 
 TEST(TypedValues, ContainersTakeEachPiece) {
@@ -322,11 +356,18 @@ TEST(TypedValues, ADefaultConstructedHandleHoldsAnInitialValue) {
     const tarv::Handle<std::string> text;
     EXPECT_EQ(*number, 0);
     EXPECT_EQ(*text, "");
+    EXPECT_EQ(text->size(), 0U);
     EXPECT_FALSE(number.given());
     EXPECT_EQ(number.count(), 0);
     EXPECT_EQ(number.position(), -1);
     EXPECT_EQ(number.source(), tarv::Source::initial);
     number.required().env("X").hidden().range(1, 2);
+}
+
+TEST(TypedValues, ATextIsPassedAsAPointer) {
+    const auto lengthOf = [](const char* text) { return std::string(text).size(); };
+    EXPECT_EQ(lengthOf(tarv::Text("some")), 4U);
+    EXPECT_EQ(lengthOf(tarv::Text(nullptr)), 0U);
 }
 
 TEST(TypedValues, TextsCompareByContent) {

@@ -80,6 +80,9 @@ TEST(TypedVerbs, WhatIsNoVerbIsRefused) {
     EXPECT_EQ(vcs.run("lgo"), wrong("unknown verb 'lgo'\nDid you mean 'log'?"));
     EXPECT_EQ(vcs.run("log=3"), wrong("unknown verb 'log=3'"));
     EXPECT_EQ(vcs.run("c"), wrong("ambiguous verb 'c', could be 'clone', 'commit' or 'ci'"));
+    EXPECT_EQ(vcs.run("-- --log"), wrong("unknown verb '--log'"));
+    EXPECT_EQ(vcs.run("remote zzz"), wrong("unknown verb 'zzz'", "vcs remote"));
+    EXPECT_EQ(vcs.run("remote help"), wrong("unknown verb 'help'", "vcs remote"));
     EXPECT_EQ(vcs.run("log x"), wrong("unexpected argument 'x'", "vcs log"));
     EXPECT_EQ(vcs.run("log --give-up"), wrong("unknown option '--give-up'", "vcs log"));
 }
@@ -166,6 +169,7 @@ TEST(TypedActions, OneActionAndWhatGoesWithIt) {
     EXPECT_TRUE(extract.given() && *extract && !list.given());
     EXPECT_EQ(parseLine(tar, {"-t", "--verbose"}), "ok");
     EXPECT_TRUE(*list && *verbose && !*extract);
+    EXPECT_EQ(parseLine(tar, {"-t", "--list"}), "ok");
     EXPECT_EQ(parseLine(tar, {"-t", "-x"}), wrongTar("actions '--list' and '--extract' exclude each other"));
     EXPECT_EQ(parseLine(tar, {"-t", "-C=d"}),
               wrongTar("option '--directory' does not go with action '--list'"));

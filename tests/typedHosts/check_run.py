@@ -89,6 +89,9 @@ class Run(unittest.TestCase):
     def test_columns_count_more(self):
         self.assertEqual(on_terminal(80, COLUMNS="32"), bold(NARROW))
 
+    def test_has_eighty_columns_on_a_terminal_that_does_not_know_its_own(self):
+        self.assertEqual(on_terminal(0), on_terminal(80))
+
     def test_prints_nothing_bold_where_it_is_not_wanted(self):
         self.assertEqual(on_terminal(80, NO_COLOR="1"), PLAIN)
         self.assertEqual(on_terminal(80, TERM="dumb"), PLAIN)

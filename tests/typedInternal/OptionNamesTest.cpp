@@ -106,6 +106,20 @@ TEST(OptionNames, ANameOfTwoOptionsIsNotFound) {
     declare<int>(twice.record, option, "count");
     declare<int>(twice.verb, option, "count");
     EXPECT_EQ(nullptr, findWhole(*twice.verb, "count"));
+    Fixture below;
+    declare<bool>(below.verb, option, "color");
+    declare<bool>(below.verb, option, "no-color");
+    EXPECT_EQ(nullptr, findWhole(*below.verb, "no-color"));
+}
+
+TEST(OptionNames, ANameThatIsGivenThreeTimesIsNotUnique) {
+    Fixture vcs;
+    for (int i = 0; i < 3; ++i) {
+        declare<int>(vcs.record, option, "count");
+    }
+    declare<int>(vcs.record, option, "no-number");
+    EXPECT_FALSE(areNamesUnique(*vcs.record));
+    EXPECT_FALSE(areNamesUnique(*vcs.verb));
 }
 
 TEST(OptionNames, AHundredNamesAreFound) {

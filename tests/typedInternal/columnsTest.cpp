@@ -25,6 +25,7 @@ TEST(Columns, CountWhatATerminalShows) {
                 {"ｆｕｌｌ", 8},
                 {"a\u200bb", 2},
                 {"👍", 2},
+                {"\U000F0000", 1},
                 {"a\xff\xfe", 3},
                 {"\xe6\x97", 2}};
     for (const auto& row : rows) {
@@ -38,6 +39,9 @@ TEST(Columns, TextIsWrappedAtBlanksAndBesideWideCharacters) {
     EXPECT_EQ(wrapColumns("one two three", 7), (Lines{"one two", "three"}));
     EXPECT_EQ(wrapColumns("one two three", 6), (Lines{"one", "two", "three"}));
     EXPECT_EQ(wrapColumns("a\nb  c", 10), (Lines{"a", "b  c"}));
+    EXPECT_EQ(wrapColumns("  a", 10), (Lines{"a"}));
+    EXPECT_EQ(wrapColumns("a\n b\n", 10), (Lines{"a", "b"}));
+    EXPECT_EQ(wrapColumns("\n", 10), (Lines{""}));
     EXPECT_EQ(wrapColumns("abcdefgh", 3), (Lines{"abc", "def", "gh"}));
     EXPECT_EQ(wrapColumns("日本語", 4), (Lines{"日本", "語"}));
     EXPECT_EQ(wrapColumns("日本語", 5), (Lines{"日本", "語"}));

@@ -19,6 +19,14 @@ TEST(Enumerators, AreNamedFromTheSpellingOfBothCompilers) {
                               "<(anonymous namespace)::Paper::a4, (anonymous namespace)::Paper::default_>]"),
               (Names{"a4", "default"}));
     EXPECT_EQ(enumeratorNames("[with E = E; E ...tarvValues = {one}]"), (Names{"one"}));
+    EXPECT_EQ(enumeratorNames("[with E = E; E ...tarvValues = {one, TWO$3, größe}]"),
+              (Names{"one", "TWO$3", "größe"}));
+}
+
+TEST(Enumerators, ASpellingWithoutBlanksOrCutShortIsReadAsFarAsItGoes) {
+    EXPECT_EQ(enumeratorNames("tarvValues = {one,two}"), (Names{"one", "two"}));
+    EXPECT_EQ(enumeratorNames("tarvValues = {one, two"), (Names{"one"}));
+    EXPECT_EQ(enumeratorNames("tarvValues = "), Names());
 }
 
 enum class Two { a, b };

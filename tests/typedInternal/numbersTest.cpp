@@ -61,6 +61,7 @@ TEST(Numbers, ADurationIsReadWithItsSignItsFractionAndItsUnit) {
                 {"0.0s", {1, 1}, DurationOutcome::read, 0},
                 {"100s", {1, 1}, DurationOutcome::read, 100},
                 {".5min", {1, 1}, DurationOutcome::read, 30},
+                {".0s", {1, 1}, DurationOutcome::read, 0},
                 {"9223372036854775807s", {1, 1}, DurationOutcome::read, 9223372036854775807},
                 {"9223372036854775808s", {1, 1}, DurationOutcome::tooLarge, 0},
                 {"-9223372036854775808s", {1, 1}, DurationOutcome::tooLarge, 0},
