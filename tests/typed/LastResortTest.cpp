@@ -110,7 +110,7 @@ TEST(TypedLastResort, HelpIsThatOfTheVerb) {
                         {"help remote add", "help of p remote add"},
                         {"bogus --help", "help of p"},
                         {"help bogus", "help of p"},
-                        {"help help", "help of p"},
+                        {"help help log", "help of p"},
                         {"log --version", "version"},
                         {"--version help", "version"}};
     for (const Row& row : rows) {

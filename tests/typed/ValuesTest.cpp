@@ -254,6 +254,9 @@ TEST(TypedValues, AViewOfNothingIsAnEmptyDefault) {
     tarv::Program program("p");
     const auto view = program.option("view", "", std::string_view());
     EXPECT_STREQ(program.problems(), "");
+    EXPECT_EQ(parseLine(program, {"--help"}), "0 Usage: p [OPTION]...\n\nOptions:\n"
+                                              "      --view=TEXT\n"
+                                              "  -h, --help       Show this help.\n");
     EXPECT_EQ(parseLine(program, {"--view=a"}), "ok");
     EXPECT_EQ(*view, "a");
     EXPECT_EQ(parseLine(program, {}), "ok");
