@@ -1,7 +1,6 @@
 #include "compare/abbreviations.h"
 
 #include <algorithm>
-#include <set>
 
 namespace tarv_program {
 
@@ -11,25 +10,22 @@ namespace {
 constexpr std::size_t mostGroups = 200000;
 constexpr std::size_t mostWords = 100;
 
-using Words = std::vector<std::string_view>;
+using Words = std::vector<std::string>;
 
 Words wordsOf(std::string_view name) {
     Words words;
     for (std::size_t dash = name.find('-'); dash != std::string_view::npos; dash = name.find('-')) {
-        words.push_back(name.substr(0, dash));
+        words.emplace_back(name.substr(0, dash));
         name.remove_prefix(dash + 1);
     }
-    words.push_back(name);
+    words.emplace_back(name);
     return words;
 }
 
 std::size_t commonLength(std::string_view left, std::string_view right) {
     const std::size_t most = std::min(left.size(), right.size());
-    std::size_t length = 0;
-    while (length < most && left[length] == right[length]) {
-        ++length;
-    }
-    return length;
+    const auto parting = std::mismatch(left.begin(), left.begin() + most, right.begin());
+    return static_cast<std::size_t>(parting.first - left.begin());
 }
 
 /// Lengths of one word, from the least to the greatest, that no rival tells apart.
@@ -39,22 +35,25 @@ struct Cut {
 };
 
 // A rival fits up to where the words part, and is whole where its own word ends.
-std::vector<Cut> cutsOf(std::string_view word, std::size_t place, const std::vector<Words>& rivals) {
-    std::set<std::size_t> ends = {word.size()};
-    if (!word.empty()) {
-        ends.insert(word.size() - 1);
-    }
-    for (const Words& rival : rivals) {
-        const std::size_t common = commonLength(word, rival[place]);
-        ends.insert(common);
-        if (common == rival[place].size() && common > 0) {
-            ends.insert(common - 1);
+std::vector<Cut> cutsOf(std::string_view word, std::size_t least, const std::set<std::string>& rivals) {
+    std::vector<bool> isEnd(word.size() + 1, false);
+    const auto endWhole = [&](std::size_t length) {
+        isEnd[length] = true;
+        if (length > 0) {
+            isEnd[length - 1] = true;
+        }
+    };
+    endWhole(word.size());
+    for (const std::string& rival : rivals) {
+        const std::size_t common = commonLength(word, rival);
+        isEnd[common] = true;
+        if (common == rival.size()) {
+            endWhole(common);
         }
     }
     std::vector<Cut> cuts;
-    std::size_t least = place == 0 ? 1 : 0;
-    for (const std::size_t end : ends) {
-        if (end >= least) {
+    for (std::size_t end = least; end < isEnd.size(); ++end) {
+        if (isEnd[end]) {
             cuts.push_back({least, end});
             least = end + 1;
         }
@@ -64,12 +63,10 @@ std::vector<Cut> cutsOf(std::string_view word, std::size_t place, const std::vec
 
 class Groups {
 public:
-    Groups(const std::string& name, const std::vector<std::string>& rivals,
-           const std::vector<std::string>& touched)
-        : m_words(wordsOf(name)), m_touched(allWords(touched)) {
-        const std::vector<Words> rivalWords = allWords(rivals);
+    Groups(const std::string& name, const NameTable::Row& rivals, const NameTable::Row& touched)
+        : m_words(wordsOf(name)), m_touched(touched.names) {
         for (std::size_t i = 0; i < m_words.size(); ++i) {
-            m_cuts.push_back(cutsOf(m_words[i], i, rivalWords));
+            m_cuts.push_back(cutsOf(m_words[i], i == 0 ? 1 : 0, rivals.columns[i]));
         }
     }
 
@@ -96,15 +93,6 @@ public:
     }
 
 private:
-    static std::vector<Words> allWords(const std::vector<std::string>& names) {
-        std::vector<Words> all;
-        all.reserve(names.size());
-        for (const std::string& name : names) {
-            all.push_back(wordsOf(name));
-        }
-        return all;
-    }
-
     void add(std::size_t place, const Abbreviations& group, const std::vector<const Words*>& fitting,
              const std::function<void(const Abbreviations&)>& use) {
         if (place == m_words.size()) {
@@ -112,14 +100,12 @@ private:
             return;
         }
         for (const Cut& cut : m_cuts[place]) {
-            const std::string_view typed = m_words[place].substr(0, cut.greatest);
+            const std::string_view typed = std::string_view(m_words[place]).substr(0, cut.greatest);
             std::vector<const Words*> left;
-            for (const Words* const words : fitting) {
-                if ((*words)[place].substr(0, typed.size()) == typed) {
-                    left.push_back(words);
-                }
-            }
-            if (left.empty() && !m_touched.empty()) {
+            std::copy_if(fitting.begin(), fitting.end(), std::back_inserter(left), [&](const Words* words) {
+                return (*words)[place].compare(0, typed.size(), typed) == 0;
+            });
+            if (left.empty()) {
                 continue;
             }
             Abbreviations longer = group;
@@ -129,30 +115,34 @@ private:
         }
     }
 
-    Words m_words;
-    std::vector<Words> m_touched;
+    const Words m_words;
+    const std::vector<Words>& m_touched;
     std::vector<std::vector<Cut>> m_cuts;
 };
 
 } // namespace
 
-NameTable::Row NameTable::rowOf(std::string_view name) {
-    const auto words = static_cast<std::size_t>(std::count(name.begin(), name.end(), '-'));
-    return {words, name.empty() ? '\0' : name.front()};
+NameRow rowOf(std::string_view name) {
+    const auto dashes = static_cast<std::size_t>(std::count(name.begin(), name.end(), '-'));
+    return {dashes + 1, name.empty() ? '\0' : name.front()};
 }
 
 void NameTable::add(const std::string& name) {
-    m_rows[rowOf(name)].push_back(name);
+    Row& row = m_rows[rowOf(name)];
+    row.names.push_back(wordsOf(name));
+    const Words& words = row.names.back();
+    row.columns.resize(words.size());
+    for (std::size_t i = 0; i < words.size(); ++i) {
+        row.columns[i].insert(words[i]);
+    }
 }
 
-const std::vector<std::string>& NameTable::rivalsOf(std::string_view name) const {
-    static const std::vector<std::string> none;
+const NameTable::Row* NameTable::find(std::string_view name) const {
     const auto found = m_rows.find(rowOf(name));
-    return found != m_rows.end() ? found->second : none;
+    return found != m_rows.end() ? &found->second : nullptr;
 }
 
-bool forEachAbbreviation(const std::string& name, const std::vector<std::string>& rivals,
-                         const std::vector<std::string>& touched,
+bool forEachAbbreviation(const std::string& name, const NameTable::Row& rivals, const NameTable::Row& touched,
                          const std::function<void(const Abbreviations&)>& use) {
     if (name.empty() || name.front() == '-') {
         return true;

@@ -3,7 +3,9 @@
 #include <map>
 #include <set>
 #include <tuple>
+#include <unordered_set>
 
+#include "compare/NameQuestion.h"
 #include "compare/abbreviations.h"
 #include "model/mends.h"
 #include "text/shellQuoted.h"
@@ -14,19 +16,6 @@ namespace {
 
 /// Whose name it is: the place of the option on the newer side, and whether it turns a switch off.
 using Owner = std::tuple<std::size_t, bool>;
-
-std::vector<std::string> candidatesOf(const Option& option) {
-    if (option.isSlot()) {
-        return {};
-    }
-    std::vector<std::string> names = option.names;
-    if (option.isSwitch()) {
-        for (const std::string& name : option.names) {
-            names.push_back("no-" + name);
-        }
-    }
-    return names;
-}
 
 std::string said(const Meaning& meaning) {
     if (meaning.kind == Meaning::nothing) {
@@ -48,7 +37,8 @@ std::string said(const Meaning& meaning) {
 class NameComparison {
 public:
     NameComparison(const Sides& sides, Examples& examples, Comparison& comparison)
-        : m_sides(sides), m_examples(examples), m_comparison(comparison) {
+        : m_sides(sides), m_examples(examples), m_comparison(comparison), m_older(sides.older.line()),
+          m_newer(sides.newer.line()) {
         std::map<std::string, std::multiset<Owner>> before;
         std::map<std::string, std::multiset<Owner>> now;
         collect(sides.older, before, [&](std::size_t place) { return sides.twin(place); });
@@ -72,9 +62,10 @@ public:
     void compareAll() {
         std::set<std::string> done;
         for (std::size_t place = 0; place < m_sides.older.line().options.size(); ++place) {
-            for (const std::string& name : candidatesOf(m_sides.older.option(place))) {
-                if (done.insert(name).second && !m_touched.rivalsOf(name).empty()) {
-                    compare(place, name);
+            for (const std::string& name : m_sides.older.option(place).typedNames()) {
+                const NameTable::Row* const touched = m_touched.find(name);
+                if (touched != nullptr && done.insert(name).second) {
+                    compare(place, name, *touched);
                 }
             }
         }
@@ -99,12 +90,12 @@ private:
         }
     }
 
-    void compare(std::size_t place, const std::string& name) {
+    void compare(std::size_t place, const std::string& name, const NameTable::Row& touched) {
         // What each abbreviation does now, and the longest one that does it.
         std::map<std::string, Finding> found;
         std::map<std::string, std::string> longest;
         const bool isDone =
-            forEachAbbreviation(name, m_table.rivalsOf(name), m_touched.rivalsOf(name),
+            forEachAbbreviation(name, *m_table.find(name), touched,
                                 [&](const Abbreviations& typed) { ask(name, typed, found, longest); });
         if (!isDone) {
             throw Failure("the name '" + name + "' can be abbreviated in too many ways to compare them");
@@ -117,12 +108,19 @@ private:
     }
 
     void ask(const std::string& name, const Abbreviations& typed, std::map<std::string, Finding>& found,
-             std::map<std::string, std::string>& longest) const {
-        const Meaning before = m_sides.older.meaningOf(typed.longest);
-        if (before.kind != Meaning::one || before.name != name) {
+             std::map<std::string, std::string>& longest) {
+        // Names share their ambiguous abbreviations, which are asked about once.
+        if (m_ambiguous.count(typed.longest) != 0) {
             return;
         }
-        const Meaning now = m_sides.newer.meaningOf(typed.longest);
+        const Meaning before = m_older.meaningOf(typed.longest);
+        if (before.kind != Meaning::one || before.name != name) {
+            if (before.kind == Meaning::several) {
+                m_ambiguous.insert(typed.longest);
+            }
+            return;
+        }
+        const Meaning now = m_newer.meaningOf(typed.longest);
         if (now.kind == Meaning::one && now.place == m_sides.twin(before.place) &&
             now.isNegated == before.isNegated) {
             return;
@@ -147,6 +145,10 @@ private:
     const Sides& m_sides;
     Examples& m_examples;
     Comparison& m_comparison;
+    NameQuestion m_older;
+    NameQuestion m_newer;
+    /// What was ambiguous on the older side.
+    std::unordered_set<std::string> m_ambiguous;
     /// Of both sides.
     NameTable m_table;
     /// Those that are not the same option's on both sides.

@@ -30,4 +30,17 @@ std::string Option::shownName() const {
     return name;
 }
 
+std::vector<std::string> Option::typedNames() const {
+    if (isSlot()) {
+        return {};
+    }
+    std::vector<std::string> typed = names;
+    if (isSwitch()) {
+        for (const std::string& name : names) {
+            typed.push_back("no-" + name);
+        }
+    }
+    return typed;
+}
+
 } // namespace tarv_program

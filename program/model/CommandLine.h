@@ -37,6 +37,8 @@ struct Option {
     /// What people read: "FILE" where arguments fill it by their order, else the primary name with its
     /// dashes.
     std::string shownName() const;
+    /// The names that can be typed: its own, and of a switch these behind "no-" as well. None of a slot.
+    std::vector<std::string> typedNames() const;
     /// Whether arguments without a name fill it by their order. Nobody types its name then.
     bool isSlot() const { return positional == Positional::filled && count.has_value(); }
     bool isSwitch() const { return kind == tarv_3_3::vtBool; }
