@@ -22,6 +22,7 @@ inline constexpr char noVerb[] = "a verb is missing";
 inline constexpr char noAction[] = "an action is missing";
 inline constexpr char isNotUsed[] = ", which is not used";
 inline constexpr char outOfMemory[] = "out of memory";
+inline constexpr char cannotWrite[] = "cannot write";
 
 inline std::string listOf(const std::vector<std::string>& words, const char* last) {
     std::string list;

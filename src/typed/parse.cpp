@@ -1,4 +1,6 @@
+#include <cerrno>
 #include <cstdio>
+#include <cstring>
 #include <exception>
 #include <memory>
 
@@ -86,8 +88,12 @@ int print(Command* program) {
     if (*known.output == '\0') {
         return known.exitCode;
     }
-    const bool isWritten = std::fputs(known.output, stdout) >= 0 && std::fflush(stdout) == 0;
-    return isWritten ? known.exitCode : cannotWrite;
+    if (std::fputs(known.output, stdout) >= 0 && std::fflush(stdout) == 0) {
+        return known.exitCode;
+    }
+    const char* const reason = std::strerror(errno);
+    std::fprintf(stderr, "%s: %s: %s\n", program->name().c_str(), messages::cannotWrite, reason);
+    return cannotWrite;
 }
 
 const char* problems(Command* program) {

@@ -71,18 +71,6 @@ TEST(TypedRun, PrintsWhatThereIsToSayAndReturnsTheExitCode) {
     }
 }
 
-TEST(TypedRun, FailsWhenItCannotPrint) {
-    tarv::Program program("p", "1.0");
-    const char* const version[] = {"p", "--version"};
-    const RedirectedOutput full("/dev/full");
-    EXPECT_EQ(program.run(2, version), 1);
-    EXPECT_EQ(program.run(1, version), 0);
-    // More than the stream keeps back.
-    tarv::Program wordy("p", nullptr, std::string(100000, 'x').c_str());
-    const char* const help[] = {"p", "--help"};
-    EXPECT_EQ(wordy.run(2, help), 1);
-}
-
 TEST(TypedRun, AProgramThatWasMovedFromHasNoMemory) {
     tarv::Program program("p");
     const tarv::Program moved(static_cast<tarv::Program&&>(program));
@@ -90,6 +78,22 @@ TEST(TypedRun, AProgramThatWasMovedFromHasNoMemory) {
     testing::internal::CaptureStderr();
     EXPECT_EQ(program.run(1, argv), 2);
     EXPECT_EQ(testing::internal::GetCapturedStderr(), "out of memory\n");
+}
+
+TEST(TypedRun, SaysWhyItCannotPrintAndFails) {
+    // A long text is more than the stream keeps back.
+    for (const std::string& about : {std::string("Short."), std::string(100000, 'x')}) {
+        for (const char* const request : {"--version", "--help"}) {
+            SCOPED_TRACE(request);
+            tarv::Program program("p", "1.0", about.c_str());
+            const char* const line[] = {"called-otherwise", request};
+            const RedirectedOutput full("/dev/full");
+            testing::internal::CaptureStderr();
+            EXPECT_EQ(program.run(2, line), 1);
+            EXPECT_EQ(testing::internal::GetCapturedStderr(), "p: cannot write: No space left on device\n");
+            EXPECT_EQ(program.run(1, line), 0);
+        }
+    }
 }
 
 } // namespace

@@ -103,8 +103,9 @@ class Run(unittest.TestCase):
 
     def test_fails_when_help_cannot_be_written(self):
         with open("/dev/full", "w", encoding="utf-8") as full:
-            result = subprocess.run([HOST, "--help"], stdout=full, env=environment(), check=False)
-        self.assertEqual(result.returncode, 1)
+            result = subprocess.run([HOST, "--help"], stdout=full, stderr=subprocess.PIPE, text=True,
+                                    env=environment(), check=False)
+        self.assertEqual((result.returncode, result.stderr), (1, "host: cannot write: No space left on device\n"))
 
     def test_says_errors_on_standard_error(self):
         result = subprocess.run([HOST, "prnt"], capture_output=True, text=True, env=environment(), check=False)
