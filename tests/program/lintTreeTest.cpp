@@ -58,6 +58,52 @@ Call callOf(const std::vector<const char*>& words) {
     return call;
 }
 
+TEST(ProgramPlace, IsBehindEveryRunnerAndTheValuesOfItsOptions) {
+    const struct {
+        const char* runner;
+        std::vector<const char*> optionsWithValues;
+    } rows[] = {
+        {"sudo", {"-u",          "-g",
+                  "-C",          "-c",
+                  "-D",          "-h",
+                  "-p",          "-r",
+                  "-R",          "-t",
+                  "-T",          "-U",
+                  "--user",      "--group",
+                  "--chdir",     "--close-from",
+                  "--host",      "--prompt",
+                  "--chroot",    "--role",
+                  "--type",      "--command-timeout",
+                  "--other-user"}},
+        {"doas", {"-u", "-C"}},
+        {"env", {"-u", "-C", "-S", "--unset", "--chdir", "--split-string"}},
+        {"xargs",
+         {"-a", "-d", "-E", "-I", "-L", "-n", "-P", "-s", "--arg-file", "--delimiter", "--max-args",
+          "--max-procs", "--max-chars", "--max-lines"}},
+        {"nice", {"-n", "--adjustment"}},
+        {"ionice", {"-c", "-n", "-p", "-P", "-u", "--class", "--classdata"}},
+        {"nohup", {}},
+        {"setsid", {}},
+        {"stdbuf", {"-i", "-o", "-e", "--input", "--output", "--error"}},
+        {"time", {"-f", "-o", "--format", "--output"}},
+        {"command", {}},
+        {"builtin", {}},
+        {"exec", {"-a"}},
+        {"busybox", {}},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.runner);
+        EXPECT_EQ(programPlace(callOf({row.runner, "pack"}), "pack"), 1U);
+        EXPECT_EQ(programPlace(callOf({row.runner, "-z", "pack", "x"}), "pack"), 2U);
+        for (const char* const option : row.optionsWithValues) {
+            EXPECT_EQ(programPlace(callOf({row.runner, option, "pack", "pack"}), "pack"), 3U) << option;
+        }
+    }
+    for (const char* const option : {"-k", "-s", "--kill-after", "--signal"}) {
+        EXPECT_EQ(programPlace(callOf({"timeout", option, "x", "pack", "pack"}), "pack"), 4U) << option;
+    }
+}
+
 TEST(InnerCalls, AreThoseBehindExecOfFind) {
     const struct {
         std::vector<const char*> words;
