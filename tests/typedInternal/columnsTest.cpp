@@ -39,7 +39,7 @@ TEST(Columns, TextIsWrappedAtBlanksAndBesideWideCharacters) {
     EXPECT_EQ(wrapColumns("one two three", 7), (Lines{"one two", "three"}));
     EXPECT_EQ(wrapColumns("one two three", 6), (Lines{"one", "two", "three"}));
     EXPECT_EQ(wrapColumns("a\nb  c", 10), (Lines{"a", "b  c"}));
-    EXPECT_EQ(wrapColumns("  a", 10), (Lines{"a"}));
+    EXPECT_EQ(wrapColumns("  ab c", 4), (Lines{"ab c"}));
     EXPECT_EQ(wrapColumns("a\n b\n", 10), (Lines{"a", "b"}));
     EXPECT_EQ(wrapColumns("\n", 10), (Lines{""}));
     EXPECT_EQ(wrapColumns("abcdefgh", 3), (Lines{"abc", "def", "gh"}));
