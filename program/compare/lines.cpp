@@ -21,6 +21,7 @@ public:
         : m_sides(sides), m_examples(examples), m_comparison(comparison), m_lines(sides.older, examples) {}
 
     void compareAll() {
+        compareVerbNeed();
         compare({});
         compareSingleOptions();
         compareActions();
@@ -37,6 +38,22 @@ private:
 
     std::size_t optionCount() const { return m_sides.older.line().options.size(); }
     bool isLeft(std::size_t place) const { return m_sides.twin(place) != Side::nowhere; }
+
+    // The parsers know no verbs, so this is not asked of them.
+    void compareVerbNeed() {
+        const CommandLine& before = m_sides.older.line();
+        const bool isNeeded = m_sides.newer.line().isVerbRequired.value_or(false);
+        if (!isNeeded || before.isVerbRequired.value_or(false)) {
+            return;
+        }
+        if (!before.verbs.empty() && !before.isVerbRequired) {
+            m_comparison.unjudged.emplace_back(
+                "a verb is needed; the older description does not say whether it "
+                "was before");
+        } else if (const auto arguments = m_lines.with({})) {
+            report(*arguments, "is accepted", "is refused: a verb is missing");
+        }
+    }
 
     // What is gone, and what a name does now, is found where names are compared.
     void compare(const Places& places) {

@@ -80,14 +80,19 @@ public:
 
     void judge(ExplainedLine& line) const {
         const LineAnswer answer = askLine(m_side, m_arguments);
+        const CommandLine& level = m_side.line();
+        const bool isVerbMissing = level.isVerbRequired.value_or(false);
         // Help goes before any complaint.
-        line.isAccepted = m_isAnswered || (answer.isAccepted && m_refusedValue.empty());
+        line.isAccepted = m_isAnswered || (answer.isAccepted && m_refusedValue.empty() && !isVerbMissing);
         if (m_isMended) {
             line.doubt = "The program mends this before it is parsed; whether it is accepted cannot be told.";
-        } else if (line.isAccepted && !m_isAnswered && !m_side.line().verbs.empty()) {
+        } else if (line.isAccepted && !m_isAnswered && !level.verbs.empty() && !level.isVerbRequired) {
             line.doubt = "There is no verb; whether the program does without one cannot be told.";
         }
         line.message = answer.isAccepted ? m_refusedValue : answer.message;
+        if (line.message.empty() && isVerbMissing) {
+            line.message = "a verb is missing";
+        }
     }
 
 private:

@@ -99,6 +99,8 @@ struct CommandLine {
     std::vector<Rule> rules;
     std::vector<std::string> checks;
     std::vector<CommandLine> verbs;
+    /// Whether one of the verbs has to follow; none where the description does not say it.
+    std::optional<bool> isVerbRequired;
 };
 
 } // namespace tarv_program

@@ -80,6 +80,13 @@ unsigned long JsonPlace::number() const {
     return m_value.get<unsigned long>();
 }
 
+bool JsonPlace::boolean() const {
+    if (!m_value.is_boolean()) {
+        refuse("must be true or false");
+    }
+    return m_value.get<bool>();
+}
+
 bool JsonPlace::isTrue() const {
     if (!m_value.is_boolean() || !m_value.get<bool>()) {
         refuse("must be true");

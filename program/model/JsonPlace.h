@@ -45,6 +45,7 @@ public:
     std::string text() const { return bytesOf(plainText()); }
     std::vector<std::string> texts() const;
     unsigned long number() const;
+    bool boolean() const;
     /// `true`; nothing else is accepted.
     bool isTrue() const;
     /// The place of a text in `known`.

@@ -135,6 +135,9 @@ CommandLine readCommandLine(const JsonPlace& place, unsigned depth) {
     line.checks = readList<std::string>(place, "checks", readCheck);
     line.verbs = readList<CommandLine>(
         place, "verbs", [depth](const JsonPlace& verb) { return readCommandLine(verb, depth + 1); });
+    if (place.has("verbRequired")) {
+        line.isVerbRequired = place.member("verbRequired").boolean();
+    }
     for (std::size_t i = 0; i < line.verbs.size(); ++i) {
         if (line.verbs[i].names.empty()) {
             place.refuse("verbs[" + std::to_string(i) + "] has no names");

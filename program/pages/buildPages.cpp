@@ -148,7 +148,7 @@ Runs synopsis(const std::vector<std::string>& command, const CommandLine& line) 
         addWord(runs, "OPTION", true, true);
     }
     if (!line.verbs.empty()) {
-        addWord(runs, "VERB", false, false);
+        addWord(runs, "VERB", !line.isVerbRequired.value_or(true), false);
         addWord(runs, "ARGUMENT", true, true);
     }
     for (const Option& option : line.options) {

@@ -71,9 +71,9 @@ void JsonWriter::member(std::string_view name, std::string_view text) {
     appendJsonText(m_json, text);
 }
 
-void JsonWriter::memberTrue(std::string_view name) {
+void JsonWriter::memberBool(std::string_view name, bool value) {
     beginMember(name);
-    m_json += "true";
+    m_json += value ? "true" : "false";
 }
 
 void JsonWriter::memberNumber(std::string_view name, std::size_t number) {

@@ -22,7 +22,7 @@ public:
     ///@{
     /// A member of the object that is open.
     void member(std::string_view name, std::string_view text);
-    void memberTrue(std::string_view name);
+    void memberBool(std::string_view name, bool value);
     void memberNumber(std::string_view name, std::size_t number);
     ///@}
 

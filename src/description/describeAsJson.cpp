@@ -96,7 +96,7 @@ void writeChecks(JsonWriter& json, bool asksHandlers) {
     json.open('[', "checks");
     if (asksHandlers) {
         json.open('{');
-        json.memberTrue("opaque");
+        json.memberBool("opaque", true);
         json.member("by", "handlers");
         json.close('}');
     }

@@ -34,7 +34,7 @@ const char* ruleName(int kind) {
 
 void writeTrue(JsonWriter& json, const char* name, bool isTrue) {
     if (isTrue) {
-        json.memberTrue(name);
+        json.memberBool(name, true);
     }
 }
 

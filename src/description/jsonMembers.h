@@ -14,7 +14,7 @@ namespace tarv_3_3::internal {
 // A new member must be added to share/tarv/description.schema.json, too, and increases the number behind the
 // point. A change that breaks readers increases the number in front of it.
 inline constexpr char formatName[] = "tarv-description";
-inline constexpr char formatVersion[] = "1.0";
+inline constexpr char formatVersion[] = "1.1";
 
 /// What the schema calls a kind of value.
 const char* kindName(das_variant_type_t kind);

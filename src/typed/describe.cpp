@@ -75,6 +75,8 @@ void writeVerbs(JsonWriter& json, const Command& command) {
         return;
     }
     json.breakLine();
+    json.memberBool("verbRequired", command.body == nullptr);
+    json.breakLine();
     json.open('[', "verbs");
     for (const std::unique_ptr<Command>& verb : command.verbs) {
         json.breakLine();

@@ -53,7 +53,7 @@ std::string kindCheck(const Option& option) {
 
 void writeCheck(JsonWriter& json, const char* by, const std::string& text) {
     json.open('{');
-    json.memberTrue("opaque");
+    json.memberBool("opaque", true);
     json.member("by", by);
     json.member("text", text);
     json.close('}');

@@ -114,7 +114,7 @@ TEST(JsonWriter, PutsCommasBetweenElementsAndMembers) {
     internal::JsonWriter json;
     json.open('{');
     json.member("a", "x");
-    json.memberTrue("b");
+    json.memberBool("b", true);
     json.open('[', "c");
     json.element("1");
     json.element("2");
@@ -124,8 +124,9 @@ TEST(JsonWriter, PutsCommasBetweenElementsAndMembers) {
     json.open('[', "d");
     json.close(']');
     json.member("e", "");
+    json.memberBool("f", false);
     json.close('}');
-    EXPECT_EQ(json.text(), R"({"a": "x", "b": true, "c": ["1", "2", {}], "d": [], "e": ""})");
+    EXPECT_EQ(json.text(), R"({"a": "x", "b": true, "c": ["1", "2", {}], "d": [], "e": "", "f": false})");
 }
 
 TEST(JsonWriter, BreaksALineBeforeWhatComesNext) {

@@ -10,7 +10,7 @@ namespace {
 
 TEST(DescribeAsJson, OfAnEmptyParserHasEmptyLists) {
     BasicParser parser(0);
-    EXPECT_STREQ(describeAsJson(&parser), R"({"format": "tarv-description", "version": "1.0",
+    EXPECT_STREQ(describeAsJson(&parser), R"({"format": "tarv-description", "version": "1.1",
 "flags": [],
 "topics": [],
 "declarations": [],
@@ -40,7 +40,7 @@ TEST(DescribeAsJson, HoldsEverythingThatWasSaid) {
     const RelativePositions relative;
     RecordingHandler handler(relative);
     parser.addHandler(&handler);
-    EXPECT_STREQ(describeAsJson(&parser), R"({"format": "tarv-description", "version": "1.0",
+    EXPECT_STREQ(describeAsJson(&parser), R"({"format": "tarv-description", "version": "1.1",
 "flags": ["rejectUnknown", "plainArePositional", "dashIsNotPositional", "positionalTakesRest", "noLists"], "optionFiles": true,
 "topics": [
 {"name": "main", "title": "What to do"},
@@ -86,7 +86,7 @@ TEST(DescribeAsJson, NamesEveryKind) {
         SCOPED_TRACE(row.json);
         BasicParser parser(0);
         parser.option("x", "", row.kind, "");
-        const std::string expected = std::string(R"({"format": "tarv-description", "version": "1.0",
+        const std::string expected = std::string(R"({"format": "tarv-description", "version": "1.1",
 "flags": [],
 "topics": [
 {"name": ""}],

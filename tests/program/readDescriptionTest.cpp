@@ -61,6 +61,7 @@ TEST(ReadDescription, NamesThePlaceOfWhatIsWrong) {
              ", \"declarations\": [{\"role\": \"option\", \"kind\": \"none\", \"text\": \"\xEF\xBF\xBD\"}]}",
          "it: declarations[0].text: holds U+FFFD without the two digits of a byte"},
         {std::string(begin) + R"(, "verbs": [{"flags": []}]})", "it: verbs[0] has no names"},
+        {std::string(begin) + R"(, "verbRequired": "no"})", "it: verbRequired: must be true or false"},
         {std::string(begin) + "}", "read"},
     };
     for (const auto& row : rows) {
@@ -88,7 +89,7 @@ TEST(ReadDescription, ReadsWhatAProgramOfSeveralVerbsAdds) {
             "count": {"least": 1, "most": 3}, "notes": {"required": "1"}, "separator": ",",
             "checks": [{"opaque": true, "text": "even"}]}],
         "rules": [{"kind": "needs", "names": ["file", "x"]}],
-        "checks": [{"opaque": true, "by": "handlers"}],
+        "checks": [{"opaque": true, "by": "handlers"}], "verbRequired": false,
         "verbs": [{"names": ["log", "l"], "text": "Show.", "flags": [], "declarations":
             [{"role": "action", "kind": "uint64", "tags": ["t"], "allowed": ["1"], "default": "1",
               "hidden": true, "positional": "unused"}]}]})",
@@ -113,7 +114,9 @@ TEST(ReadDescription, ReadsWhatAProgramOfSeveralVerbsAdds) {
     EXPECT_EQ(file.checks, std::vector<std::string>{"even"});
     EXPECT_EQ(line.rules.at(0).kind, ruleNeeds);
     EXPECT_EQ(line.checks, std::vector<std::string>{"handlers"});
+    EXPECT_EQ(line.isVerbRequired, std::optional<bool>(false));
     const CommandLine& verb = line.verbs.at(0);
+    EXPECT_EQ(verb.isVerbRequired, std::nullopt);
     EXPECT_EQ(verb.names, (std::vector<std::string>{"log", "l"}));
     EXPECT_EQ(verb.text, "Show.");
     const Option& action = verb.options.at(0);

@@ -31,7 +31,7 @@ std::string json(Subject& session) {
     return describeAsJson(session.parser);
 }
 
-constexpr char declaredJson[] = R"({"format": "tarv-description", "version": "1.0",
+constexpr char declaredJson[] = R"({"format": "tarv-description", "version": "1.1",
 "flags": [],
 "topics": [
 {"name": ""}],

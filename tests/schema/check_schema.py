@@ -75,7 +75,9 @@ class Written(unittest.TestCase):
         self.assertEqual(bytes_of(description["program"]["name"]), b"vcs\xff")
         self.assertEqual(description["settings"], [{"file": "/etc/vcs"}, {"option": "config"}])
         self.assertIn("joinedLetters", description["mends"])
+        self.assertIs(description["verbRequired"], True)
         self.assertEqual([verb["names"] for verb in description["verbs"]], [["print", "p"], ["run"]])
+        self.assertNotIn("verbRequired", description["verbs"][0])
         page, paper, file = description["verbs"][0]["declarations"]
         self.assertEqual(page["notes"], {"range": "1..9"})
         self.assertEqual(page["checks"], [{"opaque": True, "by": "host", "text": "must be even"}])
@@ -102,7 +104,7 @@ class Schema(unittest.TestCase):
         verb.update(names=["log", "history"], text="Shows.")
         self.description.update(
             program={"name": "vcs", "version": "1.0", "text": "Tracks."},
-            verbs=[verb], settings=[{"file": "/etc/vcs"}, {"option": "config"}], mends=["joinedLetters"])
+            verbRequired=False, verbs=[verb], settings=[{"file": "/etc/vcs"}, {"option": "config"}], mends=["joinedLetters"])
         self.description["declarations"][4].update(
             count={"least": 1, "most": 3}, checks=[{"opaque": True, "text": "must be even"}])
         jsonschema.validate(self.description, SCHEMA)
@@ -128,6 +130,7 @@ class Schema(unittest.TestCase):
             change(["version"], 1),
             change(["flags", 0], "unknownFlag"),
             change(["optionFiles"], False),
+            change(["verbRequired"], 1),
             change(["topics", 0, "name"], 1),
             change(["declarations"], {}),
             change(["declarations", 0, "role"], "modifier"),

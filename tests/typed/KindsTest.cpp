@@ -102,7 +102,7 @@ Options:
 
 TEST_F(TypedKinds, AreDescribed) {
     EXPECT_EQ(parseLine(program, {"tarvoption=describe"}),
-              R"(0 {"format": "tarv-description", "version": "1.0",
+              R"(0 {"format": "tarv-description", "version": "1.1",
 "program": {"name": "p", "version": "1.0", "text": "All kinds."},
 "mends": ["negativeNumbers", "loneDash", "emptyValues", "emptyPositionals", "repeatedLetters"],
 "flags": ["rejectUnknown", "plainArePositional", "dashIsNotPositional"],
@@ -149,7 +149,7 @@ TEST(TypedDescription, HasActionsSettingsAndLetters) {
     program.option("all", "", false).goesWith(list);
     program.positional<std::string>("file", "").required();
     EXPECT_EQ(parseLine(program, {"tarvoption=describe"}),
-              R"(0 {"format": "tarv-description", "version": "1.0",
+              R"(0 {"format": "tarv-description", "version": "1.1",
 "program": {"name": "p"},
 "mends": ["negativeNumbers", "loneDash", "emptyValues", "emptyPositionals", "repeatedLetters", "joinedLetters"],
 "settings": [{"file": "conf"}, {"option": "config"}],

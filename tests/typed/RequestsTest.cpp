@@ -119,7 +119,7 @@ TEST(TypedRequests, TheDescriptionHoldsWhatABoundVariableHeld) {
     program.bind("required", level, "").required();
     program.bindPositional("file", files, "");
     EXPECT_EQ(parseLine(program, {"tarvoption=describe"}),
-              R"(0 {"format": "tarv-description", "version": "1.0",
+              R"(0 {"format": "tarv-description", "version": "1.1",
 "program": {"name": "p"},
 "mends": ["negativeNumbers", "loneDash", "emptyValues", "emptyPositionals", "repeatedLetters"],
 "flags": ["rejectUnknown", "plainArePositional", "dashIsNotPositional"],
@@ -151,7 +151,7 @@ TEST(TypedRequests, TheDescriptionHoldsAllThatDecides) {
     print.positional<std::vector<std::string>>("file", "Files.").times(1, 3);
     program.verb("run", "").rest<std::vector<std::string>>("command", "");
     EXPECT_EQ(parseLine(program, {"tarvoption=describe"}),
-              R"(0 {"format": "tarv-description", "version": "1.0",
+              R"(0 {"format": "tarv-description", "version": "1.1",
 "program": {"name": "vcs", "version": "1.0", "text": "Tracks versions."},
 "mends": ["negativeNumbers", "loneDash", "emptyValues", "emptyPositionals", "repeatedLetters"],
 "settings": [{"file": "/etc/vcs.conf"}, {"option": "config"}],
@@ -163,6 +163,7 @@ TEST(TypedRequests, TheDescriptionHoldsAllThatDecides) {
 {"role": "option", "kind": "string", "names": ["config"], "text": "Settings.", "notes": {"complete": "file", "value": "FILE"}}],
 "rules": [],
 "checks": [],
+"verbRequired": true,
 "verbs": [
 {"names": ["print", "p"], "text": "Prints.",
 "flags": ["rejectUnknown", "plainArePositional", "dashIsNotPositional"],
@@ -189,6 +190,38 @@ TEST(TypedRequests, TheDescriptionHoldsAllThatDecides) {
 {"role": "option", "kind": "string", "names": ["command"], "positional": "filled", "count": {"least": 0}}],
 "rules": [],
 "checks": []}]}
+)");
+}
+
+TEST(TypedRequests, TheDescriptionSaysWhichCommandsDoWithoutAVerb) {
+    tarv::Program program("vcs", "", "");
+    program.does([] {});
+    program.verb("remote", "").verb("add", "");
+    EXPECT_EQ(parseLine(program, {"tarvoption=describe"}),
+              R"(0 {"format": "tarv-description", "version": "1.1",
+"program": {"name": "vcs"},
+"mends": ["negativeNumbers", "loneDash", "emptyValues", "emptyPositionals", "repeatedLetters"],
+"flags": ["rejectUnknown", "plainArePositional", "dashIsNotPositional"],
+"topics": [],
+"declarations": [],
+"rules": [],
+"checks": [],
+"verbRequired": false,
+"verbs": [
+{"names": ["remote"],
+"flags": ["rejectUnknown", "plainArePositional", "dashIsNotPositional"],
+"topics": [],
+"declarations": [],
+"rules": [],
+"checks": [],
+"verbRequired": true,
+"verbs": [
+{"names": ["add"],
+"flags": ["rejectUnknown", "plainArePositional", "dashIsNotPositional"],
+"topics": [],
+"declarations": [],
+"rules": [],
+"checks": []}]}]}
 )");
 }
 
