@@ -73,6 +73,8 @@ void declareExplain(typed::Program& tool) {
 
 enum class Lint { report, fix, diff };
 
+constexpr char standardInput[] = "-";
+
 // Whether something is left to be mended by hand.
 bool lintOne(LintedScript script, Lint wanted) {
     if (wanted == Lint::diff) {
@@ -92,12 +94,18 @@ bool lintOne(LintedScript script, Lint wanted) {
 
 int lintAll(const CommandLine& program, std::vector<std::string> names,
             const std::vector<std::string>& scripts, Lint wanted) {
+    const bool readsInput = std::count(scripts.begin(), scripts.end(), standardInput) != 0;
+    if (wanted == Lint::fix && readsInput) {
+        throw Failure("--fix cannot change standard input; --diff shows what it would change");
+    }
     names.push_back(program.names.front());
     int exitCode = 0;
     for (const std::string& path : scripts) {
         // One script that cannot be read does not keep the others from being looked at.
         try {
-            if (lintOne(lintScript(program, names, path), wanted) && exitCode == 0) {
+            const LintedScript script =
+                path == standardInput ? lintStandardInput(program, names) : lintScript(program, names, path);
+            if (lintOne(script, wanted) && exitCode == 0) {
                 exitCode = 1;
             }
         } catch (const Failure& failure) {
@@ -112,7 +120,9 @@ void declareLint(typed::Program& tool) {
     auto& verb =
         tool.verb("lint", "Find abbreviated, unknown and deprecated names in the calls of a program.");
     const auto scripts =
-        verb.positional<std::vector<std::string>>("script", "A shell script.").required().completeAs("file");
+        verb.positional<std::vector<std::string>>("script", "A shell script; - is standard input.")
+            .required()
+            .completeAs("file");
     const Text with =
         verb.option<std::string>("with", "The program whose calls are looked at, or its description.")
             .required()

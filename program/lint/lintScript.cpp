@@ -22,13 +22,14 @@ std::string treeOfFile(const std::string& path) {
                     Limits{std::chrono::seconds(60), 1024UL * 1024 * 1024}, path, Complaints::areTold);
 }
 
-std::string treeOf(const std::string& path) {
+// `name` is what messages call the script in the file.
+std::string treeOf(const std::string& name, const std::string& path) {
     try {
         return treeOfFile(path);
     } catch (const NotFound&) {
         throw Failure("shfmt is not installed, which reads the scripts; on Debian: apt install shfmt");
     } catch (const Failure& failure) {
-        throw Failure(path + ": is no shell script that can be read: " + failure.what());
+        throw Failure(name + ": is no shell script that can be read: " + failure.what());
     }
 }
 
@@ -36,15 +37,28 @@ struct CloseFile {
     void operator()(std::FILE* file) const { std::fclose(file); }
 };
 
+/// A file without a name that holds a script.
+class TemporaryFile {
+public:
+    explicit TemporaryFile(const std::string& script) : m_file(std::tmpfile()) {
+        if (m_file == nullptr ||
+            std::fwrite(script.data(), 1, script.size(), m_file.get()) != script.size() ||
+            std::fflush(m_file.get()) != 0) {
+            throw Failure(std::string("cannot write a temporary file: ") + std::strerror(errno));
+        }
+    }
+
+    std::string path() const { return "/proc/self/fd/" + std::to_string(fileno(m_file.get())); }
+
+private:
+    std::unique_ptr<std::FILE, CloseFile> m_file;
+};
+
 // The syntax tree of a script in memory; "" for what is none.
 std::string treeOfText(const std::string& script) {
-    const std::unique_ptr<std::FILE, CloseFile> file(std::tmpfile());
-    if (file == nullptr || std::fwrite(script.data(), 1, script.size(), file.get()) != script.size() ||
-        std::fflush(file.get()) != 0) {
-        throw Failure(std::string("cannot write a temporary file: ") + std::strerror(errno));
-    }
+    const TemporaryFile file(script);
     try {
-        return treeOfFile("/proc/self/fd/" + std::to_string(fileno(file.get())));
+        return treeOfFile(file.path());
     } catch (const Failure&) {
         return "";
     }
@@ -92,6 +106,20 @@ private:
     std::vector<Diagnostic> m_found;
 };
 
+/// `file` is where shfmt reads the script.
+LintedScript linted(const CommandLine& program, const std::vector<std::string>& names, LintedScript script,
+                    const std::string& file) {
+    const auto treeOfScript = [&](const std::string& inner) {
+        // Most do not even name the program, and need no reading.
+        const bool isNamed = std::any_of(names.begin(), names.end(), [&](const std::string& name) {
+            return inner.find(name) != std::string::npos;
+        });
+        return isNamed ? treeOfText(inner) : "";
+    };
+    script.diagnostics = lintTree(program, names, treeOf(script.path, file), script.contents, treeOfScript);
+    return script;
+}
+
 } // namespace
 
 std::vector<Diagnostic> lintTree(const CommandLine& program, const std::vector<std::string>& names,
@@ -104,16 +132,13 @@ std::vector<Diagnostic> lintTree(const CommandLine& program, const std::vector<s
 
 LintedScript lintScript(const CommandLine& program, const std::vector<std::string>& names,
                         const std::string& path) {
-    LintedScript script = {path, contentsOf(path), {}};
-    script.diagnostics =
-        lintTree(program, names, treeOf(path), script.contents, [&](const std::string& inner) {
-            // Most do not even name the program, and need no reading.
-            const bool isNamed = std::any_of(names.begin(), names.end(), [&](const std::string& name) {
-                return inner.find(name) != std::string::npos;
-            });
-            return isNamed ? treeOfText(inner) : "";
-        });
-    return script;
+    return linted(program, names, {path, contentsOf(path), {}}, path);
+}
+
+LintedScript lintStandardInput(const CommandLine& program, const std::vector<std::string>& names) {
+    const std::string contents = contentsOfStandardInput();
+    const TemporaryFile file(contents);
+    return linted(program, names, {standardInputName, contents, {}}, file.path());
 }
 
 std::string reportOf(const LintedScript& script) {

@@ -20,6 +20,9 @@ struct LintedScript {
 LintedScript lintScript(const CommandLine& program, const std::vector<std::string>& names,
                         const std::string& path);
 
+/// The same with a script from standard input.
+LintedScript lintStandardInput(const CommandLine& program, const std::vector<std::string>& names);
+
 /// What is to be said of the calls in a script with this syntax tree. `treeOfScript` reads scripts that stand
 /// in arguments.
 std::vector<Diagnostic> lintTree(const CommandLine& program, const std::vector<std::string>& names,

@@ -1,9 +1,11 @@
 #include "model/loadDescription.h"
 
 #include <cerrno>
+#include <cstdio>
 #include <cstring>
 #include <filesystem>
 #include <fstream>
+#include <iostream>
 
 #include "model/readDescription.h"
 
@@ -40,6 +42,18 @@ std::string jsonOf(const std::string& source, const Limits& limits) {
     return answer;
 }
 
+std::string allOf(std::istream& stream, const std::string& name) {
+    std::string contents;
+    char buffer[65536];
+    while (stream.read(buffer, sizeof buffer) || stream.gcount() > 0) {
+        contents.append(buffer, static_cast<std::size_t>(stream.gcount()));
+        if (contents.size() > mostBytes) {
+            throw Failure(name + ": has more than " + std::to_string(mostBytes) + " bytes");
+        }
+    }
+    return contents;
+}
+
 } // namespace
 
 std::string contentsOf(const std::string& path) {
@@ -51,13 +65,13 @@ std::string contentsOf(const std::string& path) {
     if (!file) {
         throw Failure(path + ": " + std::strerror(errno));
     }
-    std::string contents;
-    char buffer[65536];
-    while (file.read(buffer, sizeof buffer) || file.gcount() > 0) {
-        contents.append(buffer, static_cast<std::size_t>(file.gcount()));
-        if (contents.size() > mostBytes) {
-            throw Failure(path + ": has more than " + std::to_string(mostBytes) + " bytes");
-        }
+    return allOf(file, path);
+}
+
+std::string contentsOfStandardInput() {
+    std::string contents = allOf(std::cin, standardInputName);
+    if (std::ferror(stdin) != 0) {
+        throw Failure(std::string(standardInputName) + ": " + std::strerror(errno));
     }
     return contents;
 }

@@ -11,6 +11,10 @@ namespace tarv_program {
 /// description.
 std::string contentsOf(const std::string& path);
 
+/// The same of standard input, which messages call `standardInputName`.
+std::string contentsOfStandardInput();
+inline constexpr char standardInputName[] = "<stdin>";
+
 /// What is between the last slash and the ending of a description's name: "seek" for "old/seek.json".
 std::string programName(const std::string& path);
 
