@@ -48,8 +48,7 @@ private:
         }
         if (!before.verbs.empty() && !before.isVerbRequired) {
             m_comparison.unjudged.emplace_back(
-                "a verb is needed; the older description does not say whether it "
-                "was before");
+                "a verb is needed; the older description does not say whether it was before");
         } else if (const auto arguments = m_lines.with({})) {
             report(*arguments, "is accepted", "is refused: a verb is missing");
         }
