@@ -261,7 +261,7 @@ TEST(AnswerCompletion, PrintsTheDescriptionThatIsAskedFor) {
     testing::internal::CaptureStdout();
     EXPECT_TRUE(answerCompletion(parser.get(), 2, words));
     EXPECT_EQ(testing::internal::GetCapturedStdout(),
-              R"({"format": "tarv-description", "version": "1.0",
+              R"({"format": "tarv-description", "version": "1.1",
 "flags": [],
 "topics": [
 {"name": ""}],

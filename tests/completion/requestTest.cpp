@@ -59,7 +59,7 @@ public:
         asked.assign(words, words + count);
         return &m_completion;
     }
-    const char* describeAsJson() override { return "{\"a\": 1}"; }
+    const char* describeAsJson() override { return "{\"a\": 1}\n"; }
 
     Words asked;
 
