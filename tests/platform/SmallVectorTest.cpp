@@ -45,6 +45,21 @@ TEST(SmallVector, HasItsFirstElementInItself) {
     EXPECT_EQ(numbers.size(), 2U);
 }
 
+// Beyond 4,096 bytes they lie on the heap, however few of them there are.
+TEST(SmallVector, GivesRoomBackThatItDoesNotUse) {
+    const long before = failing::liveBlocks();
+    {
+        ArenaWithRoom<64> memory;
+        Numbers numbers(memory);
+        numbers.makeRoom(10000);
+        numbers.emplace_back(1);
+        EXPECT_EQ(failing::liveBlocks(), before + 1);
+        numbers.makeRoom(20000);
+        EXPECT_EQ(failing::liveBlocks(), before + 1);
+    }
+    EXPECT_EQ(failing::liveBlocks(), before);
+}
+
 // Beyond 4,096 bytes they lie on the heap.
 TEST(SmallVector, KeepsItsElementsAsItGrowsAndGivesThemBack) {
     const long before = failing::liveBlocks();
