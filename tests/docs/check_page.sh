@@ -90,7 +90,7 @@ while IFS= read -r line || [[ -n $line ]]; do
         cpp) check_source "$start" "$introduction" "$block" ;;
         console) check_session "$start" "$block" ;;
         console-if-*)
-            if [[ -x $bin_dir/${kind#console-if-} ]]; then
+            if (PATH=$bin_dir:$PATH && type -P "${kind#console-if-}" >/dev/null); then
                 check_session "$start" "$block"
             else
                 left_out=$((left_out + 1))

@@ -61,6 +61,13 @@ $fence
 expect 0 'a right session of a program that is there' "$source_block$session$conditional"
 expect 0 'any session of a program that is not' "$source_block$session${conditional/if-hello/if-goodbye}"
 expect 1 'a wrong session of a program that is there' "$source_block$session${conditional/hello moon/hello sun}"
+on_path="${fence}console-if-cat
+\$ echo moon | cat
+moon
+$fence
+"
+expect 0 'a right session of a program in PATH' "$source_block$session$on_path"
+expect 1 'a wrong session of a program in PATH' "$source_block$session${on_path/echo moon/echo sun}"
 expect 1 'a program shown otherwise than it is' "${source_block/return 0/return 1}$session"
 expect 1 'a program cut short' "${source_block/$'}\n'/}$session"
 expect 1 'a piece that the file does not hold' "$source_block$session
