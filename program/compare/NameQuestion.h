@@ -23,7 +23,7 @@ public:
 
 private:
     struct Part {
-        Part(const CommandLine& whole, const std::set<std::size_t>& places);
+        Part(const CommandLine& whole, const std::set<std::size_t>& chosen);
 
         CommandLine line;
         /// The place in the whole command line of each option.
