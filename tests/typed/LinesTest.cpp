@@ -174,6 +174,15 @@ TEST(TypedLines, APositionalListHasCounts) {
     EXPECT_EQ(parseLine(program, {}), wrong("argument POINT is missing"));
 }
 
+TEST(TypedLines, APositionalListTakesNoMoreThanItsCountAndLeavesTheRest) {
+    tarv::Program program("p");
+    const auto corners = program.positional<Texts>("corner", "").times(2, 2);
+    const auto name = program.positional<std::string>("name", "");
+    EXPECT_EQ(parseLine(program, {"a", "b", "c"}), "ok");
+    EXPECT_EQ(*corners, (Texts{"a", "b"}));
+    EXPECT_EQ(*name, "c");
+}
+
 TEST(TypedLines, BehindTheMarkerEverythingIsPositional) {
     tarv::Program program("p");
     const auto verbose = program.flag("verbose", "");
