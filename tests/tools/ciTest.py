@@ -51,7 +51,7 @@ class CiTest(unittest.TestCase):
     def test_every_target_of_the_fuzzers_runs_in_ci(self):
         lists = re.findall(r"^set\((?:program_)?targets (.*)\)$", (ROOT / "fuzz/CMakeLists.txt").read_text(), re.MULTILINE)
         targets = " ".join(sorted(" ".join(lists).split()))
-        self.assertIn(f"for target in {targets}; do", self.ci)
+        self.assertIn(f"printf '%s\\n' {targets} |", self.ci)
         for target in targets.split():
             self.assertTrue(list((ROOT / "fuzz/corpus" / target).iterdir()), target)
 
