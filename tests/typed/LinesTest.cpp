@@ -223,6 +223,8 @@ TEST(TypedLines, JoinedLettersAreTakenApart) {
     EXPECT_EQ(parseLine(sort, {"-l=4", "--lines=5", "-l", "-6"}), "ok");
     EXPECT_EQ(*lines, -6);
     EXPECT_EQ(parseLine(sort, {"-nx"}), wrong("unknown option '-x'"));
+    EXPECT_EQ(parseLine(sort, {"-n\xFFx"}), wrong("unknown option '-\\xff'"));
+    EXPECT_EQ(parseLine(sort, {"-n\xC3\xBCx"}), wrong("unknown option '-\xC3\xBC'"));
     EXPECT_EQ(parseLine(sort, {"-nl"}), wrong("option '-l' needs a value"));
     EXPECT_EQ(parseLine(sort, {"-lines=3"}), wrong("-lines=3: must be a whole number"));
 }
