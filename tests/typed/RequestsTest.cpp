@@ -146,7 +146,7 @@ TEST(TypedRequests, TheDescriptionHoldsAllThatDecides) {
     print.option<Paper>("paper", "Which.").required();
     print.option<std::vector<int>>("page", "").range(1, 99).check("even", [](int) { return true; });
     print.option<tarv::Size>("limit", "").range(1, 1024).needs(user).deprecated("less");
-    const auto color = print.option("color", "", true);
+    const auto color = print.option("color", "", true).hidden();
     print.atMostOne(copies, color);
     print.positional<std::vector<std::string>>("file", "Files.").times(1, 3);
     program.verb("run", "").rest<std::vector<std::string>>("command", "");
@@ -175,7 +175,7 @@ TEST(TypedRequests, TheDescriptionHoldsAllThatDecides) {
 {"role": "option", "kind": "string", "names": ["paper"], "text": "Which.", "allowed": ["a4", "letter"], "notes": {"required": "1"}},
 {"role": "option", "kind": "int32", "names": ["page"], "separator": ",", "notes": {"range": "1..99"}, "checks": [{"opaque": true, "by": "host", "text": "must be even"}]},
 {"role": "option", "kind": "string", "names": ["limit"], "notes": {"deprecated": "less"}, "checks": [{"opaque": true, "by": "type", "text": "must be a number of bytes, such as 4096 or 4MiB, from 1 to 1KiB"}]},
-{"role": "option", "kind": "switch", "names": ["color"], "default": "1", "negatable": true},
+{"role": "option", "kind": "switch", "names": ["color"], "default": "1", "negatable": true, "hidden": true},
 {"role": "option", "kind": "string", "names": ["file"], "text": "Files.", "positional": "filled", "count": {"least": 1, "most": 3}}],
 "rules": [
 {"kind": "required", "names": ["paper"]},
