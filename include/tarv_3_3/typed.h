@@ -134,7 +134,7 @@ public:
     Handle check(const char* must, F accepts) const {
         static_assert(values::isCallable<bool, const F&, void(const Element&)>,
                       "tarv: a check takes the type of the option's elements, and returns a bool");
-        values::addCheck<Element>(m_state, must, static_cast<F&&>(accepts));
+        values::addCheck<Element>(m_state, must, accepts);
         return *this;
     }
 
@@ -192,7 +192,7 @@ public:
     Handle completeWith(F completer) const {
         static_assert(values::isCallable<void, const F&, void(const char*, Candidates&)>,
                       "tarv: a completer takes a const char* and a Candidates&");
-        values::setCompleter<Candidates>(m_state, static_cast<F&&>(completer));
+        values::setCompleter<Candidates>(m_state, completer);
         return *this;
     }
     /// How many arguments a positional list takes; `most` 0 for any number.
@@ -242,7 +242,7 @@ public:
     /// An option with a default, which is of its type.
     template <class T, class Held = values::HeldFor<T>>
     Handle<Held> option(const char* names, const char* description, T initial) {
-        return add<Held>(engine::roleOption, names, description, Held(static_cast<T&&>(initial)));
+        return addWithDefault<Held>(engine::roleOption, names, description, Held(static_cast<T&&>(initial)));
     }
     // Templates, as all that names a type: a host compiles only what it uses.
     /// A switch, which is turned off by "no-" in front of its name.
@@ -260,12 +260,12 @@ public:
     /// it holds again at the beginning of every parse.
     template <class T>
     Handle<T> bind(const char* names, T& variable, const char* description) {
-        return add<T>(engine::roleOption, names, description, variable, &variable);
+        return addBound<T>(engine::roleOption, names, description, variable);
     }
     /// The same for an argument without a name.
     template <class T>
     Handle<T> bindPositional(const char* name, T& variable, const char* description) {
-        return add<T>(engine::rolePositional, name, description, variable, &variable);
+        return addBound<T>(engine::rolePositional, name, description, variable);
     }
     ///@{
     /// An argument without a name. Several are filled in their order, required ones first; one of them
@@ -276,7 +276,8 @@ public:
     }
     template <class T, class Held = values::HeldFor<T>>
     Handle<Held> positional(const char* name, const char* description, T initial) {
-        return add<Held>(engine::rolePositional, name, description, Held(static_cast<T&&>(initial)));
+        return addWithDefault<Held>(engine::rolePositional, name, description,
+                                    Held(static_cast<T&&>(initial)));
     }
     ///@}
     /// Everything from the first argument without a name on, whatever it looks like: for programs that
@@ -307,7 +308,7 @@ public:
         using Returned = decltype(values::given<F&>()());
         static_assert(values::isSame<Returned, void> || values::isSame<Returned, int>,
                       "tarv: a body returns an int, the exit code, or nothing");
-        engine::setBody(m_record, values::makeBody(static_cast<F&&>(body)));
+        engine::setBody(m_record, values::makeBody(body));
         return *this;
     }
 
@@ -343,37 +344,48 @@ private:
     template <class T>
     [[gnu::cold]] Handle<T> add(int role, const char* names, const char* description) {
         if constexpr (values::isPlain<T>()) {
-            return Handle<T>(engine::addPlain(m_record, role, names, description, &values::shapeFor<T, false>,
-                                              nullptr, nullptr));
+            return Handle<T>(addPlain<T>(role, names, description, nullptr, nullptr));
         } else {
-            auto* const slot = new (std::nothrow) values::Slot<T>(values::shapeFor<T, false>);
-            return declare(role, names, description, slot, false);
+            auto* const slot = new (std::nothrow) values::Slot<T>(values::shapeFor<T>);
+            return Handle<T>(keep(role, names, description, slot, false));
         }
     }
     template <class T>
-    [[gnu::cold]] Handle<T> add(int role, const char* names, const char* description, T initial,
-                                T* variable = nullptr) {
+    [[gnu::cold]] Handle<T> addWithDefault(int role, const char* names, const char* description, T initial) {
         if constexpr (values::isPlain<T>()) {
-            return Handle<T>(engine::addPlain(m_record, role, names, description, &values::shapeFor<T, false>,
-                                              &initial, variable));
+            return Handle<T>(addPlain<T>(role, names, description, &initial, nullptr));
         } else {
-            auto* const slot = new (std::nothrow)
-                values::InitialSlot<T>(values::shapeFor<T, true>, static_cast<T&&>(initial));
-            if (slot != nullptr && variable != nullptr) {
-                slot->target = variable;
-            }
-            const Handle<T> handle = declare<T>(role, names, description, slot, variable == nullptr);
-            if (handle.option() != nullptr) {
-                values::showDefault(handle.option(), slot->initial);
-            }
-            return handle;
+            using Slot = values::InitialSlot<T>;
+            auto* const slot = new (std::nothrow) Slot(values::shapeFor<T, Slot>, initial);
+            return showDefault<T>(keep(role, names, description, slot, true));
         }
     }
     template <class T>
-    Handle<T> declare(int role, const char* names, const char* description, values::Slot<T>* slot,
-                      bool isDefault) {
-        const bool isKept = engine::addOption(m_record, role, names, description, slot, isDefault ? 1 : 0);
-        return isKept ? Handle<T>(slot) : Handle<T>();
+    [[gnu::cold]] Handle<T> addBound(int role, const char* names, const char* description, T& variable) {
+        if constexpr (values::isPlain<T>()) {
+            return Handle<T>(addPlain<T>(role, names, description, &variable, &variable));
+        } else {
+            using Slot = values::BoundSlot<T>;
+            auto* const slot = new (std::nothrow) Slot(values::shapeFor<T, Slot>, variable);
+            return showDefault<T>(keep(role, names, description, slot, false));
+        }
+    }
+    template <class T>
+    engine::State* addPlain(int role, const char* names, const char* description, const T* initial,
+                            T* variable) {
+        return engine::addPlain(m_record, role, names, description, &values::shapeFor<T>, initial, variable);
+    }
+    engine::State* keep(int role, const char* names, const char* description, engine::State* state,
+                        bool isDefault) {
+        return engine::addOption(m_record, role, names, description, state, isDefault ? 1 : 0) ? state
+                                                                                               : nullptr;
+    }
+    template <class T>
+    static Handle<T> showDefault(engine::State* state) {
+        if (state != nullptr) {
+            values::showDefault(state->option, static_cast<values::BoundSlot<T>*>(state)->initial);
+        }
+        return Handle<T>(state);
     }
     template <class... Options>
     Command& rule(int kind, Options... options) {

@@ -2,6 +2,7 @@
 #include <filesystem>
 #include <limits>
 #include <list>
+#include <memory_resource>
 #include <optional>
 #include <set>
 #include <string>
@@ -23,6 +24,27 @@ enum class Sparse { one = 1, minus = -7 };
 struct Point {
     int x;
     int y;
+};
+
+/// Counts the pieces of memory that were taken and not given back.
+class CountingMemory : public std::pmr::memory_resource {
+public:
+    int pieces() const { return m_pieces; }
+
+private:
+    void* do_allocate(std::size_t size, std::size_t alignment) override {
+        ++m_pieces;
+        return std::pmr::new_delete_resource()->allocate(size, alignment);
+    }
+    void do_deallocate(void* memory, std::size_t size, std::size_t alignment) override {
+        --m_pieces;
+        std::pmr::new_delete_resource()->deallocate(memory, size, alignment);
+    }
+    bool do_is_equal(const std::pmr::memory_resource& other) const noexcept override {
+        return this == &other;
+    }
+
+    int m_pieces = 0;
 };
 
 bool fromText(const char* text, Point& point) {
@@ -338,6 +360,27 @@ TEST(TypedValues, ABoundVariableTakesAnArgumentWithoutAName) {
     EXPECT_EQ(files, (std::vector<std::string>{"a", "b"}));
     EXPECT_EQ(parseLine(program, {}), "ok");
     EXPECT_EQ(files, (std::vector<std::string>{"-"}));
+}
+
+TEST(TypedValues, ABoundVariableKeepsItsOwnMemory) {
+    CountingMemory memory;
+    {
+        std::pmr::string title("an initial title, too long for a short one", &memory);
+        std::pmr::vector<int> widths({1, 2}, &memory);
+        tarv::Program program("p");
+        program.bind("title", title, "");
+        program.bind("width", widths, "");
+        EXPECT_EQ(parseLine(program, {"--title=a title from the command line, as long", "--width=3,4,5"}),
+                  "ok");
+        EXPECT_EQ(title, "a title from the command line, as long");
+        EXPECT_EQ(widths, (std::pmr::vector<int>{3, 4, 5}));
+        EXPECT_EQ(memory.pieces(), 2);
+        EXPECT_EQ(parseLine(program, {}), "ok");
+        EXPECT_EQ(title, "an initial title, too long for a short one");
+        EXPECT_EQ(widths, (std::pmr::vector<int>{1, 2}));
+        EXPECT_EQ(memory.pieces(), 2);
+    }
+    EXPECT_EQ(memory.pieces(), 0);
 }
 
 TEST(TypedValues, NoCharacterIsADefaultThatCannotBeTyped) {

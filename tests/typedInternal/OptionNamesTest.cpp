@@ -26,8 +26,8 @@ struct Fixture {
 template <class T>
 void declare(Command* command, int role, const char* names) {
     namespace values = tarv_3_3::typed::values;
-    ASSERT_NE(nullptr, tarv_3_3::typed::engine::addPlain(command, role, names, "",
-                                                         &values::shapeFor<T, false>, nullptr, nullptr));
+    ASSERT_NE(nullptr, tarv_3_3::typed::engine::addPlain(command, role, names, "", &values::shapeFor<T>,
+                                                         nullptr, nullptr));
 }
 
 constexpr int option = tarv_3_3::typed::engine::roleOption;

@@ -53,6 +53,19 @@ inline constexpr bool hasInsert<T, Void<decltype(given<T&>().insert(given<typena
 template <class T>
 inline constexpr bool isList = !isText<T> && !isForeign<T> && (hasPushBack<T> || hasInsert<T>);
 
+/// Whether it takes memory from where its own host says, so that it cannot change places with others.
+template <class T, class = void>
+inline constexpr bool hasMemoryOfItsOwn = false;
+template <class T>
+inline constexpr bool hasMemoryOfItsOwn<T, Void<typename T::allocator_type>> =
+    !__is_empty(typename T::allocator_type);
+
+template <class T, class = void>
+inline constexpr bool isExchangeable = false;
+template <class T>
+inline constexpr bool isExchangeable<T, Void<decltype(given<T&>().swap(given<T&>()))>> =
+    (isText<T> || isList<T>)&&!hasMemoryOfItsOwn<T>;
+
 template <class T, class = void>
 inline constexpr bool isDuration = false;
 template <class T>

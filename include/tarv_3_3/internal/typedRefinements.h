@@ -126,26 +126,33 @@ void addChoice(engine::Option* option, const C& choice) {
     }
 }
 
+// Functions of a class instead of lambdas, each of which is a class of its own to the compiler.
 template <class Element, class F>
-[[gnu::cold]] void addCheck(engine::State* state, const char* must, F accepts) {
-    struct With : Check {
-        explicit With(F&& function) : Check{}, test(static_cast<F&&>(function)) {}
-        F test;
-    };
+struct CheckWith : Check {
+    explicit CheckWith(F& function) : Check{}, test(static_cast<F&&>(function)) {
+        accepts = isAcceptedBy;
+        destroy = end;
+    }
+    static bool isAcceptedBy(const Check* check, const void* element) {
+        return static_cast<const CheckWith*>(check)->test(*static_cast<const Element*>(element));
+    }
+    static void end(engine::Owned* check) { delete static_cast<CheckWith*>(check); }
+
+    F test;
+};
+
+template <class Element, class F>
+[[gnu::cold]] void addCheck(engine::State* state, const char* must, F& accepts) {
     const char* const kept = engine::addCheck(state != nullptr ? state->option : nullptr, must);
     if (kept == nullptr) {
         return;
     }
-    With* const made = new (std::nothrow) With(static_cast<F&&>(accepts));
+    auto* const made = new (std::nothrow) CheckWith<Element, F>(accepts);
     if (made == nullptr) {
         engine::failMemory(state->option);
         return;
     }
     made->must = kept;
-    made->accepts = [](const Check* check, const void* element) -> bool {
-        return static_cast<const With*>(check)->test(*static_cast<const Element*>(element));
-    };
-    made->destroy = [](engine::Owned* check) { delete static_cast<With*>(check); };
     engine::Owned** end = &state->checks;
     while (*end != nullptr) {
         end = &(*end)->next;
@@ -154,24 +161,30 @@ template <class Element, class F>
 }
 
 template <class Candidates, class F>
-[[gnu::cold]] void setCompleter(engine::State* state, F function) {
-    struct With : Completer {
-        explicit With(F&& completer) : Completer{}, completes(static_cast<F&&>(completer)) {}
-        F completes;
-    };
+struct CompleterWith : Completer {
+    explicit CompleterWith(F& function) : Completer{}, completes(static_cast<F&&>(function)) {
+        call = complete;
+        destroy = end;
+    }
+    static void complete(const Completer* completer, engine::Taking* taking, const char* word) {
+        Candidates candidates(taking);
+        static_cast<const CompleterWith*>(completer)->completes(word, candidates);
+    }
+    static void end(engine::Owned* completer) { delete static_cast<CompleterWith*>(completer); }
+
+    F completes;
+};
+
+template <class Candidates, class F>
+[[gnu::cold]] void setCompleter(engine::State* state, F& function) {
     if (state == nullptr) {
         return;
     }
-    With* const made = new (std::nothrow) With(static_cast<F&&>(function));
+    auto* const made = new (std::nothrow) CompleterWith<Candidates, F>(function);
     if (made == nullptr) {
         engine::failMemory(state->option);
         return;
     }
-    made->call = [](const Completer* completer, engine::Taking* taking, const char* word) {
-        Candidates candidates(taking);
-        static_cast<const With*>(completer)->completes(word, candidates);
-    };
-    made->destroy = [](engine::Owned* completer) { delete static_cast<With*>(completer); };
     if (state->completer != nullptr) {
         state->completer->destroy(state->completer);
     }
@@ -179,24 +192,24 @@ template <class Candidates, class F>
 }
 
 template <class F>
-[[gnu::cold]] engine::Body* makeBody(F function) {
-    struct With : engine::Body {
-        explicit With(F&& body) : engine::Body{}, runs(static_cast<F&&>(body)) {}
-        F runs;
-    };
-    With* const made = new (std::nothrow) With(static_cast<F&&>(function));
-    if (made != nullptr) {
-        made->call = [](engine::Body* body) -> int {
-            if constexpr (isSame<decltype(static_cast<With*>(body)->runs()), void>) {
-                static_cast<With*>(body)->runs();
-                return 0;
-            } else {
-                return static_cast<With*>(body)->runs();
-            }
-        };
-        made->destroy = [](engine::Body* body) { delete static_cast<With*>(body); };
+struct BodyWith : engine::Body {
+    explicit BodyWith(F& function) : engine::Body{run, end}, runs(static_cast<F&&>(function)) {}
+    static int run(engine::Body* body) {
+        if constexpr (isSame<decltype(given<F&>()()), void>) {
+            static_cast<BodyWith*>(body)->runs();
+            return 0;
+        } else {
+            return static_cast<BodyWith*>(body)->runs();
+        }
     }
-    return made;
+    static void end(engine::Body* body) { delete static_cast<BodyWith*>(body); }
+
+    F runs;
+};
+
+template <class F>
+[[gnu::cold]] engine::Body* makeBody(F& function) {
+    return new (std::nothrow) BodyWith<F>(function);
 }
 
 } // namespace values

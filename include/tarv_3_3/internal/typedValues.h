@@ -22,10 +22,6 @@ struct Completer : engine::Owned {
 /// What a handle points to, unless the library makes the value.
 template <class T>
 struct Slot : engine::State {
-    using Element = typename ElementOf<T>::Type;
-
-    Slot(const engine::Shape& itsShape, const T& value)
-        : engine::State{&itsShape, nullptr, nullptr, nullptr, 0, 0, 0, nullptr, &own}, own(value) {}
     Slot(const engine::Shape& itsShape)
         : engine::State{&itsShape, nullptr, nullptr, nullptr, 0, 0, 0, nullptr, &own}, own() {}
     Slot(const Slot&) = delete;
@@ -34,13 +30,27 @@ struct Slot : engine::State {
     T own;
 };
 
-/// One with an initial value of its own.
+/// One of a variable of the host's, whose initial value is what it holds when it is bound.
 template <class T>
-struct InitialSlot : Slot<T> {
-    InitialSlot(const engine::Shape& itsShape, T&& value)
-        : Slot<T>(itsShape, value), initial(static_cast<T&&>(value)) {}
+struct BoundSlot : engine::State {
+    BoundSlot(const engine::Shape& itsShape, T& variable)
+        : engine::State{&itsShape, nullptr, nullptr, nullptr, 0, 0, 0, nullptr, &variable},
+          initial(variable) {}
+    BoundSlot(const BoundSlot&) = delete;
+    BoundSlot& operator=(const BoundSlot&) = delete;
 
     T initial;
+};
+
+/// One with an initial value of its own.
+template <class T>
+struct InitialSlot : BoundSlot<T> {
+    InitialSlot(const engine::Shape& itsShape, T& value)
+        : BoundSlot<T>(itsShape, value), own(static_cast<T&&>(value)) {
+        this->target = &own;
+    }
+
+    T own;
 };
 
 template <class N>
@@ -63,7 +73,7 @@ template <class N>
     }
 }
 
-/// Reads one element; false when the text is none, which the library notes.
+/// Reads one element that is no text; false when the text is none, which the library notes.
 template <class E>
 [[gnu::cold]] bool read(engine::Taking* taking, const char* text, E& element) {
     if constexpr (isExplained<E>) {
@@ -82,14 +92,6 @@ template <class E>
         const bool isRead = engine::readChoice(taking, text, &place);
         element = isRead ? valueAt<E>(place) : element;
         return isRead;
-    } else if constexpr (isText<E>) {
-        // What owns nothing points to what the program keeps.
-        const char* const whole = engine::readText(taking, text, __is_trivially_copyable(E));
-        if (whole == nullptr) {
-            return false;
-        }
-        element = static_cast<E>(whole);
-        return true;
     } else if constexpr (isDuration<E>) {
         typename E::rep number{};
         const bool isRead = readNumber(taking, text, number);
@@ -114,38 +116,82 @@ template <class E>
     return true;
 }
 
+/// Gives `target` what `value` holds. Exchanging them compiles in a fraction of the time of an assignment.
 template <class T>
-[[gnu::cold]] bool take(engine::State* state, engine::Taking* taking, const char* text, int mode) {
+void moveInto(T& target, T& value) {
+    if constexpr (isExchangeable<T>) {
+        target.swap(value);
+    } else {
+        target = static_cast<T&&>(value);
+    }
+}
+
+template <class T>
+[[gnu::cold]] void addElement(T& list, typename T::value_type& element) {
+    if constexpr (hasPushBack<T>) {
+        list.push_back(static_cast<typename T::value_type&&>(element));
+    } else {
+        list.insert(static_cast<typename T::value_type&&>(element));
+    }
+}
+
+template <class T>
+[[gnu::cold]] void restoreEmpty(engine::State* state) {
+    T empty = T();
+    moveInto(*static_cast<T*>(state->target), empty);
+}
+
+template <class T>
+[[gnu::cold]] void restoreInitial(engine::State* state) {
     T& target = *static_cast<T*>(state->target);
-    typename ElementOf<T>::Type element{};
-    if (!read(taking, text, element) || !isAccepted(state, taking, &element)) {
+    const T& initial = static_cast<BoundSlot<T>*>(state)->initial;
+    if constexpr (isList<T>) {
+        T copy = initial;
+        moveInto(target, copy);
+    } else {
+        target = initial;
+    }
+}
+
+/// Takes an element that was read.
+template <class T>
+bool takeElement(engine::State* state, engine::Taking* taking, typename ElementOf<T>::Type& element,
+                 int mode) {
+    using Element = typename ElementOf<T>::Type;
+    if (!isAccepted(state, taking, &element)) {
         return false;
     }
     if (mode == engine::takeCheck) {
         return true;
     }
+    T& target = *static_cast<T*>(state->target);
     if constexpr (isList<T>) {
         if (mode == engine::takeFirst) {
-            target = T();
+            restoreEmpty<T>(state);
         }
-        if constexpr (hasPushBack<T>) {
-            target.push_back(static_cast<decltype(element)&&>(element));
-        } else {
-            target.insert(static_cast<decltype(element)&&>(element));
-        }
+        addElement(target, element);
+    } else if constexpr (isSame<T, Element>) {
+        moveInto(target, element);
     } else {
-        target = static_cast<decltype(element)&&>(element);
+        target = static_cast<Element&&>(element);
     }
     return true;
 }
 
-template <class T, bool hasInitial>
-[[gnu::cold]] void restore(engine::State* state) {
-    T& target = *static_cast<T*>(state->target);
-    if constexpr (hasInitial) {
-        target = static_cast<InitialSlot<T>&>(*state).initial;
+template <class T>
+[[gnu::cold]] bool take(engine::State* state, engine::Taking* taking, const char* text, int mode) {
+    using Element = typename ElementOf<T>::Type;
+    if constexpr (isText<Element>) {
+        // What owns nothing points to what the program keeps.
+        const char* const whole = engine::readText(taking, text, __is_trivially_copyable(Element));
+        if (whole == nullptr) {
+            return false;
+        }
+        Element element = static_cast<Element>(whole);
+        return takeElement<T>(state, taking, element, mode);
     } else {
-        target = T();
+        Element element{};
+        return read(taking, text, element) && takeElement<T>(state, taking, element, mode);
     }
 }
 
@@ -164,7 +210,7 @@ constexpr engine::Shape withLimits(engine::Shape shape) {
     return shape;
 }
 
-template <class T, bool hasInitial>
+template <class T, class Made>
 constexpr engine::Shape makeShape(int kind) {
     using Element = typename ElementOf<T>::Type;
     engine::Shape shape = {};
@@ -176,13 +222,9 @@ constexpr engine::Shape makeShape(int kind) {
     if constexpr (isPlain<T>()) {
         shape.valueSize = sizeof(T);
     } else {
-        shape.restore = restore<T, hasInitial>;
+        shape.restore = isSame<Made, Slot<T>> ? restoreEmpty<T> : restoreInitial<T>;
         shape.take = take<T>;
-        if constexpr (hasInitial) {
-            shape.destroy = destroy<InitialSlot<T>>;
-        } else {
-            shape.destroy = destroy<Slot<T>>;
-        }
+        shape.destroy = destroy<Made>;
     }
     if constexpr (__is_enum(Element) && !isForeign<Element>) {
         shape.spelling = spellingOf<Element>();
@@ -198,10 +240,11 @@ constexpr engine::Shape makeShape(int kind) {
     return withLimits<Element>(shape);
 }
 
-template <class T, bool hasInitial>
-inline constexpr engine::Shape shapeFor = makeShape<T, hasInitial>(kindOf<typename ElementOf<T>::Type>());
+/// What the library knows of a type that a `Made` holds, unless the library makes its values.
+template <class T, class Made = Slot<T>>
+inline constexpr engine::Shape shapeFor = makeShape<T, Made>(kindOf<typename ElementOf<T>::Type>());
 template <class T>
-inline constexpr engine::Shape shapeForCounter = makeShape<T, false>(engine::kindCounter);
+inline constexpr engine::Shape shapeForCounter = makeShape<T, Slot<T>>(engine::kindCounter);
 
 [[gnu::cold]] inline bool perform(const engine::Step& step) {
     switch (step.kind) {
