@@ -25,10 +25,9 @@ int main(int argc, char** argv) {
     auto memory =
         tool.option("memory", "Take no more than this.", tarv::Size(256 << 20)).env("CONVERT_MEMORY");
     tool.bind("jobs,j", job.jobs, "How many at a time.").range(1, 64).env("CONVERT_JOBS");
-    auto files = tool.positional<std::vector<images::Path>>("image", "What to convert.").required();
+    tool.bindPositional("image", job.files, "What to convert.").required();
     return tool.run(argc, argv, [&] {
         job.memory = *memory;
-        job.files = *files;
         images::convert(job);
     });
 }
