@@ -71,6 +71,10 @@ TEST(TypedLines, ANumberWithAMinusIsAnArgumentWhereArgumentsAreNumbers) {
     EXPECT_EQ(*verbose, 2);
     EXPECT_EQ(parseLine(program, {"-6x"}), wrong("NUMBER '-6x': must be a number"));
     EXPECT_EQ(parseLine(program, {"-x"}), wrong("unknown option '-x'"));
+    EXPECT_EQ(parseLine(program, {"-0", "-9"}), "ok");
+    for (const char* const beside : {"-/", "-:", "-./", "-.:"}) {
+        EXPECT_EQ(parseLine(program, {beside}), wrong("unknown option '" + std::string(beside) + "'"));
+    }
 
     tarv::Program letters("p");
     letters.joinLetters().flag("5", "");
