@@ -150,7 +150,8 @@ std::vector<std::string> telltaleValues(const Option& older, const Option& newer
         if (option->separator != 0) {
             const std::string separator(1, option->separator);
             const std::string one = older.allowed.empty() ? "1" : older.allowed.front();
-            values.push_back(one + separator + one);
+            values.push_back(one);
+            values.back().append(separator).append(one);
         }
     }
     return values;

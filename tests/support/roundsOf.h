@@ -7,5 +7,6 @@
 /// for a round, and find what they look for in the first ones.
 inline unsigned roundsOf(unsigned usual) {
     const char* const percent = std::getenv("TARV_TEST_PERCENT");
-    return percent == nullptr ? usual : usual * static_cast<unsigned>(std::strtoul(percent, nullptr, 10)) / 100;
+    return percent == nullptr ? usual
+                              : usual * static_cast<unsigned>(std::strtoul(percent, nullptr, 10)) / 100;
 }
