@@ -57,7 +57,7 @@ void makeRoomForOne(std::vector<std::unique_ptr<Option>>& options) {
 
 } // namespace
 
-Command* createProgram(const char* name, const char* version, const char* description) {
+Command* createProgram(const char* name, const char* version, const char* description) noexcept {
     try {
         auto program = std::make_unique<Command>(nullptr, "", description);
         program->names.front() = name != nullptr ? name : "";
@@ -70,11 +70,11 @@ Command* createProgram(const char* name, const char* version, const char* descri
     }
 }
 
-void destroy(Command* program) {
+void destroy(Command* program) noexcept {
     delete program;
 }
 
-Command* addVerb(Command* parent, const char* names, const char* description) {
+Command* addVerb(Command* parent, const char* names, const char* description) noexcept {
     Command* added = nullptr;
     guarded(parent, [&] {
         parent->verbs.push_back(std::make_unique<Command>(parent, names, description));
@@ -83,11 +83,11 @@ Command* addVerb(Command* parent, const char* names, const char* description) {
     return added;
 }
 
-void* faceOf(Command* command) {
+void* faceOf(Command* command) noexcept {
     return &command->face;
 }
 
-void setBody(Command* command, Body* body) {
+void setBody(Command* command, Body* body) noexcept {
     if (command == nullptr) {
         if (body != nullptr) {
             body->destroy(body);
@@ -104,7 +104,7 @@ void setBody(Command* command, Body* body) {
 }
 
 bool addOption(Command* command, int role, const char* names, const char* description, State* state,
-               unsigned initialIsDefault) {
+               unsigned initialIsDefault) noexcept {
     if (state == nullptr) {
         guarded(command, [] { throw std::bad_alloc(); });
         return false;
@@ -123,7 +123,7 @@ bool addOption(Command* command, int role, const char* names, const char* descri
 }
 
 State* addPlain(Command* command, int role, const char* names, const char* description, const Shape* shape,
-                const void* initial, void* variable) {
+                const void* initial, void* variable) noexcept {
     State* added = nullptr;
     guarded(command, [&] {
         makeRoomForOne(command->options);
@@ -144,22 +144,22 @@ State* addPlain(Command* command, int role, const char* names, const char* descr
     return added;
 }
 
-void addRule(Command* command, int kind, unsigned count, Option* const* options) {
+void addRule(Command* command, int kind, unsigned count, Option* const* options) noexcept {
     guarded(command, [&] {
         std::vector<Option*> list(options, options + count);
         command->rules.push_back({kind, std::move(list)});
     });
 }
 
-void setJoinLetters(Command* program) {
+void setJoinLetters(Command* program) noexcept {
     guarded(program, [&] { program->joinsLetters = true; });
 }
 
-void setSettingsFile(Command* program, const char* path) {
+void setSettingsFile(Command* program, const char* path) noexcept {
     guarded(program, [&] { program->settingsFile = path != nullptr ? path : ""; });
 }
 
-void setSettingsOption(Command* program, Option* option) {
+void setSettingsOption(Command* program, Option* option) noexcept {
     guarded(program, [&] { program->settingsOption = option; });
 }
 

@@ -71,18 +71,18 @@ void refineOwn(Option& option, int refinement, const char* text) {
 
 } // namespace
 
-void refine(Option* option, int refinement, const char* text) {
+void refine(Option* option, int refinement, const char* text) noexcept {
     guarded(option, [&] { refineOwn(*option, refinement, text != nullptr ? text : ""); });
 }
 
-void setTimes(Option* option, unsigned least, unsigned most) {
+void setTimes(Option* option, unsigned least, unsigned most) noexcept {
     guarded(option, [&] {
         option->least = least;
         option->most = most;
     });
 }
 
-void setRangeSigned(Option* option, long long low, long long high) {
+void setRangeSigned(Option* option, long long low, long long high) noexcept {
     guarded(option, [&] {
         option->range.isSet = true;
         if (low > high) {
@@ -96,7 +96,7 @@ void setRangeSigned(Option* option, long long low, long long high) {
     });
 }
 
-void setRangeUnsigned(Option* option, unsigned long long low, unsigned long long high) {
+void setRangeUnsigned(Option* option, unsigned long long low, unsigned long long high) noexcept {
     guarded(option, [&] {
         option->range.isSet = true;
         if (low > high) {
@@ -112,7 +112,7 @@ void setRangeUnsigned(Option* option, unsigned long long low, unsigned long long
     });
 }
 
-void setRangeReal(Option* option, double low, double high) {
+void setRangeReal(Option* option, double low, double high) noexcept {
     guarded(option, [&] {
         option->range.isSet = true;
         if (!(low <= high)) {
@@ -123,15 +123,15 @@ void setRangeReal(Option* option, double low, double high) {
     });
 }
 
-void addChoiceSigned(Option* option, long long value) {
+void addChoiceSigned(Option* option, long long value) noexcept {
     guarded(option, [&] { option->choices.push_back(showNumber(*option, value)); });
 }
 
-void addChoiceReal(Option* option, double value) {
+void addChoiceReal(Option* option, double value) noexcept {
     guarded(option, [&] { option->choices.push_back(showNumber(*option, value)); });
 }
 
-void addDefaultSigned(Option* option, long long value) {
+void addDefaultSigned(Option* option, long long value) noexcept {
     guarded(option, [&] {
         if (option->shape().kind == kindChoice) {
             const bool isNamed = 0 <= value && value < static_cast<long long>(option->choices.size());
@@ -145,19 +145,19 @@ void addDefaultSigned(Option* option, long long value) {
     });
 }
 
-void addDefaultUnsigned(Option* option, unsigned long long value) {
+void addDefaultUnsigned(Option* option, unsigned long long value) noexcept {
     guarded(option, [&] {
         const bool isSwitch = option->shape().kind == kindSwitch;
         option->defaults.push_back(isSwitch ? value != 0 ? "on" : "off" : showNumber(*option, value));
     });
 }
 
-void addDefaultReal(Option* option, double value) {
+void addDefaultReal(Option* option, double value) noexcept {
     guarded(option, [&] { option->defaults.push_back(showNumber(*option, value)); });
 }
 
 // A '\0' is no character that could be typed: it stands for none.
-void addDefaultText(Option* option, const char* text, unsigned long length) {
+void addDefaultText(Option* option, const char* text, unsigned long length) noexcept {
     guarded(option, [&] {
         if (option->shape().kind == kindByte && *text == '\0') {
             return;
@@ -166,21 +166,21 @@ void addDefaultText(Option* option, const char* text, unsigned long length) {
     });
 }
 
-void addNeed(Option* option, Option* other) {
+void addNeed(Option* option, Option* other) noexcept {
     guarded(option, [&] { option->needed.push_back(other); });
 }
 
-void addAction(Option* option, Option* action) {
+void addAction(Option* option, Option* action) noexcept {
     guarded(option, [&] { option->actions.push_back(action); });
 }
 
-const char* addCheck(Option* option, const char* must) {
+const char* addCheck(Option* option, const char* must) noexcept {
     const char* kept = nullptr;
     guarded(option, [&] { kept = option->musts.emplace_back(must != nullptr ? must : "").c_str(); });
     return kept;
 }
 
-void failMemory(Option* option) {
+void failMemory(Option* option) noexcept {
     if (option != nullptr) {
         option->owner->program().isOutOfMemory = true;
     }

@@ -175,23 +175,23 @@ const char* takeText(Taking& taking, const char* text) {
 
 } // namespace
 
-bool readSwitch(Taking* taking, const char* text, bool* value) {
+bool readSwitch(Taking* taking, const char* text, bool* value) noexcept {
     return guardedTaking(taking, [&] { return takeSwitch(*taking, text, *value); });
 }
 
-bool readSigned(Taking* taking, const char* text, long long* value) {
+bool readSigned(Taking* taking, const char* text, long long* value) noexcept {
     return guardedTaking(taking, [&] { return takeSigned(*taking, text, *value); });
 }
 
-bool readUnsigned(Taking* taking, const char* text, unsigned long long* value) {
+bool readUnsigned(Taking* taking, const char* text, unsigned long long* value) noexcept {
     return guardedTaking(taking, [&] { return takeUnsigned(*taking, text, *value); });
 }
 
-bool readReal(Taking* taking, const char* text, double* value) {
+bool readReal(Taking* taking, const char* text, double* value) noexcept {
     return guardedTaking(taking, [&] { return takeReal(*taking, text, *value); });
 }
 
-bool readChoice(Taking* taking, const char* text, int* place) {
+bool readChoice(Taking* taking, const char* text, int* place) noexcept {
     return guardedTaking(taking, [&] {
         const std::size_t found = placeOfChoice(*taking, text);
         *place = static_cast<int>(found);
@@ -199,7 +199,7 @@ bool readChoice(Taking* taking, const char* text, int* place) {
     });
 }
 
-const char* readText(Taking* taking, const char* text, bool keep) {
+const char* readText(Taking* taking, const char* text, bool keep) noexcept {
     const char* read = nullptr;
     guardedTaking(taking, [&] {
         read = takeText(*taking, text);
@@ -211,12 +211,12 @@ const char* readText(Taking* taking, const char* text, bool keep) {
     return read;
 }
 
-bool refuse(Taking* taking, const char* must) {
+bool refuse(Taking* taking, const char* must) noexcept {
     return guardedTaking(taking,
                          [&] { return refuseWith(*taking, must != nullptr ? messages::mustBe(must) : ""); });
 }
 
-void offer(Taking* taking, const char* value, const char* description) {
+void offer(Taking* taking, const char* value, const char* description) noexcept {
     guardedTaking(taking, [&] {
         if (value != nullptr) {
             taking->candidates.emplace_back(value, description != nullptr ? description : "");

@@ -129,35 +129,33 @@ struct Result {
 
 enum Purpose : int { purposeParse = 0, purposeRun = 1 };
 
-[[gnu::nothrow]] TARV_API Command* createProgram(const char* name, const char* version,
-                                                 const char* description);
-[[gnu::nothrow]] TARV_API void destroy(Command* program);
-[[gnu::nothrow]] TARV_API Command* addVerb(Command* parent, const char* names, const char* description);
+TARV_API Command* createProgram(const char* name, const char* version, const char* description) noexcept;
+TARV_API void destroy(Command* program) noexcept;
+TARV_API Command* addVerb(Command* parent, const char* names, const char* description) noexcept;
 /// Room for a pointer, which lives as long as the command: what stands for it in the host.
-[[gnu::nothrow]] TARV_API void* faceOf(Command* command);
+TARV_API void* faceOf(Command* command) noexcept;
 /// Takes `body` over, also where it cannot be kept; null stands for one that there was no memory for.
-[[gnu::nothrow]] TARV_API void setBody(Command* command, Body* body);
+TARV_API void setBody(Command* command, Body* body) noexcept;
 /// Takes `state` over, and ends it with `Shape::destroy`; false when it had to be ended at once. Null stands
 /// for one that there was no memory for. `initialIsDefault` says whether a default was given, which is then
 /// shown with `addDefault...`.
-[[gnu::nothrow]] TARV_API bool addOption(Command* command, int role, const char* names,
-                                         const char* description, State* state, unsigned initialIsDefault);
+TARV_API bool addOption(Command* command, int role, const char* names, const char* description, State* state,
+                        unsigned initialIsDefault) noexcept;
 /// The same for a value that the library makes, with a shape that says its `valueSize`. `initial` is null for
 /// none; `variable` is where the value goes, null for memory of the library's. Null when there is none left.
-[[gnu::nothrow]] TARV_API State* addPlain(Command* command, int role, const char* names,
-                                          const char* description, const Shape* shape, const void* initial,
-                                          void* variable);
-[[gnu::nothrow]] TARV_API void addRule(Command* command, int kind, unsigned count, Option* const* options);
-[[gnu::nothrow]] TARV_API void setJoinLetters(Command* program);
-[[gnu::nothrow]] TARV_API void setSettingsFile(Command* program, const char* path);
-[[gnu::nothrow]] TARV_API void setSettingsOption(Command* program, Option* option);
+TARV_API State* addPlain(Command* command, int role, const char* names, const char* description,
+                         const Shape* shape, const void* initial, void* variable) noexcept;
+TARV_API void addRule(Command* command, int kind, unsigned count, Option* const* options) noexcept;
+TARV_API void setJoinLetters(Command* program) noexcept;
+TARV_API void setSettingsFile(Command* program, const char* path) noexcept;
+TARV_API void setSettingsOption(Command* program, Option* option) noexcept;
 
 ///@{
 /// One element of the initial value, as help shows it.
-[[gnu::nothrow]] TARV_API void addDefaultSigned(Option* option, long long value);
-[[gnu::nothrow]] TARV_API void addDefaultUnsigned(Option* option, unsigned long long value);
-[[gnu::nothrow]] TARV_API void addDefaultReal(Option* option, double value);
-[[gnu::nothrow]] TARV_API void addDefaultText(Option* option, const char* text, unsigned long length);
+TARV_API void addDefaultSigned(Option* option, long long value) noexcept;
+TARV_API void addDefaultUnsigned(Option* option, unsigned long long value) noexcept;
+TARV_API void addDefaultReal(Option* option, double value) noexcept;
+TARV_API void addDefaultText(Option* option, const char* text, unsigned long length) noexcept;
 ///@}
 
 enum Refinement : int {
@@ -174,34 +172,33 @@ enum Refinement : int {
 };
 
 /// `text` is what the refinement says; "" where it says nothing more.
-[[gnu::nothrow]] TARV_API void refine(Option* option, int refinement, const char* text);
-[[gnu::nothrow]] TARV_API void addChoiceSigned(Option* option, long long value);
-[[gnu::nothrow]] TARV_API void addChoiceReal(Option* option, double value);
-[[gnu::nothrow]] TARV_API void setTimes(Option* option, unsigned least, unsigned most);
-[[gnu::nothrow]] TARV_API void setRangeSigned(Option* option, long long low, long long high);
-[[gnu::nothrow]] TARV_API void setRangeUnsigned(Option* option, unsigned long long low,
-                                                unsigned long long high);
-[[gnu::nothrow]] TARV_API void setRangeReal(Option* option, double low, double high);
-[[gnu::nothrow]] TARV_API void addNeed(Option* option, Option* other);
-[[gnu::nothrow]] TARV_API void addAction(Option* option, Option* action);
+TARV_API void refine(Option* option, int refinement, const char* text) noexcept;
+TARV_API void addChoiceSigned(Option* option, long long value) noexcept;
+TARV_API void addChoiceReal(Option* option, double value) noexcept;
+TARV_API void setTimes(Option* option, unsigned least, unsigned most) noexcept;
+TARV_API void setRangeSigned(Option* option, long long low, long long high) noexcept;
+TARV_API void setRangeUnsigned(Option* option, unsigned long long low, unsigned long long high) noexcept;
+TARV_API void setRangeReal(Option* option, double low, double high) noexcept;
+TARV_API void addNeed(Option* option, Option* other) noexcept;
+TARV_API void addAction(Option* option, Option* action) noexcept;
 /// Keeps what a check asks for, and returns the copy.
-[[gnu::nothrow]] TARV_API const char* addCheck(Option* option, const char* must);
+TARV_API const char* addCheck(Option* option, const char* must) noexcept;
 /// Notes that memory was exhausted while something was declared.
-[[gnu::nothrow]] TARV_API void failMemory(Option* option);
+TARV_API void failMemory(Option* option) noexcept;
 
 ///@{
 /// Reads a value. False, or null, when it is none, which is noted.
-[[gnu::nothrow]] TARV_API bool readSwitch(Taking* taking, const char* text, bool* value);
-[[gnu::nothrow]] TARV_API bool readSigned(Taking* taking, const char* text, long long* value);
-[[gnu::nothrow]] TARV_API bool readUnsigned(Taking* taking, const char* text, unsigned long long* value);
-[[gnu::nothrow]] TARV_API bool readReal(Taking* taking, const char* text, double* value);
-[[gnu::nothrow]] TARV_API bool readChoice(Taking* taking, const char* text, int* place);
+TARV_API bool readSwitch(Taking* taking, const char* text, bool* value) noexcept;
+TARV_API bool readSigned(Taking* taking, const char* text, long long* value) noexcept;
+TARV_API bool readUnsigned(Taking* taking, const char* text, unsigned long long* value) noexcept;
+TARV_API bool readReal(Taking* taking, const char* text, double* value) noexcept;
+TARV_API bool readChoice(Taking* taking, const char* text, int* place) noexcept;
 /// `keep` asks for a copy that lives as long as the program.
-[[gnu::nothrow]] TARV_API const char* readText(Taking* taking, const char* text, bool keep);
+TARV_API const char* readText(Taking* taking, const char* text, bool keep) noexcept;
 ///@}
 /// Notes that the value is refused, because it must be `must`; null when there is no more to say. False.
-[[gnu::nothrow]] TARV_API bool refuse(Taking* taking, const char* must);
-[[gnu::nothrow]] TARV_API void offer(Taking* taking, const char* value, const char* description);
+TARV_API bool refuse(Taking* taking, const char* must) noexcept;
+TARV_API void offer(Taking* taking, const char* value, const char* description) noexcept;
 
 /// Begins a parse; `next` then says what to do, until it returns false. `accepted` is what the last step
 /// returned.
