@@ -1,7 +1,6 @@
 #include <algorithm>
 #include <cstring>
 #include <memory>
-#include <new>
 
 #include "typed/Work.h"
 #include "typed/enumerators.h"
@@ -106,7 +105,9 @@ void setBody(Command* command, Body* body) noexcept {
 bool addOption(Command* command, int role, const char* names, const char* description, State* state,
                unsigned initialIsDefault) noexcept {
     if (state == nullptr) {
-        guarded(command, [] { throw std::bad_alloc(); });
+        if (command != nullptr) {
+            command->program().isOutOfMemory = true;
+        }
         return false;
     }
     StateOwner owner{state};
