@@ -6,6 +6,7 @@
 
 #include <gtest/gtest.h>
 
+#include "support/OpenProgram.h"
 #include "support/TypedLine.h"
 
 namespace {
@@ -14,12 +15,6 @@ namespace tarv = tarv_3_3::typed;
 using tarv_3_3::Completion;
 
 enum class Format { png, jpeg, webp };
-
-/// A program whose record can be asked.
-struct OpenProgram : tarv::Program {
-    using Program::Program;
-    tarv::engine::Command& record() { return *m_record; }
-};
 
 /// The candidates, each behind a blank, and what the shell adds by itself.
 std::string offered(OpenProgram& program, std::vector<std::string> line) {

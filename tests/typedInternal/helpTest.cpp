@@ -2,17 +2,9 @@
 
 #include <gtest/gtest.h>
 
-#include "tarv_3_3/typed.h"
+#include "support/OpenProgram.h"
 
 namespace {
-
-namespace tarv = tarv_3_3::typed;
-
-/// A program whose record can be shown.
-struct OpenProgram : tarv::Program {
-    using Program::Program;
-    tarv::engine::Command& record() { return *m_record; }
-};
 
 TEST(RenderHelp, PrintsHeadingsBoldWhereThatIsWanted) {
     OpenProgram program("p", "1.0", "Prints.");

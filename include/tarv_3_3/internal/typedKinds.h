@@ -64,7 +64,7 @@ template <class T, class = void>
 inline constexpr bool isExchangeable = false;
 template <class T>
 inline constexpr bool isExchangeable<T, Void<decltype(given<T&>().swap(given<T&>()))>> =
-    (isText<T> || isList<T>)&&!hasMemoryOfItsOwn<T>;
+    !hasMemoryOfItsOwn<T> && (isText<T> || isList<T>);
 
 template <class T, class = void>
 inline constexpr bool isDuration = false;
