@@ -59,6 +59,7 @@ struct ParserSlot {
     IParser* parser = nullptr;
     /// What was declared last, as long as it may be refined.
     IOption* last = nullptr;
+    std::set<std::string> namesOfLast;
     std::set<ScriptedHandler*> handlers;
     HandedOut texts;
     int running = 0;
@@ -131,7 +132,7 @@ private:
     void call(const std::string& line);
     void callParser(char what, ParserSlot& slot, Input& fields);
     void callResult(char what, ResultSlot& slot, Input& fields);
-    static void refine(IOption& option, char builder, Input& fields);
+    void refine(ParserSlot& slot, char builder, Input& fields);
     static void declare(char what, ParserSlot& slot, Input& fields);
     void parse(char what, ParserSlot& slot, Input& fields);
     int parseAs(char what, IParser& parser, IParseResult* result, const std::vector<std::string>& arguments);
@@ -150,6 +151,7 @@ private:
     int m_depth = 0;
     int m_calls = 0;
     bool m_mayWrap = false;
+    bool m_mayRepeatNames = false;
 };
 
 std::size_t placeIn(Input& fields, std::size_t count) {
@@ -203,7 +205,7 @@ void Script::callParser(char what, ParserSlot& slot, Input& fields) {
     case 'd':
     case 'v':
         if (slot.last != nullptr) {
-            refine(*slot.last, what, fields);
+            refine(slot, what, fields);
         }
         break;
     case 'c':
@@ -246,6 +248,10 @@ void Script::declare(char what, ParserSlot& slot, Input& fields) {
                 : what == 'a'
                     ? &parser.action(orNull(names), orNull(description), kind, orNull(topic))
                     : &parser.modifier(orNull(names), orNull(tags), orNull(description), kind, orNull(topic));
+    slot.namesOfLast.clear();
+    for (Input each(reinterpret_cast<const std::uint8_t*>(names.data()), names.size()); !each.empty();) {
+        slot.namesOfLast.insert(each.until(','));
+    }
     require(slot.last->m_status == declarationStored || slot.last->m_status == declarationRefused,
             "status of IOption");
     const bool isOneName = !names.empty() && names.find(',') == std::string::npos && names != "NULL";
@@ -255,7 +261,8 @@ void Script::declare(char what, ParserSlot& slot, Input& fields) {
 }
 
 // Of values, a byte for the kind, which need not be that of the option, then the text.
-void Script::refine(IOption& option, char builder, Input& fields) {
+void Script::refine(ParserSlot& slot, char builder, Input& fields) {
+    IOption& option = *slot.last;
     if (builder == 'd' || builder == 'v') {
         const das_variant_type_t kind = kindOf(fields.byte());
         const variant_t value = extracted(fields.rest(), kind);
@@ -265,6 +272,7 @@ void Script::refine(IOption& option, char builder, Input& fields) {
     const std::string text = fields.rest();
     switch (builder) {
     case 's':
+        m_mayRepeatNames = !slot.namesOfLast.insert(text).second || m_mayRepeatNames;
         option.synonym(orNull(text));
         break;
     case 't':
@@ -463,7 +471,9 @@ void Script::iterate(ResultSlot& slot, const char* name, int lo, int hi) const {
     require(m_mayWrap || isPresent == (result.get(name).status == valueFound), "present is not get");
     std::set<int> positions;
     for (int position = result.nextPosition(); position != noPosition; position = result.nextPosition()) {
-        require(positions.insert(position).second, "a position came twice", std::to_string(position));
+        // A name that an option has twice is stored twice.
+        require(positions.insert(position).second || m_mayRepeatNames, "a position came twice",
+                std::to_string(position));
     }
 }
 
