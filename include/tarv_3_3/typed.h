@@ -119,7 +119,8 @@ public:
 #pragma clang diagnostic pop
 #endif
 
-    /// Only these values. Of a text, a beginning that fits only one stands for it on the command line.
+    /// Only these values, which shells offer. Of a text, a beginning that fits only one stands for it on the
+    /// command line.
     template <class... Choices>
     Handle oneOf(const Choices&... choices) const {
         static_assert(values::isText<Element> || values::isArithmetic<Element>,

@@ -6,6 +6,7 @@
 #include "completion/KeptCompletion.h"
 #include "tarv_3_3/description.h"
 #include "typed/LineReader.h"
+#include "typed/Taking.h"
 #include "typed/positionals.h"
 
 namespace tarv_3_3::typed::engine {
@@ -177,17 +178,32 @@ bool ProgramCompleter::completeValue(const char* name, const char* word, Candida
         offerVerbs(word, sink);
         return true;
     }
-    if (known->second->state->completer == nullptr) {
-        return false;
-    }
-    for (const auto& [value, description] : m_candidates) {
-        sink.add(value.c_str(), description.c_str());
-    }
-    if (!m_isOffered) {
-        m_asked = known->second;
+    Option& option = *known->second;
+    const bool isHosts = option.state->completer != nullptr;
+    if (isHosts && !m_isOffered) {
+        m_asked = &option;
         m_askedWord = word;
     }
-    return true;
+    for (const auto& [value, description] : m_candidates) {
+        offerValue(option, value, description, sink);
+    }
+    // Behind the host's values, which may describe them.
+    if (option.takesNumbers()) {
+        for (const std::string& choice : option.choices) {
+            offerValue(option, choice, "", sink);
+        }
+    }
+    return isHosts || !option.choices.empty();
+}
+
+// The parser knows nothing of the numbers that an option takes alone, nor of its range.
+void ProgramCompleter::offerValue(Option& option, const std::string& value, const std::string& description,
+                                  CandidateSink& sink) {
+    Taking taking;
+    taking.option = &option;
+    if (!option.takesNumbers() || isValue(taking, value.c_str())) {
+        sink.add(value.c_str(), description.c_str());
+    }
 }
 
 // A synonym only where it is begun and the first name is not.

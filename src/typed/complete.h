@@ -47,6 +47,8 @@ private:
     bool mayLettersStand() const;
     std::unique_ptr<KeptCompletion> completeLetters(const Completion& written) const;
     bool completeValue(const char* name, const char* word, CandidateSink& sink);
+    static void offerValue(Option& option, const std::string& value, const std::string& description,
+                           CandidateSink& sink);
     void offerVerbs(const std::string& word, CandidateSink& sink) const;
 
     Command& m_program;

@@ -70,6 +70,44 @@ TEST(TypedRequests, TheHostCompletesItsOwnValues) {
     EXPECT_EQ(asked, "nothing");
 }
 
+TEST(TypedRequests, TheHostDescribesNumbersThatAnOptionTakes) {
+    tarv::Program program("p");
+    program.option<int>("bits", "")
+        .oneOf(8, 16, 32)
+        .completeWith([](const char*, tarv::Candidates& candidates) {
+            candidates.add("16", "The usual.");
+            candidates.add("64", "Refused.");
+        });
+    EXPECT_EQ(ask(program, "tarvoption=complete=zsh", {"p", "--bits="}),
+              "0 tarv-complete 1 none\n\n\n\n--bits=16\tThe usual.\n--bits=8\t\n"
+              "--bits=32\t\n");
+    EXPECT_EQ(ask(program, "tarvoption=complete=zsh", {"p", "--bits=1"}),
+              "0 tarv-complete 1 none\n\n\n--bits=16\n--bits=16\tThe usual.\n");
+}
+
+TEST(TypedRequests, TheDescriptionHoldsTheNumbersThatAnOptionTakes) {
+    tarv::Program program("p");
+    program.option("bits", "Bits.", 8).oneOf(8, 16);
+    program.option<double>("real", "").oneOf(0.5, 1);
+    EXPECT_EQ(parseLine(program, {"tarvoption=describe"}),
+              R"(0 {"format": "tarv-description", "version": "1.1",
+"program": {"name": "p"},
+"mends": ["negativeNumbers", "loneDash", "emptyValues", "emptyPositionals", "repeatedLetters"],
+"flags": ["rejectUnknown", "plainArePositional", "dashIsNotPositional"],
+"topics": [
+{"name": ""}],
+"declarations": [
+{"role": "option", "kind": "int32", "names": ["bits"], "text": "Bits.", "allowed": ["8", "16"], "default": "8"},
+{"role": "option", "kind": "double", "names": ["real"], "allowed": ["0.5", "1"]}],
+"rules": [],
+"checks": []}
+)");
+    EXPECT_EQ(parseLine(program, {"--help"}), "0 Usage: p [OPTION]...\n\nOptions:\n"
+                                              "      --bits=NUMBER  Bits. (one of 8, 16; default: 8)\n"
+                                              "      --real=NUMBER  (one of 0.5, 1)\n"
+                                              "  -h, --help         Show this help.\n");
+}
+
 TEST(TypedRequests, ACompleterMayAddNull) {
     tarv::Program program("p");
     program.option<std::string>("word", "").completeWith([](const char*, tarv::Candidates& candidates) {

@@ -108,6 +108,71 @@ TEST(ProgramCompleter, OffersOnlyWhatGoesWithAnAction) {
     EXPECT_EQ(offered(tar, {"-x", "--"}), "--directory= --verbose --help");
 }
 
+TEST(ProgramCompleter, OffersTheNumbersThatAnOptionTakes) {
+    OpenProgram program("p");
+    program.joinLetters();
+    program.option<int>("bits,b", "").oneOf(1, 2, 16);
+    program.option<double>("real", "").oneOf(0.5, 1, -2.5e-7);
+    program.option<float>("scale", "").oneOf(0.1F, 2.0F);
+    program.option<std::vector<int>>("list", "").oneOf(1, 2, 10);
+    program.option<int>("near", "").oneOf(1, 5, 30).range(2, 20);
+    program.option<unsigned char>("byte", "").oneOf(-1, 7, 300);
+    program.option<short>("file", "").oneOf(3).completeAs("file");
+    program.option<int>("any", "").range(1, 3);
+    program.option<int>("own", "").oneOf(1, 2).completeWith([](const char*, tarv::Candidates&) {});
+    program.positional<long long>("width", "").oneOf(8, 80, 9000000000);
+    program.positional<std::vector<unsigned>>("rest", "").oneOf(4, 5);
+    const struct {
+        std::vector<std::string> line;
+        const char* offered;
+    } rows[] = {
+        {{"--bits="}, "--bits=1 --bits=2 --bits=16"},
+        {{"--bits", ""}, "1 2 16"},
+        {{"--bits", "1"}, "1 16"},
+        {{"--bits=3"}, ""},
+        {{"-b"}, "-b1 -b2 -b16"},
+        {{"-b=1"}, "-b=1 -b=16"},
+        {{"--real="}, "--real=0.5 --real=1 --real=-2.5e-07"},
+        {{"--real=0"}, "--real=0.5"},
+        {{"--scale", ""}, "0.1 2"},
+        {{"--list="}, "--list=1 --list=2 --list=10"},
+        {{"--list=1,"}, "--list=1,2 --list=1,10"},
+        {{"--list", "2,1"}, "2,1 2,10"},
+        {{"--near="}, "--near=5"},
+        {{"--byte="}, "--byte=7"},
+        {{"--file="}, "--file=3"},
+        {{"--any="}, ""},
+        {{"--own="}, "--own=1 --own=2"},
+        {{""}, "8 80 9000000000"},
+        {{"8"}, "8 80"},
+        {{"8", ""}, "4 5"},
+        {{"8", "4", ""}, "4 5"},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.line.back() + " behind " + row.line.front());
+        EXPECT_EQ(offered(program, row.line), row.offered);
+    }
+}
+
+TEST(ProgramCompleter, OffersNoNumberThatIsRefused) {
+    OpenProgram program("p");
+    program.option<signed char>("small", "").oneOf(-129, -128, 0, 127, 128).range(-128, 126);
+    program.option<double>("real", "").oneOf(0.1, 1e300, 1.0 / 3).range(0, 10);
+    program.option<float>("scale", "").oneOf(0.1, 1e300);
+    int offers = 0;
+    for (const char* const word : {"--small=", "--real=", "--scale="}) {
+        tarv::engine::ProgramCompleter completer(program.record(), {"p", word});
+        const Completion* const completion = completer.answer();
+        ASSERT_NE(completion, nullptr);
+        for (unsigned i = 0; i < completion->candidateCount; ++i) {
+            const std::string offer = completion->candidates[i].text;
+            EXPECT_EQ(parseLine(program, {offer}), "ok") << offer;
+            ++offers;
+        }
+    }
+    EXPECT_EQ(offers, 5);
+}
+
 struct Letters {
     OpenProgram program{"p"};
     tarv::Handle<bool> all = program.flag("all,a", "");
