@@ -426,7 +426,8 @@ private:
 /// go with it.
 ///
 /// Where nothing that was declared fits, "--help", "-h" and, with a version, "--version" are known by
-/// themselves, also cut short, and with verbs "help VERB". They answer before any complaint.
+/// themselves, also cut short, and with verbs "help VERB". They answer before any complaint; only behind
+/// "help" a word that is no verb is refused.
 ///
 /// Requests of shells are answered, too: "tarvoption=completion=bash" and the others of
 /// `tarv_3_3/completion.h`.

@@ -88,7 +88,7 @@ void LineReader::readArgument(std::size_t place) {
 }
 
 void LineReader::readWord(std::size_t place) {
-    if (!m_line.chosen->verbs.empty()) {
+    if (m_isHelpVerb || !m_line.chosen->verbs.empty()) {
         enterVerb(place);
         return;
     }
@@ -195,6 +195,7 @@ LevelParser& LineReader::level() {
 
 void LineReader::finish() {
     checkFront();
+    m_line.wish = m_isHelpWished ? Wish::help : m_line.wish;
     if (m_line.wish != Wish::none) {
         return;
     }

@@ -24,9 +24,10 @@ public:
 
     ///@{
     /// Where the line has got to, for completion: the option whose value comes next, or null; whether
-    /// names are over; the words that are positional arguments.
+    /// names are over, or words name verbs alone; the words that are positional arguments.
     const Option* awaiting() const { return m_awaiting; }
     bool isBehindMarker() const { return m_isBehindMarker || m_isInRest; }
+    bool isBehindHelp() const { return m_isHelpVerb; }
     const std::vector<std::size_t>& words() const { return m_words; }
     ///@}
 
@@ -55,6 +56,7 @@ private:
     void add(const Option& option, std::size_t place, const char* text);
     void noteAbbreviation(const std::string& typed, const std::string& whole);
     void enterVerb(std::size_t place);
+    void refuseVerb(std::string complaint, std::string advice);
     std::vector<std::string> verbNamesFor(const std::string& word) const;
     void enter(Command& command);
     LevelParser& level();
@@ -90,6 +92,8 @@ private:
     bool m_isInRest = false;
     /// Behind "help", words name verbs alone.
     bool m_isHelpVerb = false;
+    /// Whether that help is shown: all of them do name verbs, and nothing else was asked for in front.
+    bool m_isHelpWished = false;
     /// Behind a verb that nobody knows.
     bool m_isLost = false;
     const Abbreviations m_abbreviations;

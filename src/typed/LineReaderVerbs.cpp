@@ -40,15 +40,20 @@ void LineReader::enterVerb(std::size_t place) {
         noteAbbreviation(word, names.front());
         enter(*verb);
     } else if (verb != nullptr) {
-        m_isLost = true;
-        m_line.complain(messages::ambiguousVerb(terminalText(word), quotedNames(names)));
-    } else if (!m_isHelpVerb && m_line.chosen == &m_program && wishOf(word, m_program) == Wish::help) {
+        refuseVerb(messages::ambiguousVerb(terminalText(word), quotedNames(names)), "");
+    } else if (m_line.chosen == &m_program && wishOf(word, m_program) == Wish::help) {
+        m_isHelpWished = m_isHelpWished || m_line.wish == Wish::none;
         m_isHelpVerb = true;
-        m_line.wish = m_line.wish == Wish::none ? Wish::help : m_line.wish;
     } else {
-        m_isLost = true;
-        m_line.complain(messages::unknownVerb(terminalText(word)), suggestVerb(*m_line.chosen, word));
+        refuseVerb(messages::unknownVerb(terminalText(word)), suggestVerb(*m_line.chosen, word));
     }
+}
+
+// There is no help of it either. Behind another complaint the word may be a value, and help goes before.
+void LineReader::refuseVerb(std::string complaint, std::string advice) {
+    m_isLost = true;
+    m_isHelpWished = m_isHelpWished && m_line.hasComplaint;
+    m_line.complain(std::move(complaint), std::move(advice));
 }
 
 std::vector<std::string> LineReader::verbNamesFor(const std::string& word) const {

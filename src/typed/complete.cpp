@@ -69,6 +69,7 @@ void ProgramCompleter::readLine() {
     reader.readUpToLast();
     m_wordCount = reader.words().size();
     m_isOfLetters = reader.isLastOfLetters();
+    m_isOfHelp = reader.isBehindHelp();
     declareLevel();
     if (m_isOfLetters) {
         readLetters(reader);
@@ -123,7 +124,10 @@ void ProgramCompleter::declare(Option& option) {
 
 // The word at the cursor goes to one of the positional arguments, or is a verb.
 void ProgramCompleter::declarePositional() {
-    const std::vector<Option*> positionals = positionalsOf(*m_line.chosen);
+    std::vector<Option*> positionals;
+    if (!m_isOfHelp) {
+        positionals = positionalsOf(*m_line.chosen);
+    }
     Option* filled = nullptr;
     std::size_t end = 0;
     const std::vector<std::size_t> each = shares(positionals, m_wordCount + 1);

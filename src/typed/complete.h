@@ -60,6 +60,8 @@ private:
     std::vector<std::string> m_words;
     std::size_t m_wordCount = 0;
     bool m_isOfLetters = false;
+    /// Whether help is asked for, and words are names of verbs.
+    bool m_isOfHelp = false;
     ///@{
     /// Of joined letters at the cursor what stands in front of the value of the last one, as it is typed and
     /// as the last one is written out. Empty where a letter is unknown.

@@ -109,14 +109,66 @@ TEST(TypedLastResort, HelpIsThatOfTheVerb) {
                         {"remote add -h", "help of p remote add"},
                         {"help remote add", "help of p remote add"},
                         {"bogus --help", "help of p"},
-                        {"help bogus", "help of p"},
-                        {"help help log", "help of p"},
+                        {"help help", "help of p"},
+                        {"help help log", "help of p log"},
+                        {"help log --bogus", "help of p log"},
+                        {"help log --bogus x", "help of p log"},
+                        {"--bogus help x", "help of p"},
+                        {"help log --count=x --bogus=", "help of p log"},
+                        {"help --count log", "help of p log"},
+                        {"help -- log", "help of p log"},
+                        {"help --version log", "help of p log"},
+                        {"help log --help", "help of p log"},
+                        {"help bogus --help", "help of p"},
+                        {"help --help bogus", "help of p"},
+                        {"--help help bogus", "help of p"},
+                        {"--help bogus", "help of p"},
+                        {"--help log bogus", "help of p log"},
+                        {"log bogus --help", "help of p log"},
+                        {"help bogus --version", "version"},
+                        {"--version help bogus", "version"},
                         {"log --version", "version"},
                         {"--version help", "version"}};
     for (const Row& row : rows) {
         SCOPED_TRACE(row.line);
         EXPECT_EQ(answer(program, row.line), row.answer);
     }
+}
+
+TEST(TypedLastResort, HelpOfWhatIsNoVerbIsRefused) {
+    tarv::Program program("p", "1.0", "");
+    tarv::Command& list = program.verb("list", "").does([] {});
+    list.positional<std::string>("file", "");
+    program.verb("listen", "").does([] {});
+    tarv::Command& remote = program.verb("remote", "");
+    remote.verb("add", "").does([] {});
+    const Row rows[] = {
+        {"help bogus", "2 p: unknown verb 'bogus'\nTry 'p --help'.\n"},
+        {"hel bogus", "2 p: unknown verb 'bogus'\nTry 'p --help'.\n"},
+        {"help help bogus", "2 p: unknown verb 'bogus'\nTry 'p --help'.\n"},
+        {"help bogus list", "2 p: unknown verb 'bogus'\nTry 'p --help'.\n"},
+        {"help bogus --nonsense", "2 p: unknown verb 'bogus'\nTry 'p --help'.\n"},
+        {"help -- --help", "2 p: unknown verb '--help'\nTry 'p --help'.\n"},
+        {"help lsit", "2 p: unknown verb 'lsit'\nDid you mean 'list' or 'listen'?\nTry 'p --help'.\n"},
+        {"help lis", "2 p: ambiguous verb 'lis', could be 'list' or 'listen'\nTry 'p --help'.\n"},
+        {"help remote bogus", "2 p: unknown verb 'bogus'\nTry 'p remote --help'.\n"},
+        {"help remote ad", "help of p remote add"},
+        {"help remote adn", "2 p: unknown verb 'adn'\nDid you mean 'add'?\nTry 'p remote --help'.\n"},
+        {"help remote help", "2 p: unknown verb 'help'\nTry 'p remote --help'.\n"},
+        {"help remote add x", "2 p: unknown verb 'x'\nTry 'p remote add --help'.\n"},
+        {"help list file", "2 p: unknown verb 'file'\nTry 'p list --help'.\n"},
+    };
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.line);
+        EXPECT_EQ(answer(program, row.line), row.answer);
+    }
+}
+
+TEST(TypedLastResort, AProgramWithoutVerbsHasNoVerbHelp) {
+    tarv::Program program("p");
+    const auto file = program.positional<std::string>("file", "");
+    EXPECT_EQ(answer(program, "help"), "ok");
+    EXPECT_EQ(*file, "help");
 }
 
 TEST(TypedLastResort, AVerbOfTheHostIsStrongerThanHelp) {

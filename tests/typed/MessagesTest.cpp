@@ -126,6 +126,9 @@ TEST(TypedMessages, OfVerbs) {
          {{"lo"}, "2 p: ambiguous verb 'lo', could be 'log' or 'lock'\nTry 'p --help'.\n"},
          {{"lo", "log"}, "2 p: ambiguous verb 'lo', could be 'log' or 'lock'\nTry 'p --help'.\n"},
          {{"zzz", "log"}, "2 p: unknown verb 'zzz'\nTry 'p --help'.\n"},
+         {{"help", "remoet"}, "2 p: unknown verb 'remoet'\nDid you mean 'remote'?\nTry 'p --help'.\n"},
+         {{"help", "z\033"}, "2 p: unknown verb 'z\\x1b'\nTry 'p --help'.\n"},
+         {{"help", ""}, "2 p: unknown verb ''\nTry 'p --help'.\n"},
          {{"--max-=3", "log"},
           "2 p: ambiguous option '--max-', could be '--max-count' or '--max-depth'\nTry 'p log --help'.\n"},
          {{"log", "x"}, "2 p: unexpected argument 'x'\nTry 'p log --help'.\n"}});

@@ -41,6 +41,26 @@ TEST(TypedRequests, AShellIsAnsweredWithVerbsAndTheirDescriptions) {
               "0 tarv-complete 1 none\n\n\n\nlog\tShow the history.\nlist\tList it.\n");
 }
 
+TEST(TypedRequests, BehindHelpVerbsAloneAreOffered) {
+    tarv::Program program("vcs");
+    tarv::Command& log = program.verb("log", "Show the history.");
+    log.positional<std::string>("file", "").oneOf("a", "b");
+    log.flag("graph", "Draw.");
+    program.verb("remote", "Others.").verb("add", "One more.");
+    const struct {
+        std::vector<std::string> words;
+        const char* answer;
+    } rows[] = {{{"vcs", "help", "l"}, "0 tarv-complete 1 none\n\n\nlog\nlog\tShow the history.\n"},
+                {{"vcs", "help", "remote", "a"}, "0 tarv-complete 1 none\n\n\nadd\nadd\tOne more.\n"},
+                {{"vcs", "help", "log", "a"}, "0 tarv-complete 1 none\n\n\n\n"},
+                {{"vcs", "help", "log", "--g"}, "0 tarv-complete 1 none\n\n\n--graph\n--graph\tDraw.\n"},
+                {{"vcs", "log", ""}, "0 tarv-complete 1 none\n\n\n\na\t\nb\t\n"}};
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.words.back() + " behind " + row.words[1]);
+        EXPECT_EQ(ask(program, "tarvoption=complete=zsh", row.words), row.answer);
+    }
+}
+
 TEST(TypedRequests, TheLastCompleterCounts) {
     tarv::Program program("p");
     const auto word = program.option<std::string>("word", "");
