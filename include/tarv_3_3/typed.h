@@ -303,7 +303,8 @@ public:
     }
 
     /// What `Program::run` does when the command line names this command: returns the exit code, or
-    /// nothing for 0. The body is kept: capture handles by value.
+    /// nothing for 0. The body is kept: capture handles by value. Where one command has a body, every verb
+    /// without verbs of its own has one.
     template <class F>
     Command& does(F body) {
         using Returned = decltype(values::given<F&>()());

@@ -106,7 +106,7 @@ private:
 /// Looks at a program, verb by verb.
 class ProblemFinder {
 public:
-    explicit ProblemFinder(bool areNamesFree) : m_areNamesFree(areNamesFree) {}
+    ProblemFinder(bool areNamesFree, bool hasBodies) : m_areNamesFree(areNamesFree), m_hasBodies(hasBodies) {}
 
     void look(const Command& command, const TakenNames* above) {
         m_where = command.path();
@@ -259,10 +259,22 @@ private:
         if (!command.verbs.empty() && command.hasActions()) {
             add(command.name(), "a program has verbs or actions, not both");
         }
+        lookForBodies(command);
+    }
+
+    // A host that never gives a body only parses, and reads handles.
+    void lookForBodies(const Command& command) {
+        for (const std::unique_ptr<Command>& verb : command.verbs) {
+            if (m_hasBodies && verb->verbs.empty() && verb->body == nullptr) {
+                add(verb->name(), "the verb has no body, although another command has one");
+            }
+        }
     }
 
     /// Whether no name of an option is taken; then they need not be looked at one by one.
     const bool m_areNamesFree;
+    /// Whether a command of the program has one.
+    const bool m_hasBodies;
     std::string m_where;
     std::vector<std::string> m_problems;
 };
@@ -272,12 +284,17 @@ bool areNamesFree(const Command& command) {
                                                   [](const auto& verb) { return areNamesFree(*verb); });
 }
 
+bool hasBodies(const Command& command) {
+    return command.body != nullptr || std::any_of(command.verbs.begin(), command.verbs.end(),
+                                                  [](const auto& verb) { return hasBodies(*verb); });
+}
+
 // NOLINTEND(misc-no-recursion)
 
 } // namespace
 
 std::vector<std::string> findProblems(const Command& program) {
-    ProblemFinder finder(areNamesFree(program));
+    ProblemFinder finder(areNamesFree(program), hasBodies(program));
     finder.look(program, nullptr);
     return finder.take();
 }

@@ -148,7 +148,7 @@ Options:
 TEST(TypedHelp, OfVerbsListsTheirOwnOptionsFirst) {
     tarv::Program program("vcs", "1.0", "Tracks versions.");
     program.option<std::string>("host,h", "Where.");
-    tarv::Command& log = program.verb("log", "Show the history.");
+    tarv::Command& log = program.verb("log", "Show the history.").does([] {});
     log.flag("graph", "Draw.");
     tarv::Command& remote = program.verb("remote,rem", "Others.");
     remote.verb("add", "One more.").does([] {});
@@ -289,11 +289,11 @@ Options:
 
 TEST(TypedHelp, NamesOfTheHostAreItsOwn) {
     tarv::Program program("p", "1.0", "");
-    program.verb("list", "Lists.");
+    program.verb("list", "Lists.").does([] {});
     program.does([] {});
     program.flag("help", "Helps.");
     program.flag("h", "Half.");
-    program.verb("show", "Shows.").positional<std::string>("file~", "Not shown.").hidden();
+    program.verb("show", "Shows.").does([] {}).positional<std::string>("file~", "Not shown.").hidden();
     program.option<int>("version", "Which one.");
     EXPECT_EQ(helpAt(program, "80", {"help"}), R"(
 0 Usage: p [OPTION]... [VERB [ARGUMENT]...]

@@ -94,7 +94,7 @@ TEST(TypedLastResort, JoinedLettersKnowHelp) {
 
 TEST(TypedLastResort, HelpIsThatOfTheVerb) {
     tarv::Program program("p", "1.0", "");
-    tarv::Command& log = program.verb("log", "");
+    tarv::Command& log = program.verb("log", "").does([] {});
     log.option<int>("count", "").required();
     tarv::Command& remote = program.verb("remote", "");
     remote.verb("add", "").does([] {});

@@ -242,6 +242,58 @@ TEST(TypedProblems, ANameIsTakenByTheVerbAbove) {
                  "p log add: 'level': the name is taken by an option of the command above\n");
 }
 
+TEST(TypedProblems, AVerbHasABodyWhereAnotherCommandHasOne) {
+    const auto isWithout = [](const char* where, const char* verb) {
+        return std::string(where) + ": '" + verb +
+               "': the verb has no body, although another command has one\n";
+    };
+    const auto declare = [](tarv::Program& p) {
+        p.flag("verbose", "");
+        p.verb("log,l", "");
+        tarv::Command& remote = p.verb("remote", "");
+        remote.verb("add", "");
+        remote.verb("remove", "");
+    };
+    EXPECT_EQ(problemsOf(declare), "");
+    EXPECT_EQ(problemsOf([&](tarv::Program& p) {
+                  declare(p);
+                  p.does([] {});
+              }),
+              isWithout("p", "log") + isWithout("p remote", "add") + isWithout("p remote", "remove"));
+    EXPECT_EQ(problemsOf([&](tarv::Program& p) {
+                  declare(p);
+                  p.verb("init", "").does([] {});
+              }),
+              isWithout("p", "log") + isWithout("p remote", "add") + isWithout("p remote", "remove"));
+    EXPECT_EQ(problemsOf([](tarv::Program& p) {
+                  p.verb("log", "").does([] {});
+                  p.verb("remote", "").verb("add", "").does([] {});
+              }),
+              "");
+    EXPECT_EQ(problemsOf([](tarv::Program& p) {
+                  p.verb("log", "");
+                  p.verb("remote", "").verb("deep", "").verb("add", "").does([] {});
+              }),
+              isWithout("p", "log"));
+    EXPECT_EQ(problemsOf([](tarv::Program& p) {
+                  tarv::Command& remote = p.verb("remote", "").does([] {});
+                  remote.verb("add", "");
+              }),
+              isWithout("p remote", "add"));
+    EXPECT_EQ(problemsOf([](tarv::Program& p) { p.does([] {}); }), "");
+    EXPECT_EQ(problemsOf([](tarv::Program& p) { p.action("list", ""); }), "");
+}
+
+TEST(TypedProblems, ABodyGivenToRunCountsAsOne) {
+    const CapturedAssertions assertions;
+    tarv::Program program("p");
+    program.verb("log", "");
+    EXPECT_STREQ(program.problems(), "");
+    const char* const argv[] = {"p"};
+    EXPECT_EQ(program.run(1, argv, [] { return 7; }), 7);
+    EXPECT_EQ(assertions.expressions(), "p: 'log': the verb has no body, although another command has one");
+}
+
 TEST(TypedProblems, OfTwoOptionsOfOneNameTheFirstIsTaken) {
     const CapturedAssertions assertions;
     tarv::Program program("p");

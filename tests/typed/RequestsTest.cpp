@@ -254,7 +254,7 @@ TEST(TypedRequests, TheDescriptionHoldsAllThatDecides) {
 TEST(TypedRequests, TheDescriptionSaysWhichCommandsDoWithoutAVerb) {
     tarv::Program program("vcs", "", "");
     program.does([] {});
-    program.verb("remote", "").verb("add", "");
+    program.verb("remote", "").verb("add", "").does([] {});
     EXPECT_EQ(parseLine(program, {"tarvoption=describe"}),
               R"(0 {"format": "tarv-description", "version": "1.1",
 "program": {"name": "vcs"},
