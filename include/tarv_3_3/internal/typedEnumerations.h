@@ -107,6 +107,15 @@ constexpr Spelled scan(const char* text) {
 }
 
 template <class E>
+constexpr int namedBelowZero() {
+    if constexpr (isSigned<__underlying_type(E)>) {
+        return scan(spelling<E, -128>(FirstValues<128>())).named;
+    } else {
+        return 0;
+    }
+}
+
+template <class E>
 constexpr const char* spellingOf() {
     if constexpr (isNamed<E>) {
         return nullptr;
@@ -115,8 +124,7 @@ constexpr const char* spellingOf() {
                                 "tarv_3_3::typed::Names for it");
     } else {
         constexpr Spelled found = scan(spelling<E, 0>(FirstValues<128>()));
-        constexpr int below =
-            isSigned<__underlying_type(E)> ? scan(spelling<E, -128>(FirstValues<128>())).named : 0;
+        constexpr int below = namedBelowZero<E>();
         static_assert(found.named > 0 && found.lastNamed + 1 == found.named && below == 0,
                       "tarv: the values of this enumeration do not count up from 0; specialize "
                       "tarv_3_3::typed::Names for it");
