@@ -95,8 +95,9 @@ struct Option {
     /// Of the parse at hand: the index in `argv` of each occurrence, and the value of the last one.
     std::vector<int> positions;
     const char* lastText = "";
-    /// Whether an element was stored, of a list the first one.
-    bool isBegun = false;
+    /// How many elements were stored, and how many a list takes in all.
+    unsigned long storedCount = 0;
+    unsigned long elementCount = 0;
     ///@}
 };
 

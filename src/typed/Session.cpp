@@ -28,6 +28,32 @@ void countCounters(CommandLine& line) {
     }
 }
 
+// What cuts the value of a list; '\0' for nothing.
+char separatorOf(const Occurrence& occurrence) {
+    return occurrence.option->isPositional() ? '\0' : occurrence.option->separator;
+}
+
+unsigned long countPieces(const Occurrence& occurrence) {
+    const char separator = separatorOf(occurrence);
+    if (separator == '\0' || *occurrence.text == '\0') {
+        return 1;
+    }
+    unsigned long count = 0;
+    char before = separator;
+    for (const char* byte = occurrence.text; *byte != '\0'; before = *byte++) {
+        count += *byte != separator && before == separator ? 1 : 0;
+    }
+    return count;
+}
+
+void countElements(const CommandLine& line) {
+    for (const Occurrence& occurrence : line.occurrences) {
+        if (occurrence.option->isMany() && !occurrence.isOnlyChecked) {
+            occurrence.option->elementCount += countPieces(occurrence);
+        }
+    }
+}
+
 void warnOfDeprecated(CommandLine& line) {
     std::unordered_set<const Option*> told;
     for (const Occurrence& occurrence : line.occurrences) {
@@ -71,11 +97,12 @@ void Session::read() {
     countCounters(m_line);
     noteGiven(m_program, m_line);
     dropExcluded(m_line);
+    countElements(m_line);
 }
 
 bool Session::next(bool accepted, Step& step) {
     judge(accepted);
-    if (nextRestore(step) || nextTake(step)) {
+    if (nextRestore(step) || nextTake(step) || nextUndo(step)) {
         return true;
     }
     finish();
@@ -105,6 +132,19 @@ bool Session::nextTake(Step& step) {
     return false;
 }
 
+// A refused command line leaves no list with only some of its elements.
+bool Session::nextUndo(Step& step) {
+    while (m_line.hasComplaint && m_undone < m_all.size()) {
+        const Option& option = *m_all[m_undone++];
+        if (option.storedCount < option.elementCount) {
+            step.kind = stepRestore;
+            step.state = option.state;
+            return true;
+        }
+    }
+    return false;
+}
+
 void Session::startTake(Step& step) {
     const Occurrence& occurrence = m_line.occurrences[m_taken];
     Option& option = *occurrence.option;
@@ -117,8 +157,8 @@ void Session::startTake(Step& step) {
     step.state = option.state;
     step.taking = &m_taking;
     step.text = nextPiece();
-    step.mode = occurrence.isOnlyChecked ? takeCheck : option.isBegun ? takeNext : takeFirst;
-    option.isBegun = option.isBegun || step.mode == takeFirst;
+    step.mode = occurrence.isOnlyChecked ? takeCheck : option.storedCount > 0 ? takeNext : takeFirst;
+    m_taking.place = option.storedCount;
 }
 
 // Whether the host's code is needed all the same, to check the value.
@@ -137,7 +177,7 @@ bool Session::takePlain(Step& step) {
 bool Session::findTake() {
     while (m_taken < m_line.occurrences.size()) {
         const Occurrence& occurrence = m_line.occurrences[m_taken];
-        const char separator = occurrence.option->isPositional() ? '\0' : occurrence.option->separator;
+        const char separator = separatorOf(occurrence);
         if (!m_isWithin) {
             m_rest = occurrence.text;
             m_isWithin = true;
@@ -159,7 +199,7 @@ bool Session::findTake() {
 
 const char* Session::nextPiece() {
     const Occurrence& occurrence = m_line.occurrences[m_taken];
-    const char separator = occurrence.option->isPositional() ? '\0' : occurrence.option->separator;
+    const char separator = separatorOf(occurrence);
     if (separator == '\0') {
         m_rest = {};
         m_piece = occurrence.text;
@@ -184,8 +224,11 @@ void Session::judge(bool accepted) {
         const bool isWhole = m_piece == occurrence.text;
         m_line.complain(shownOccurrence(m_line, occurrence) + ": " +
                         (isWhole ? reason : messages::ofPiece(terminalText(m_piece), reason)));
-    } else if (m_taking.option->isPlain() && !occurrence.isOnlyChecked) {
-        storePlain(*m_taking.option, m_value);
+    } else if (!occurrence.isOnlyChecked) {
+        ++m_taking.option->storedCount;
+        if (m_taking.option->isPlain()) {
+            storePlain(*m_taking.option, m_value);
+        }
     }
 }
 

@@ -26,6 +26,7 @@ public:
 private:
     bool nextRestore(Step& step);
     bool nextTake(Step& step);
+    bool nextUndo(Step& step);
     void startTake(Step& step);
     bool takePlain(Step& step);
     bool findTake();
@@ -42,7 +43,9 @@ private:
     /// What is restored first, and how far that has got.
     std::vector<Option*> m_all;
     std::size_t m_restored = 0;
-    /// Then occurrences are taken, of a list piece by piece.
+    /// The same at the end, of lists that did not get all of their elements.
+    std::size_t m_undone = 0;
+    /// Between them occurrences are taken, of a list piece by piece.
     std::size_t m_taken = 0;
     std::string_view m_rest;
     std::string m_piece;

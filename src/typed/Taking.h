@@ -12,6 +12,8 @@ namespace tarv_3_3::typed::engine {
 /// One text that is being made a value, and what is said of it.
 struct Taking {
     Option* option = nullptr;
+    /// The place of the element in its list.
+    unsigned long place = 0;
     /// Whether a value may be cut short, which it may on the command line alone.
     bool mayBeCut = false;
     /// Where texts are kept that outlive the parse.

@@ -21,7 +21,8 @@ void forget(Option& option) {
     option.state->positions = nullptr;
     option.positions.clear();
     option.lastText = "";
-    option.isBegun = false;
+    option.storedCount = 0;
+    option.elementCount = 0;
 }
 
 void note(const Occurrence& occurrence) {

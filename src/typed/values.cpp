@@ -211,6 +211,11 @@ const char* readText(Taking* taking, const char* text, bool keep) noexcept {
     return read;
 }
 
+unsigned long placeOfElement(const Taking* taking, unsigned long* count) noexcept {
+    *count = taking->option->elementCount;
+    return taking->place;
+}
+
 bool refuse(Taking* taking, const char* must) noexcept {
     return guardedTaking(taking,
                          [&] { return refuseWith(*taking, must != nullptr ? messages::mustBe(must) : ""); });

@@ -1,4 +1,5 @@
 #include <chrono>
+#include <deque>
 #include <filesystem>
 #include <limits>
 #include <list>
@@ -24,6 +25,13 @@ enum class Sparse { one = 1, minus = -7 };
 struct Point {
     int x;
     int y;
+};
+
+/// Made of a text once and for all.
+struct Constant {
+    Constant(const char* itsText = "") : text(itsText) {}
+
+    const std::string text;
 };
 
 /// Counts the pieces of memory that were taken and not given back.
@@ -289,6 +297,8 @@ TEST(TypedValues, ContainersTakeEachPiece) {
     expectValue<std::vector<int>>("3,1,2", {3, 1, 2});
     expectValue<std::vector<int>>(",3,,1,", {3, 1});
     expectValue<std::set<std::string>>("b,a,b", {"a", "b"});
+    expectValue<std::deque<std::string>>("b,a,b", {"b", "a", "b"});
+    expectValue<std::vector<std::filesystem::path>>("b,a/c", {"b", "a/c"});
     expectValue<std::list<Paper>>("a4,us", {Paper::a4, Paper::us_letter});
     expectValue<std::vector<bool>>("yes,0", {true, false});
     expectRefusal<std::vector<int>>("x", "must be a whole number");
@@ -336,6 +346,54 @@ TEST(TypedValues, WhatIsGivenReplacesTheInitialList) {
     EXPECT_EQ(*list, (std::vector<int>{3, 4}));
     EXPECT_EQ(parseLine(program, {}), "ok");
     EXPECT_EQ(*list, (std::vector<int>{1, 2}));
+}
+
+TEST(TypedValues, AListTakesTheElementsOfAllItsOccurrences) {
+    tarv::Program program("p");
+    const auto numbers = program.option<std::vector<int>>("number,n", "");
+    const auto texts = program.option<std::vector<std::string>>("text,t", "").separator('\0').mayBeEmpty();
+    const auto letters = program.option<std::list<char>>("letter,l", "");
+    const auto files = program.positional<std::vector<std::string>>("file", "");
+    EXPECT_EQ(parseLine(program, {"-n=1,,2", "a,b", "-t=x,y", "-l=c,d", "--text=", "-n=,3", "c", "-l=e"}),
+              "ok");
+    EXPECT_EQ(*numbers, (std::vector<int>{1, 2, 3}));
+    EXPECT_EQ(*texts, (std::vector<std::string>{"x,y", ""}));
+    EXPECT_EQ(*letters, (std::list<char>{'c', 'd', 'e'}));
+    EXPECT_EQ(*files, (std::vector<std::string>{"a,b", "c"}));
+}
+
+TEST(TypedValues, AListTakesElementsThatCannotBeAssigned) {
+    tarv::Program program("p");
+    const auto list = program.option<std::vector<Constant>>("x", "");
+    EXPECT_EQ(parseLine(program, {"--x=b,a", "--x=c"}), "ok");
+    ASSERT_EQ(list->size(), 3U);
+    EXPECT_EQ((*list)[0].text + (*list)[1].text + (*list)[2].text, "bac");
+}
+
+TEST(TypedValues, ARefusedLineLeavesNoListWithSomeOfItsElements) {
+    std::vector<int> numbers = {7};
+    tarv::Program program("p");
+    program.bind("number,n", numbers, "");
+    const auto letters = program.option("letter,l", "", std::list<char>{'z'});
+    const auto whole = program.option<std::vector<std::string>>("whole,w", "");
+    EXPECT_EQ(parseLine(program, {"-n=1", "-l=c", "-w=a,b", "-n=2,x", "-l=d"}),
+              "2 p: -n=2,x: 'x' must be a whole number\nTry 'p --help'.\n");
+    EXPECT_EQ(numbers, (std::vector<int>{7}));
+    EXPECT_EQ(*letters, (std::list<char>{'z'}));
+    EXPECT_EQ(*whole, (std::vector<std::string>{"a", "b"}));
+}
+
+TEST(TypedValues, ABoundListThatAFunctionOfTheHostEmptiesStaysEmpty) {
+    std::vector<int> numbers;
+    tarv::Program program("p");
+    program.bind("number", numbers, "").check("small", [&](int number) {
+        if (number == 2) {
+            std::vector<int>().swap(numbers);
+        }
+        return true;
+    });
+    EXPECT_EQ(parseLine(program, {"--number=1,2,3"}), "ok");
+    EXPECT_TRUE(numbers.empty());
 }
 
 TEST(TypedValues, ABoundVariableIsRestoredByEveryParse) {

@@ -196,6 +196,8 @@ TARV_API bool readChoice(Taking* taking, const char* text, int* place) noexcept;
 /// `keep` asks for a copy that lives as long as the program.
 TARV_API const char* readText(Taking* taking, const char* text, bool keep) noexcept;
 ///@}
+/// The place of an element in its list, from 0 on, and how many the list takes in all.
+TARV_API unsigned long placeOfElement(const Taking* taking, unsigned long* count) noexcept;
 /// Notes that the value is refused, because it must be `must`; null when there is no more to say. False.
 TARV_API bool refuse(Taking* taking, const char* must) noexcept;
 TARV_API void offer(Taking* taking, const char* value, const char* description) noexcept;

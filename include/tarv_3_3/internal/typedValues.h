@@ -19,6 +19,40 @@ struct Completer : engine::Owned {
     void (*call)(const Completer*, engine::Taking*, const char* word);
 };
 
+/// Gives `target` what `value` holds. Exchanging them compiles in a fraction of the time of an assignment.
+template <class T>
+void moveInto(T& target, T& value) {
+    if constexpr (isExchangeable<T>) {
+        target.swap(value);
+    } else {
+        target = static_cast<T&&>(value);
+    }
+}
+
+/// Gives `list` so many new elements in place of its own.
+template <class T>
+[[gnu::cold, gnu::noinline]] void remake(T& list, unsigned long count) {
+    T made(count);
+    list.swap(made);
+}
+
+template <class T>
+[[gnu::cold, gnu::noinline]] void copyInto(T& target, const T& value) {
+    if constexpr (isSized<T>) {
+        remake(target, value.size());
+        auto* to = target.data();
+        const auto* const end = value.data() + value.size();
+        for (const auto* from = value.data(); from != end; ++from) {
+            *to++ = *from;
+        }
+    } else if constexpr (isList<T>) {
+        T copy = value;
+        moveInto(target, copy);
+    } else {
+        target = value;
+    }
+}
+
 /// What a handle points to, unless the library makes the value.
 template <class T>
 struct Slot : engine::State {
@@ -34,8 +68,9 @@ struct Slot : engine::State {
 template <class T>
 struct BoundSlot : engine::State {
     BoundSlot(const engine::Shape& itsShape, T& variable)
-        : engine::State{&itsShape, nullptr, nullptr, nullptr, 0, 0, 0, nullptr, &variable},
-          initial(variable) {}
+        : engine::State{&itsShape, nullptr, nullptr, nullptr, 0, 0, 0, nullptr, &variable}, initial() {
+        copyInto(initial, variable);
+    }
     BoundSlot(const BoundSlot&) = delete;
     BoundSlot& operator=(const BoundSlot&) = delete;
 
@@ -116,40 +151,44 @@ template <class E>
     return true;
 }
 
-/// Gives `target` what `value` holds. Exchanging them compiles in a fraction of the time of an assignment.
-template <class T>
-void moveInto(T& target, T& value) {
-    if constexpr (isExchangeable<T>) {
-        target.swap(value);
-    } else {
-        target = static_cast<T&&>(value);
-    }
-}
-
-template <class T>
-[[gnu::cold]] void addElement(T& list, typename T::value_type& element) {
-    if constexpr (hasPushBack<T>) {
-        list.push_back(static_cast<typename T::value_type&&>(element));
-    } else {
-        list.insert(static_cast<typename T::value_type&&>(element));
-    }
-}
-
 template <class T>
 [[gnu::cold]] void restoreEmpty(engine::State* state) {
-    T empty = T();
-    moveInto(*static_cast<T*>(state->target), empty);
+    T& target = *static_cast<T*>(state->target);
+    if constexpr (isSized<T>) {
+        remake(target, 0);
+    } else {
+        T empty = T();
+        moveInto(target, empty);
+    }
 }
 
 template <class T>
 [[gnu::cold]] void restoreInitial(engine::State* state) {
-    T& target = *static_cast<T*>(state->target);
-    const T& initial = static_cast<BoundSlot<T>*>(state)->initial;
-    if constexpr (isList<T>) {
-        T copy = initial;
-        moveInto(target, copy);
+    copyInto(*static_cast<T*>(state->target), static_cast<BoundSlot<T>*>(state)->initial);
+}
+
+template <class T>
+[[gnu::cold]] void storeElement(engine::State* state, const engine::Taking* taking,
+                                typename T::value_type& element, int mode) {
+    T& list = *static_cast<T*>(state->target);
+    if constexpr (isSized<T>) {
+        unsigned long count = 0;
+        const unsigned long place = engine::placeOfElement(taking, &count);
+        if (mode == engine::takeFirst) {
+            remake(list, count);
+        }
+        if (place < list.size()) { // A variable of the host's may have changed since.
+            moveInto(list.data()[place], element);
+        }
     } else {
-        target = initial;
+        if (mode == engine::takeFirst) {
+            restoreEmpty<T>(state);
+        }
+        if constexpr (hasPushBack<T>) {
+            list.push_back(static_cast<typename T::value_type&&>(element));
+        } else {
+            list.insert(static_cast<typename T::value_type&&>(element));
+        }
     }
 }
 
@@ -164,16 +203,12 @@ bool takeElement(engine::State* state, engine::Taking* taking, typename ElementO
     if (mode == engine::takeCheck) {
         return true;
     }
-    T& target = *static_cast<T*>(state->target);
     if constexpr (isList<T>) {
-        if (mode == engine::takeFirst) {
-            restoreEmpty<T>(state);
-        }
-        addElement(target, element);
+        storeElement<T>(state, taking, element, mode);
     } else if constexpr (isSame<T, Element>) {
-        moveInto(target, element);
+        moveInto(*static_cast<T*>(state->target), element);
     } else {
-        target = static_cast<Element&&>(element);
+        *static_cast<T*>(state->target) = static_cast<Element&&>(element);
     }
     return true;
 }
