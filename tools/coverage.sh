@@ -9,9 +9,9 @@ tools/apt-install.sh coverage
 # Counts of earlier runs add up, and would hide what the tests have stopped to reach.
 find build/coverage -name '*.gcda' -delete 2>/dev/null || true
 ./test.sh coverage "$@"
-gcovr --root . --filter src/ --filter include/ --exclude-throw-branches --exclude-unreachable-branches \
+gcovr -j "$(nproc)" --root . --filter src/ --filter include/ --exclude-throw-branches --exclude-unreachable-branches \
     --print-summary --json build/coverage/report.json build/coverage
 tools/coverage-report.py build/coverage/report.json tests/coverage-exceptions.txt --page docs/reliability.md
-gcovr --root . --filter program/ --exclude-throw-branches --exclude-unreachable-branches \
+gcovr -j "$(nproc)" --root . --filter program/ --exclude-throw-branches --exclude-unreachable-branches \
     --fail-under-line 97 --fail-under-branch 83 --print-summary --output build/coverage/program.txt \
     build/coverage/program
