@@ -19,7 +19,7 @@ int main(int argc, char** argv) {
     return tool.run(argc, argv, [=] {
         std::printf("%s to '%s' at level %d\n", *dryRun ? "would write" : "writing", target->c_str(), *level);
         for (const std::string& folder : *folders) {
-            std::printf("  %s.%s\n", folder.c_str(), *format == Format::zip ? "zip" : "tar");
+            std::printf("  %s.%s\n", folder.c_str(), format.nameOf(*format));
         }
         if (exclude.given()) {
             std::printf("without %zu endings\n", exclude->size());

@@ -100,6 +100,14 @@ public:
     }
     ///@}
 
+    /// What a value of the enumeration is called on the command line, where it may be another value than the
+    /// option's; "" for one without a name. The text lives as long as the program.
+    const char* nameOf(const Element& value) const {
+        static_assert(__is_enum(Element) && !values::isForeign<Element>,
+                      "tarv: nameOf() is for enumerations");
+        return engine::choiceName(option(), values::placeOf(value));
+    }
+
     /// It must be given, and cannot have a default.
     Handle required() const { return refine(engine::refineRequired); }
 

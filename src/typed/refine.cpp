@@ -174,6 +174,11 @@ void addAction(Option* option, Option* action) noexcept {
     guarded(option, [&] { option->actions.push_back(action); });
 }
 
+const char* choiceName(const Option* option, int place) noexcept {
+    const auto at = static_cast<std::size_t>(place);
+    return option != nullptr && at < option->choices.size() ? option->choices[at].c_str() : "";
+}
+
 const char* addCheck(Option* option, const char* must) noexcept {
     const char* kept = nullptr;
     guarded(option, [&] { kept = option->musts.emplace_back(must != nullptr ? must : "").c_str(); });

@@ -1,3 +1,4 @@
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -12,6 +13,7 @@ namespace tarv = tarv_3_3::typed;
 
 enum class Paper { a4, letter };
 enum class Sparse { one = 1, minus = -7 };
+enum class Wide : long long { zero, one };
 
 using Texts = std::vector<std::string>;
 
@@ -84,6 +86,10 @@ TEST(TypedProblems, AreNamedWithTheirOption) {
               "p: 'x': its default has no name\np: 'x': its default  must be one of a4 or letter\n");
     EXPECT_EQ(problemsOf([](tarv::Program& p) { p.option("x", "", static_cast<Sparse>(7)); }),
               "p: 'x': its default has no name\np: 'x': its default  must be one of one or minus-seven\n");
+    EXPECT_EQ(problemsOf([](tarv::Program& p) {
+                  p.option("x", "", std::optional<Wide>(static_cast<Wide>(0x100000001)));
+              }),
+              "p: 'x': its default has no name\np: 'x': its default  must be one of zero or one\n");
     EXPECT_EQ(problemsOf([](tarv::Program& p) { p.option("x", "", Sparse::minus); }), "");
     for (const char* name : {"a=", "a\tb", "a\rb"}) {
         EXPECT_EQ(problemsOf([&](tarv::Program& p) { p.flag(name, ""); }),

@@ -19,6 +19,7 @@ namespace {
 namespace tarv = tarv_3_3::typed;
 
 enum class Paper { a4, us_letter, default_ };
+enum class Huge : unsigned long long { first, second };
 enum Level : short { low, high };
 enum class Sparse { one = 1, minus = -7 };
 
@@ -181,6 +182,44 @@ TEST(TypedValues, EnumeratorsAreNamedByTheCompiler) {
     expectValue<Sparse>("minus-seven", Sparse::minus);
     expectRefusal<Paper>("a5", "must be one of a4, us-letter or default");
     expectRefusal<Sparse>("two", "must be one of one or minus-seven");
+}
+
+TEST(TypedValues, AValueOfAnEnumerationIsCalledWhatIsTyped) {
+    tarv::Program program("p");
+    const auto paper = program.option("paper", "", Paper::a4);
+    EXPECT_STREQ(paper.nameOf(*paper), "a4");
+    EXPECT_EQ(parseLine(program, {"--paper=us"}), "ok");
+    EXPECT_STREQ(paper.nameOf(*paper), "us-letter");
+    EXPECT_STREQ(paper.nameOf(Paper::default_), "default");
+    const auto levels = program.option<std::vector<Level>>("level", "");
+    EXPECT_STREQ(levels.nameOf(high), "high");
+    const auto sparse = program.positional<std::optional<Sparse>>("sparse", "");
+    EXPECT_STREQ(sparse.nameOf(Sparse::one), "one");
+    EXPECT_STREQ(sparse.nameOf(Sparse::minus), "minus-seven");
+    const auto huge = program.option("huge", "", Huge::second);
+    EXPECT_STREQ(huge.nameOf(*huge), "second");
+}
+
+TEST(TypedValues, AValueWithoutANameIsCalledNothing) {
+    tarv::Program program("p");
+    const auto paper = program.option("paper", "", Paper::a4);
+    EXPECT_STREQ(paper.nameOf(static_cast<Paper>(3)), "");
+    EXPECT_STREQ(paper.nameOf(static_cast<Paper>(-1)), "");
+    EXPECT_STREQ(program.option<Sparse>("sparse", "").nameOf(static_cast<Sparse>(0)), "");
+    const auto huge = program.option("huge", "", Huge::first);
+    EXPECT_STREQ(huge.nameOf(static_cast<Huge>(0x100000001ULL)), "");
+    EXPECT_STREQ(huge.nameOf(static_cast<Huge>(0xffffffffffffffffULL)), "");
+    EXPECT_STREQ(tarv::Handle<Paper>().nameOf(Paper::a4), "");
+}
+
+TEST(TypedValues, ANameOutlivesTheMoveOfItsProgram) {
+    tarv::Program first("p");
+    const auto paper = first.option("paper", "", Paper::us_letter);
+    const char* const name = paper.nameOf(*paper);
+    tarv::Program second(static_cast<tarv::Program&&>(first));
+    EXPECT_EQ(parseLine(second, {"--paper=a4"}), "ok");
+    EXPECT_STREQ(name, "us-letter");
+    EXPECT_STREQ(paper.nameOf(*paper), "a4");
 }
 
 TEST(TypedValues, SizesHaveUnitsOfTwoKinds) {

@@ -1,5 +1,6 @@
 // Each number is a mistake that must not compile; check_mistakes.py reads the messages from here.
 #include <chrono>
+#include <cstdio>
 #include <filesystem>
 #include <string>
 #include <vector>
@@ -15,6 +16,11 @@ enum class Gap { one = 1, three = 3 };
 enum class Negative { minus = -1, zero = 0, one = 1 };
 enum class Long { a_name_that_is_much_longer_than_the_sixty_three_bytes_that_are_read_of_it };
 enum Open { open };
+enum class Foreign { one };
+inline bool fromText(const char* text, Foreign& value) {
+    value = Foreign::one;
+    return *text == '1';
+}
 
 int main(int argc, char** argv) {
     tarv::Program program("program");
@@ -62,6 +68,10 @@ int main(int argc, char** argv) {
     const int wrong = *text;
 #elif MISTAKE == 20 // tarv: a value of oneOf() is of another type than the option
     text.oneOf(1, 2);
+#elif MISTAKE == 21 // tarv: nameOf() is for enumerations
+    std::printf("%s", number.nameOf(1));
+#elif MISTAKE == 22 // tarv: nameOf() is for enumerations
+    std::printf("%s", program.option<Foreign>("x", "").nameOf(Foreign::one));
 #endif
     // clang-format on
     return program.run(argc, argv, [=] { return *number + static_cast<int>(text->size()); });

@@ -181,6 +181,8 @@ TARV_API void setRangeUnsigned(Option* option, unsigned long long low, unsigned 
 TARV_API void setRangeReal(Option* option, double low, double high) noexcept;
 TARV_API void addNeed(Option* option, Option* other) noexcept;
 TARV_API void addAction(Option* option, Option* action) noexcept;
+/// The name of the choice at a place, which lives as long as the program; "" where there is none.
+TARV_API const char* choiceName(const Option* option, int place) noexcept;
 /// Keeps what a check asks for, and returns the copy.
 TARV_API const char* addCheck(Option* option, const char* must) noexcept;
 /// Notes that memory was exhausted while something was declared.

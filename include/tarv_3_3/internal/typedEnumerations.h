@@ -134,6 +134,7 @@ constexpr const char* spellingOf() {
     }
 }
 
+/// Where the value stands among those with names; where none stands, for one without.
 template <class E>
 int placeOf(E value) {
     if constexpr (isNamed<E>) {
@@ -146,7 +147,8 @@ int placeOf(E value) {
         }
         return -1;
     } else {
-        return static_cast<int>(value);
+        const int place = static_cast<int>(value);
+        return static_cast<E>(place) == value ? place : -1;
     }
 }
 
