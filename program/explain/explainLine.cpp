@@ -11,6 +11,7 @@
 #include "compare/ValueQuestion.h"
 #include "explain/levels.h"
 #include "model/mends.h"
+#include "model/verbs.h"
 #include "text/shellQuoted.h"
 
 namespace tarv_program {
@@ -229,6 +230,14 @@ private:
     bool m_isAnswered = false;
 };
 
+void refuseVerb(ExplainedLine& line, const std::string& typed, const Meaning& verb) {
+    const bool isAmbiguous = verb.kind == Meaning::several;
+    line.words.push_back({shellQuoted(typed), "?", "",
+                          isAmbiguous ? "ambiguous: " + visible(joined(verb.candidates)) : "no verb"});
+    line.message = "'" + typed + "' is " + (isAmbiguous ? "short for several verbs" : "no verb");
+    line.isAccepted = false;
+}
+
 void addVerb(ExplainedLine& line, const LevelPart& part) {
     const std::string& typed = part.arguments[part.count];
     if (part.verb.kind == Meaning::one) {
@@ -237,19 +246,36 @@ void addVerb(ExplainedLine& line, const LevelPart& part) {
                               part.verb.name == typed ? "" : "abbreviated"});
         return;
     }
-    const bool isAmbiguous = part.verb.kind == Meaning::several;
-    line.words.push_back({shellQuoted(typed), "?", "",
-                          isAmbiguous ? "ambiguous: " + visible(joined(part.verb.candidates)) : "no verb"});
-    line.message = "'" + typed + "' is " + (isAmbiguous ? "short for several verbs" : "no verb");
+    refuseVerb(line, typed, part.verb);
 }
 
-void addHelp(ExplainedLine& line, const LevelPart& part) {
-    const std::string& typed = part.arguments[part.count];
+void addHelpVerb(ExplainedLine& line, const std::string& typed) {
     line.words.push_back({shellQuoted(typed), "verb help", "", typed == "help" ? "" : "abbreviated"});
-    for (std::size_t i = part.count + 1; i < part.arguments.size(); ++i) {
-        line.words.push_back({shellQuoted(part.arguments[i]), "what help is asked for", "", ""});
-    }
+}
+
+// Verbs stand behind it, one below the other. Behind an option a word may be its value.
+void addHelp(ExplainedLine& line, const LevelPart& part) {
+    const CommandLine& program = part.side.line();
+    const CommandLine* named = &program;
+    addHelpVerb(line, part.arguments[part.count]);
     line.isAccepted = true;
+    for (std::size_t i = part.count + 1; i < part.arguments.size(); ++i) {
+        const std::string& word = part.arguments[i];
+        const bool isVerb = named != nullptr && line.isAccepted && word.substr(0, 1) != "-";
+        const Meaning verb = isVerb ? Side(verbsAsOptions(*named)).meaningOf(word) : Meaning();
+        if (!isVerb) {
+            named = nullptr;
+            line.words.push_back({shellQuoted(word), "what help is asked for", "", ""});
+        } else if (verb.kind == Meaning::one) {
+            named = &named->verbs[verb.place];
+            line.words.push_back(
+                {shellQuoted(word), "what help is asked for", "", verb.name == word ? "" : "abbreviated"});
+        } else if (named == &program && asksForHelp(program, word, verb)) {
+            addHelpVerb(line, word);
+        } else {
+            refuseVerb(line, word, verb);
+        }
+    }
 }
 
 } // namespace

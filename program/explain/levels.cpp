@@ -44,12 +44,11 @@ std::size_t firstNameless(const Explanation& explanation, const std::vector<std:
     return place;
 }
 
-// Verbs that are declared go before.
+} // namespace
+
 bool asksForHelp(const CommandLine& program, const std::string& word, const Meaning& verb) {
     return verb.kind == Meaning::nothing && mendOf(program, "--" + word) == "help";
 }
-
-} // namespace
 
 void forEachLevel(const CommandLine& program, const std::vector<std::string>& arguments,
                   const std::function<void(const LevelPart&)>& use) {

@@ -33,6 +33,10 @@ struct LevelPart {
     }
 };
 
+/// Whether a word that means this among the verbs of the program asks for help: verbs that are declared go
+/// before.
+bool asksForHelp(const CommandLine& program, const std::string& word, const Meaning& verb);
+
 /// Calls `use` for the program, and for each verb in the arguments with those behind it. Ends behind one that
 /// is no verb, and in front of what asks for help.
 void forEachLevel(const CommandLine& program, const std::vector<std::string>& arguments,
