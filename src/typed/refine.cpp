@@ -124,7 +124,13 @@ void setRangeReal(Option* option, double low, double high) noexcept {
 }
 
 void addChoiceSigned(Option* option, long long value) noexcept {
-    guarded(option, [&] { option->choices.push_back(showNumber(*option, value)); });
+    guarded(option, [&] {
+        if (option->shape().kind == kindByte) {
+            option->choices.emplace_back(1, static_cast<char>(value));
+        } else {
+            option->choices.push_back(showNumber(*option, value));
+        }
+    });
 }
 
 void addChoiceReal(Option* option, double value) noexcept {

@@ -67,6 +67,16 @@ TEST(TypedRefinements, OneOfTakesTheseValuesAlone) {
     EXPECT_EQ(parseLine(program, {"--real=2"}), wrong("--real=2: must be one of 0.5 or 1"));
 }
 
+TEST(TypedRefinements, OneOfTakesCharacters) {
+    tarv::Program program("p");
+    const auto mark = program.option("mark", "", 'x').oneOf('x', '+', '-');
+    EXPECT_STREQ(program.problems(), "");
+    EXPECT_EQ(parseLine(program, {"--mark=+"}), "ok");
+    EXPECT_EQ(*mark, '+');
+    EXPECT_EQ(parseLine(program, {"--mark=-"}), "ok");
+    EXPECT_EQ(parseLine(program, {"--mark=1"}), wrong("--mark=1: must be one of x, + or -"));
+}
+
 TEST(TypedRefinements, ChecksSeeEachElement) {
     tarv::Program program("p");
     program.option<std::vector<int>>("even", "")
