@@ -215,6 +215,18 @@ TEST(TypedProblems, OfATextThatIsNoDefaultAreFound) {
     EXPECT_EQ(problemsOf([](tarv::Program& p) { p.option("x", "", std::vector<bool>{true, false}); }), "");
 }
 
+TEST(TypedProblems, WhatABoundVariableHoldsIsNoDefault) {
+    int level = 12;
+    std::string title = "none";
+    std::vector<std::string> files = {"old"};
+    EXPECT_EQ(problemsOf([&](tarv::Program& p) {
+                  p.bind("level", level, "").range(0, 9).required();
+                  p.bind("title", title, "").oneOf("some").required();
+                  p.bindPositional("file", files, "").required();
+              }),
+              "");
+}
+
 TEST(TypedProblems, AVerbTakesNoNameFromAbove) {
     const struct {
         const char* above;

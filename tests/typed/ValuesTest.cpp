@@ -507,6 +507,23 @@ TEST(TypedValues, ADefaultConstructedHandleHoldsAnInitialValue) {
     number.required().env("X").hidden().range(1, 2);
 }
 
+TEST(TypedValues, NothingIsGivenBeforeTheFirstParse) {
+    tarv::Program program("p");
+    std::string variable;
+    const tarv::Handle<std::string> handles[] = {
+        program.option<std::string>("without-default", ""),
+        program.option<std::string>("with-default", "", "none"),
+        program.bind("bound", variable, ""),
+    };
+    for (const tarv::Handle<std::string>& handle : handles) {
+        SCOPED_TRACE(&handle - handles);
+        EXPECT_FALSE(handle.given());
+        EXPECT_EQ(handle.source(), tarv::Source::initial);
+        ASSERT_EQ(handle.count(), 0);
+        EXPECT_EQ(handle.position(), -1);
+    }
+}
+
 TEST(TypedValues, ATextIsPassedAsAPointer) {
     const auto lengthOf = [](const char* text) { return std::string(text).size(); };
     EXPECT_EQ(lengthOf(tarv::Text("some")), 4U);

@@ -21,6 +21,7 @@ inline bool fromText(const char* text, Foreign& value) {
     value = Foreign::one;
     return *text == '1';
 }
+enum class Answer : bool { no, yes };
 
 int main(int argc, char** argv) {
     tarv::Program program("program");
@@ -72,6 +73,8 @@ int main(int argc, char** argv) {
     std::printf("%s", number.nameOf(1));
 #elif MISTAKE == 22 // tarv: nameOf() is for enumerations
     std::printf("%s", program.option<Foreign>("x", "").nameOf(Foreign::one));
+#elif MISTAKE == 23 // specialize tarv_3_3::typed::Names for it
+    program.option<Answer>("x", "");
 #endif
     // clang-format on
     return program.run(argc, argv, [=] { return *number + static_cast<int>(text->size()); });
