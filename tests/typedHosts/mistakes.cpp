@@ -39,7 +39,7 @@ int main(int argc, char** argv) {
     number.check("short", [](const std::string& value) { return value.size() < 3; });
 #elif MISTAKE == 5 // tarv: the values of this enumeration do not count up from 0; specialize tarv_3_3::typed::Names for it
     program.option<Gap>("x", "");
-#elif MISTAKE == 6 // tarv: the values of this enumeration do not count up from 0; specialize tarv_3_3::typed::Names for it
+#elif MISTAKE == 6 // tarv: a value of this enumeration is below 0; specialize tarv_3_3::typed::Names for it
     program.option<Negative>("x", "");
 #elif MISTAKE == 7 // tarv: a name of this enumeration is over 63 bytes; specialize tarv_3_3::typed::Names for it
     program.option<Long>("x", "");
@@ -73,7 +73,7 @@ int main(int argc, char** argv) {
     std::printf("%s", number.nameOf(1));
 #elif MISTAKE == 22 // tarv: nameOf() is for enumerations
     std::printf("%s", program.option<Foreign>("x", "").nameOf(Foreign::one));
-#elif MISTAKE == 23 // specialize tarv_3_3::typed::Names for it
+#elif MISTAKE == 23 // tarv: the values of this enumeration are true and false; specialize tarv_3_3::typed::Names for it
     program.option<Answer>("x", "");
 #endif
     // clang-format on

@@ -107,27 +107,25 @@ constexpr Spelled scan(const char* text) {
 }
 
 template <class E>
-constexpr int namedBelowZero() {
-    if constexpr (isSigned<__underlying_type(E)>) {
-        return scan(spelling<E, -128>(FirstValues<128>())).named;
-    } else {
-        return 0;
-    }
-}
-
-template <class E>
 constexpr const char* spellingOf() {
     if constexpr (isNamed<E>) {
         return nullptr;
-    } else if constexpr (!hasFixedType<E> || isSame<__underlying_type(E), bool>) {
+    } else if constexpr (isSame<__underlying_type(E), bool>) {
+        static_assert(never<E>, "tarv: the values of this enumeration are true and false; specialize "
+                                "tarv_3_3::typed::Names for it");
+    } else if constexpr (!hasFixedType<E>) {
         static_assert(never<E>, "tarv: this enumeration has no fixed underlying type; specialize "
                                 "tarv_3_3::typed::Names for it");
     } else {
         constexpr Spelled found = scan(spelling<E, 0>(FirstValues<128>()));
-        constexpr int below = namedBelowZero<E>();
-        static_assert(found.named > 0 && found.lastNamed + 1 == found.named && below == 0,
+        static_assert(found.named > 0 && found.lastNamed + 1 == found.named,
                       "tarv: the values of this enumeration do not count up from 0; specialize "
                       "tarv_3_3::typed::Names for it");
+        if constexpr (isSigned<__underlying_type(E)>) {
+            constexpr Spelled below = scan(spelling<E, -128>(FirstValues<128>()));
+            static_assert(below.named == 0, "tarv: a value of this enumeration is below 0; specialize "
+                                            "tarv_3_3::typed::Names for it");
+        }
         static_assert(found.longest <= 63, "tarv: a name of this enumeration is over 63 bytes; specialize "
                                            "tarv_3_3::typed::Names for it");
         return spelling<E, 0>(FirstValues<found.named>());
