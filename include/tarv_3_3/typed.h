@@ -21,7 +21,8 @@
 /// (whatever is made of a `const char*`: `std::string`, `std::string_view`, `std::filesystem::path`;
 /// a literal as default makes it a `Text`); `Size`; durations of `std::chrono`; a type of the host's beside
 /// which a `bool fromText(const char*, T&)` is found; a `std::optional` of these; every container of these
-/// with `push_back` or `insert`. Nothing else compiles. This header includes none of theirs.
+/// with `push_back` or `insert`. Nothing else compiles. This header includes none of theirs. What has
+/// `data()` as well is made of a number of elements, as a vector is, and they are assigned.
 ///
 /// A `bool fromText(const char*, T&, const char*& must)` says as well what a text must be that it refuses, as
 /// in "must be two numbers": it makes `must` "two numbers", a text that lives until the next call, or leaves
@@ -75,7 +76,8 @@ public:
 
     ///@{
     /// The value: the last one given, all elements of a list, or the initial one. What is given to a list
-    /// takes the place of its initial elements.
+    /// takes the place of its initial elements. Behind a mistake on the command line nothing is taken any
+    /// more, and no list holds some of its elements.
     const T& operator*() const {
         return m_state != nullptr ? *static_cast<const T*>(m_state->target) : nothing();
     }

@@ -80,11 +80,11 @@ constexpr Spelled scan(const char* text) {
             typeLength != 0 && typeLength < end - text && *text == '(' && text[typeLength - 1] == ')' &&
             (text[typeLength] == '-' || ('0' <= text[typeLength] && text[typeLength] <= '9'));
         const char* const begin = text;
-        text += isSkipped ? typeLength + 1 : 0;
-        while (isSkipped && '0' <= *text && *text <= '9') {
-            ++text;
+        if (isSkipped) {
+            for (text += typeLength + 1; '0' <= *text && *text <= '9'; ++text) {
+            }
         }
-        text = endOfValue(text);
+        text = *text == ',' ? text : endOfValue(text);
         if (!isSkipped) {
             const char* name = text;
             while (isNameByte(name[-1])) {
