@@ -64,7 +64,8 @@ std::string shownArgument(const CommandLine& line, const Occurrence& occurrence)
     const bool isInside = isNotBehind(argument.data(), occurrence.text) &&
                           isNotBehind(occurrence.text, argument.data() + argument.size());
     const bool hasNext = !isInside && occurrence.option->takesValue();
-    return terminalText(hasNext ? argument + " " + occurrence.text : argument);
+    const std::string value = *occurrence.text == '\0' ? "''" : terminalText(occurrence.text);
+    return terminalText(argument) + (hasNext ? " " + value : "");
 }
 
 } // namespace

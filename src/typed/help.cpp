@@ -58,8 +58,12 @@ private:
     }
 
     std::string helpOfVerb() const {
-        const Command* const parent = m_command.parent;
-        return parent == nullptr ? m_command.name() + " help VERB" : m_command.path() + " VERB --help";
+        const bool isHelpDeclared =
+            std::any_of(m_command.verbs.begin(), m_command.verbs.end(), [](const auto& verb) {
+                return std::find(verb->names.begin(), verb->names.end(), "help") != verb->names.end();
+            });
+        return m_command.parent == nullptr && !isHelpDeclared ? m_command.name() + " help VERB"
+                                                              : m_command.path() + " VERB --help";
     }
 
     void appendUsage() {

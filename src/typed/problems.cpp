@@ -173,6 +173,9 @@ private:
         if (!option.completeAs.empty() && !isOneOf(option.completeAs, {"file", "directory", "none"})) {
             add(option.name(), "shells complete \"file\", \"directory\" or \"none\"");
         }
+        if (option.environment.find('=') != std::string::npos) {
+            add(option.name(), "the name of an environment variable holds no '='");
+        }
         lookAtDefault(option);
         lookAtOthers(option);
     }
@@ -238,7 +241,11 @@ private:
             if (rule.options.size() < 2) {
                 add(command.name(), "a rule is over two options or more");
             }
+            std::unordered_set<const Option*> seen;
             for (const Option* option : rule.options) {
+                if (option != nullptr && !seen.insert(option).second) {
+                    add(option->name(), "it stands twice in a rule");
+                }
                 if (option == nullptr || !command.isWithin(*option->owner)) {
                     add(option != nullptr ? option->name() : "", "a rule is over options of another command");
                 }

@@ -320,6 +320,24 @@ Options of p:
 )");
 }
 
+TEST(TypedHelp, IsNotPromisedBehindADeclaredVerbOfThatName) {
+    tarv::Program program("p");
+    program.verb("show", "Shows.");
+    program.verb("manual,help", "Helps.");
+    EXPECT_EQ(helpAt(program, "80", {"--help"}), R"(
+0 Usage: p [OPTION]... VERB [ARGUMENT]...
+
+Verbs:
+  show          Shows.
+  manual, help  Helps.
+
+Options:
+  -h, --help    Show this help.
+
+Try 'p VERB --help' to read more about a verb.
+)");
+}
+
 TEST(TypedHelp, ListsActions) {
     tarv::Program program("tar", nullptr, "");
     program.action("list,t", "List it.");

@@ -110,7 +110,7 @@ TEST(TypedLines, AnEmptyValueNeverTakesTheNextArgument) {
         EXPECT_EQ(*file, "x");
     }
     EXPECT_EQ(parseLine(program, {"--name=", "x"}), wrong("--name=: the value is empty"));
-    EXPECT_EQ(parseLine(program, {"--name", ""}), wrong("--name : the value is empty"));
+    EXPECT_EQ(parseLine(program, {"--name", ""}), wrong("--name '': the value is empty"));
 }
 
 TEST(TypedLines, AListThatMayBeEmptyTakesAnEmptyTextButNoLoneSeparator) {

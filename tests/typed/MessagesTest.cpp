@@ -88,7 +88,7 @@ TEST(TypedMessages, OfNames) {
          {{"--help=3"}, "2 p: --help=3: option '--help' takes no value\nTry 'p --help'.\n"},
          {{"--version=3"}, "2 p: --version=3: option '--version' takes no value\nTry 'p --help'.\n"},
          {{"--text="}, "2 p: --text=: the value is empty\nTry 'p --help'.\n"},
-         {{"--text", ""}, "2 p: --text : the value is empty\nTry 'p --help'.\n"},
+         {{"--text", ""}, "2 p: --text '': the value is empty\nTry 'p --help'.\n"},
          {{"a\nb"}, "2 p: unexpected argument 'a\\x0ab'\nTry 'p --help'.\n"}});
     const EnvironmentVariable warn("TARV_ABBREVIATIONS", "warn");
     expectSaid(program, {{{"--max-c=3"}, "okp: '--max-c' is short for '--max-count'\n"}});

@@ -202,6 +202,17 @@ TEST(TypedProblems, OfWhatRefersToOthersAreFound) {
               "p: 'p': a rule is over two options or more\n");
     EXPECT_EQ(problemsOf([](tarv::Program& p) { p.atLeastOne(p.flag("x", ""), tarv::Handle<bool>()); }),
               "p: '': a rule is over options of another command\n");
+    EXPECT_EQ(problemsOf([](tarv::Program& p) {
+                  const auto x = p.flag("x", "");
+                  p.atMostOne(x, p.flag("y", ""), x);
+              }),
+              "p: 'x': it stands twice in a rule\n");
+}
+
+TEST(TypedProblems, NamesThatNoEnvironmentVariableHasAreFound) {
+    EXPECT_EQ(problemsOf([](tarv::Program& p) { p.option("x", "", 1).env("X=1"); }),
+              "p: 'x': the name of an environment variable holds no '='\n");
+    EXPECT_EQ(problemsOf([](tarv::Program& p) { p.option("x", "", 1).env("X"); }), "");
 }
 
 TEST(TypedProblems, OfATextThatIsNoDefaultAreFound) {
