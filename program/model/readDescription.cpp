@@ -195,6 +195,8 @@ CommandLine readDescription(const std::string& json, const std::string& source) 
         root = nlohmann::json::parse(json);
     } catch (const nlohmann::json::parse_error& error) {
         throw Failure(source + ":" + lineAndColumn(json, error.byte) + ": this is not JSON");
+    } catch (const nlohmann::json::out_of_range&) {
+        throw Failure(source + ": a number is too large");
     }
     try {
         return readAll(JsonPlace(root, ""));

@@ -30,6 +30,8 @@ TEST(ReadDescription, NamesThePlaceOfWhatIsWrong) {
         {"{\n \"format\": }", "it:2:12: this is not JSON"},
         {"\"\xFF\"", "it:1:2: this is not JSON"},
         {"[]", "it: must be an object"},
+        {"1E400", "it: a number is too large"},
+        {R"({"format": -1E400})", "it: a number is too large"},
         {"{}", "it: has no member 'format'"},
         {R"({"format": "other", "version": "1.0"})", "it: format: must be tarv-description"},
         {R"({"format": "tarv-description", "version": "2.0"})",
