@@ -4,6 +4,7 @@
     check_run.py HOST
 """
 
+import errno
 import fcntl
 import os
 import pty
@@ -25,19 +26,19 @@ def on_terminal(columns, **more):
     """What `host --help` writes to a terminal of that width."""
     master, slave = pty.openpty()
     fcntl.ioctl(slave, termios.TIOCSWINSZ, struct.pack("HHHH", 24, columns, 0, 0))
-    process = subprocess.Popen([HOST, "--help"], stdout=slave, stderr=slave, env=environment(**more))
+    # Help fits into the buffer of the terminal. Whoever reads while the host ends may be told that the terminal
+    # is closed before the last of the text was seen.
+    subprocess.run([HOST, "--help"], stdout=slave, stderr=slave, env=environment(**more), check=True)
     os.close(slave)
     text = b""
-    while True:
-        try:
-            piece = os.read(master, 4096)
-        except OSError:
-            break
-        if not piece:
-            break
-        text += piece
-    os.close(master)
-    process.wait()
+    try:
+        while piece := os.read(master, 4096):
+            text += piece
+    except OSError as error:
+        if error.errno != errno.EIO:  # all has been read
+            raise
+    finally:
+        os.close(master)
     return text.decode().replace("\r\n", "\n")
 
 
