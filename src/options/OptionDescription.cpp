@@ -1,5 +1,7 @@
 #include "options/OptionDescription.h"
 
+#include <cstddef>
+#include <new>
 #include <utility>
 
 #include "options/split.h"
@@ -64,9 +66,11 @@ void OptionDescription::insertTags(std::set<std::string>& tags, const char* word
     }
 }
 
+// Never destroyed: a host may parse in the destructor of a static object.
 const std::string& OptionDescription::noName() {
-    static const std::string none;
-    return none;
+    alignas(std::string) static std::byte room[sizeof(std::string)];
+    static const std::string* const none = new (room) std::string;
+    return *none;
 }
 
 } // namespace tarv_3_3

@@ -21,14 +21,24 @@ constexpr std::array<char32_t, 6> dashes = {
     0x2053, // swung dash
 };
 
-// The encoder of this library does not fail. Others report a failure as "-1", which must not count as a dash.
-ustring8 dashText(char32_t codePoint) {
+/// The UTF-8 of a dash. Nothing of it is destroyed: a host may parse in the destructor of a static object.
+struct DashText {
+    char bytes[4] = {};
+    std::size_t size = 0;
+
+    std::string_view view() const { return {bytes, size}; }
+};
+
+// "-1" would be the report of a failed encoding and must not count as a dash.
+DashText dashText(char32_t codePoint) {
     const ustring8 text = MERO_2_16::strings::utf32_to_utf8(ustring32(1, codePoint));
-    return text == "-1" ? "?" : text;
+    DashText dash;
+    dash.size = (text == "-1" ? ustring8("?") : text).copy(dash.bytes, sizeof dash.bytes);
+    return dash;
 }
 
-std::array<ustring8, dashes.size()> makeDashTexts() {
-    std::array<ustring8, dashes.size()> texts;
+std::array<DashText, dashes.size()> makeDashTexts() {
+    std::array<DashText, dashes.size()> texts;
     for (std::size_t i = 0; i < dashes.size(); ++i) {
         texts[i] = dashText(dashes[i]);
     }
@@ -39,9 +49,9 @@ std::array<ustring8, dashes.size()> makeDashTexts() {
 
 unsigned long unicodeDashLength(std::string_view text) {
     static const auto dashTexts = makeDashTexts();
-    for (const ustring8& dash : dashTexts) {
-        if (text.substr(0, dash.size()) == dash) {
-            return dash.size();
+    for (const DashText& dash : dashTexts) {
+        if (text.substr(0, dash.size) == dash.view()) {
+            return dash.size;
         }
     }
     return 0;
