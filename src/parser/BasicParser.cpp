@@ -13,8 +13,8 @@ IParser::~IParser() = default;
 namespace {
 
 std::uint64_t nextNumber() {
-    static std::atomic<std::uint64_t> last = 0;
-    return last.fetch_add(1, std::memory_order_relaxed) + 1;
+    static std::atomic<std::uint64_t> next = 0;
+    return next.fetch_add(1, std::memory_order_relaxed);
 }
 
 } // namespace

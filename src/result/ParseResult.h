@@ -71,9 +71,12 @@ private:
     /// What stood behind "--", with its position indices.
     std::vector<std::pair<std::string, int>> m_freeArguments;
     std::size_t m_freeArgumentCursor;
+    // Numbers that no parser has.
+    static constexpr auto noParser = static_cast<std::uint64_t>(-1);
+    static constexpr auto severalParsers = static_cast<std::uint64_t>(-2);
     /// The number of the parser that stored everything here. `severalParsers` if there were several, or if
     /// an entry was stored before the first call of `noteParser`.
-    std::uint64_t m_parser = 0;
+    std::uint64_t m_parser = noParser;
 };
 
 } // namespace tarv_3_3

@@ -23,8 +23,7 @@ int ParseResult::applyDefault(std::vector<OptionDescription>& options, std::stri
 }
 
 void ParseResult::noteParser(std::uint64_t number) {
-    constexpr auto severalParsers = static_cast<std::uint64_t>(-1);
-    const bool isFirst = m_parser == 0 && m_entries.list().empty();
+    const bool isFirst = m_parser == noParser && m_entries.list().empty();
     m_parser = isFirst || m_parser == number ? number : severalParsers;
 }
 
