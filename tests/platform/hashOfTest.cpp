@@ -1,15 +1,18 @@
 #include "platform/hashOf.h"
 
 #include <gtest/gtest.h>
+#include <sys/auxv.h>
 
 #include <array>
 #include <functional>
 #include <random>
 #include <set>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "platform/TextMap.h"
+#include "support/roundsOf.h"
 
 namespace tarv_3_3::internal {
 namespace {
@@ -81,6 +84,13 @@ TEST(HashOf, HasAKeyThatDependsOnEveryBitOfTheSeed) {
     }
 }
 
+TEST(HashOf, HasAKeyOfTheRandomBytesThatTheKernelGaveTheProcess) {
+    // NOLINTNEXTLINE(performance-no-int-to-ptr)
+    const void* const randomBytes = reinterpret_cast<const void*>(getauxval(AT_RANDOM));
+    ASSERT_NE(randomBytes, nullptr);
+    EXPECT_EQ(hashOf("text"), hashOf("text", makeHashKey(randomBytes)));
+}
+
 TEST(HashOf, IsTheSameInTheWholeProcess) {
     const std::size_t hash = hashOf("text");
     EXPECT_EQ(hashOf(std::string("text")), hash);
@@ -95,7 +105,7 @@ class Cost {
 public:
     explicit Cost(const HashKey& key) : m_key(key) {}
 
-    void add(const std::string& text) {
+    void add(std::string_view text) {
         m_map.insert({std::to_string(m_size), hashOf(text, m_key)});
         ++m_size;
     }
@@ -196,12 +206,13 @@ std::string randomText(std::mt19937_64& random) {
 }
 
 TEST(HashOf, CostsAChosenFamilyOfTextsWhatRandomOnesCost) {
+    const std::size_t count = roundsOf(familySize);
     for (const Family& family : families) {
         SCOPED_TRACE(family.name);
         std::mt19937_64 random(77);
         Cost chosen(someKey);
         Cost atRandom(someKey);
-        for (std::uint64_t i = 0; chosen.size() < familySize; ++i) {
+        for (std::uint64_t i = 0; chosen.size() < count; ++i) {
             const std::string text = family.text(i);
             if (!text.empty()) {
                 chosen.add(text);
@@ -244,7 +255,8 @@ TEST(HashOf, CostsLongTextsWithAPrefixInCommonWhatRandomOnesCost) {
     Cost chosen(someKey);
     Cost atRandom(someKey);
     std::string text(prefix + 8, 'x');
-    for (std::uint64_t i = 0; i < familySize; ++i) {
+    const std::size_t count = roundsOf(familySize);
+    for (std::uint64_t i = 0; i < count; ++i) {
         put(text, prefix, i, 8);
         chosen.add(text);
         atRandom.add(randomText(random));
@@ -253,14 +265,15 @@ TEST(HashOf, CostsLongTextsWithAPrefixInCommonWhatRandomOnesCost) {
 }
 
 TEST(HashOf, CostsTextsThatDifferInLengthAloneWhatRandomOnesCost) {
-    constexpr std::size_t count = 8192;
+    const std::size_t count = roundsOf(familySize);
     for (const char byte : {'\0', 'x'}) {
         SCOPED_TRACE(byte);
+        const std::string longest(count, byte);
         std::mt19937_64 random(77);
         Cost chosen(someKey);
         Cost atRandom(someKey);
         for (std::size_t size = 0; size < count; ++size) {
-            chosen.add(std::string(size, byte));
+            chosen.add(std::string_view(longest).substr(0, size));
             atRandom.add(randomText(random));
         }
         EXPECT_LE(chosen.probes(), atRandom.probes() * 3 / 2);
