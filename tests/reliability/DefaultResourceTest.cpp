@@ -3,9 +3,14 @@
 #include <memory>
 #include <memory_resource>
 #include <string>
+#include <vector>
 
 #include "reliability/Session.h"
 #include "support/TemporaryDirectory.h"
+#include "tarv_3_3/completion.h"
+#include "tarv_3_3/description.h"
+#include "tarv_3_3/explain.h"
+#include "tarv_3_3/typed.h"
 
 namespace {
 
@@ -74,6 +79,22 @@ std::string help(IParser& parser) {
     return text;
 }
 
+/// What is declared, explained, offered and proposed.
+std::string answers(IParser& parser) {
+    std::string text = describeAsJson(&parser);
+    const char* const argv[] = {"program", "--sw", "--unknown-argument", "--numb=3", "file"};
+    const Explanation* const explanation = explain(&parser, 5, argv);
+    for (unsigned i = 0; i < explanation->argumentCount; ++i) {
+        text += std::string("|") + explainedAt(*explanation, i).name;
+    }
+    release(explanation);
+    const char* const words[] = {"program", "--a-synonym-longer"};
+    const Completion* const completion = complete(&parser, 2, words);
+    text += std::string("|") + completion->common;
+    release(completion);
+    return text + "|" + suggest(&parser, "--txet");
+}
+
 /// What is stored, and the help in full.
 std::string live(Session& session, const std::string& optionFile) {
     open(session, flagPlainArePositional);
@@ -90,7 +111,23 @@ std::string live(Session& session, const std::string& optionFile) {
                              "text", "j", "files"});
     told += getLastValue(session.result, "number").text;
     session.parser->removeHandler(&handler);
-    return told + "\n" + help(*session.parser);
+    return told + "\n" + help(*session.parser) + answers(*session.parser);
+}
+
+/// What a program of the typed face says.
+std::string liveTyped() {
+    typed::Program tool("tool", "1.0", "A tool with a description that is longer than a short text.");
+    auto names = tool.option<std::vector<std::string>>("name,n", "A list.").completeAs("file");
+    auto level = tool.option("level,l", "A number.", 3).range(0, 9).env("TARV_TEST_LEVEL");
+    auto rest = tool.positional<std::vector<std::string>>("file", "What is left.").required();
+    const char* const line[] = {"tool", "--name=a name longer than a short text,b", "-l", "5", "a.txt"};
+    std::string told = tool.parse(5, line).errors();
+    told += names->front() + rest->front() + std::to_string(*level);
+    const char* const wrong[] = {"tool", "--level=50"};
+    told += tool.parse(2, wrong).errors();
+    const char* const asking[] = {"tool", "--help"};
+    told += tool.parse(2, asking).output();
+    return told;
 }
 
 class DefaultResources : public testing::Test {
@@ -106,9 +143,19 @@ TEST_F(DefaultResources, AreNotUsedInAWholeLife) {
         expected = live(session, optionFile);
     }
     EXPECT_NE(expected.find("switch=0 n=3,4,4,4 unsigned-number=7"), std::string::npos) << expected;
+    EXPECT_NE(expected.find("|switch||number||--a-synonym-longer-than-a-short-text=|Did you mean"),
+              std::string::npos)
+        << expected;
     const DefaultResource none(std::pmr::null_memory_resource());
     Session session;
     EXPECT_EQ(live(session, optionFile), expected);
+}
+
+TEST_F(DefaultResources, AreNotUsedByAProgramOfTheTypedFace) {
+    const std::string expected = liveTyped();
+    EXPECT_EQ(expected.find("a name longer than a short texta.txt5tool: "), 0U) << expected;
+    const DefaultResource none(std::pmr::null_memory_resource());
+    EXPECT_EQ(liveTyped(), expected);
 }
 
 TEST_F(DefaultResources, MayEndBeforeTheNextParse) {

@@ -1,5 +1,8 @@
 #include "reliability/FailingAllocations.h"
 
+#include <malloc.h>
+
+#include <algorithm>
 #include <cerrno>
 #include <cstdlib>
 #include <new>
@@ -25,6 +28,8 @@ long nthToFail = 0;
 failing::Mode mode = failing::Mode::once;
 failing::Account account = {};
 long live = 0;
+long bytesNow = 0;
+long bytesAtMost = 0;
 
 bool mustFail() {
     if (!isArmed) {
@@ -66,11 +71,14 @@ void* take(std::size_t bytes) {
     void* const block = std::malloc(bytes);
 #endif
     live += block != nullptr ? 1 : 0;
+    bytesNow += static_cast<long>(malloc_usable_size(block));
+    bytesAtMost = std::max(bytesAtMost, bytesNow);
     return block;
 }
 
 void give(void* block) {
     live -= block != nullptr ? 1 : 0;
+    bytesNow -= static_cast<long>(malloc_usable_size(block));
     std::free(block);
 }
 
@@ -100,6 +108,18 @@ Account disarm() {
 
 long liveBlocks() {
     return live;
+}
+
+long liveBytes() {
+    return bytesNow;
+}
+
+long peakBytes() {
+    return bytesAtMost;
+}
+
+void forgetPeak() {
+    bytesAtMost = bytesNow;
 }
 
 void hookVariants() {

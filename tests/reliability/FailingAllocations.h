@@ -27,6 +27,11 @@ Account disarm();
 /// Blocks taken with `operator new` or for a variant's text, and not given back.
 long liveBlocks();
 
+/// The room of these blocks in bytes, and the most that it was since the last call of `forgetPeak`.
+long liveBytes();
+long peakBytes();
+void forgetPeak();
+
 /// Directs the variants' memory through here. Call it while no text variant exists.
 void hookVariants();
 

@@ -5,6 +5,7 @@
 
 #include "reliability/ReusedMemory.h"
 #include "reliability/Session.h"
+#include "support/roundsOf.h"
 
 // Every text that the library hands out says the same until its owner is destroyed, whatever happens in
 // between. A text of up to 15 bytes lies in its string, a longer one in a block of its own, and a very long
@@ -58,7 +59,8 @@ void growResult(Session& session) {
 
 /// The same for the parser.
 void growParser(Session& session) {
-    for (int i = 0; i < 300; ++i) {
+    const unsigned rounds = roundsOf(300);
+    for (unsigned i = 0; i < rounds; ++i) {
         const std::string text = std::to_string(i);
         const IOption& option = session.parser->option(("new" + text).c_str(), ("About " + text).c_str(),
                                                        vtString, ("topic" + text).c_str());
