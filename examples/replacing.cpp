@@ -20,13 +20,17 @@ namespace seek {
 
 namespace {
 
+/// What ends a program from outside, unless it says something else.
+constexpr int endingSignals[] = {SIGHUP,  SIGINT,    SIGQUIT, SIGTERM, SIGALRM,   SIGUSR1, SIGUSR2, SIGXCPU,
+                                 SIGXFSZ, SIGVTALRM, SIGPROF, SIGPIPE, SIGSTKFLT, SIGIO,   SIGPWR};
+
 /// Keeps the signals that end the program waiting until it is destroyed. Those that the program was
 /// started to ignore, as nohup does, stay ignored.
 class DeferredSignals {
 public:
     DeferredSignals() {
         sigemptyset(&m_deferred);
-        for (const int number : {SIGHUP, SIGINT, SIGQUIT, SIGTERM, SIGXFSZ}) {
+        for (const int number : endingSignals) {
             struct sigaction action = {};
             if (sigaction(number, nullptr, &action) == 0 && action.sa_handler != SIG_IGN) {
                 sigaddset(&m_deferred, number);

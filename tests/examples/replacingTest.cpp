@@ -37,7 +37,8 @@ struct SystemCalls {
     std::vector<std::string> log;
     /// Called before the temporary file gets its name.
     std::function<void()> onRandom = [] {};
-    std::function<void()> onSync = [] {};
+    /// Called with what is brought to the disk, a file or not; an error number takes its place.
+    std::function<int(bool)> onSync = [](bool) { return 0; };
     /// Called with the number of the exchange, from 1 on; an error number takes its place.
     std::function<int(int)> onExchange = [](int) { return 0; };
     int exchanges = 0;
@@ -57,8 +58,13 @@ extern "C" ssize_t getrandom(void* buffer, std::size_t size, unsigned flags) {
 extern "C" int fsync(int descriptor) {
     struct stat state = {};
     fstat(descriptor, &state);
-    calls.log.emplace_back(S_ISDIR(state.st_mode) ? "sync folder" : "sync file");
-    calls.onSync();
+    const bool isFile = !S_ISDIR(state.st_mode);
+    calls.log.emplace_back(isFile ? "sync file" : "sync folder");
+    const int error = calls.onSync(isFile);
+    if (error != 0) {
+        errno = error;
+        return -1;
+    }
     return static_cast<int>(syscall(SYS_fsync, descriptor));
 }
 
@@ -151,6 +157,20 @@ TEST_F(ReplaceFile, FindsAFileOfTheWorkingDirectory) {
 TEST_F(ReplaceFile, BringsTheTextToTheDiskBeforeTheNameAndTheFolderBehindIt) {
     EXPECT_EQ(replace(path), "");
     EXPECT_EQ(calls.log, (Names{"sync file", "exchange", "sync folder"}));
+}
+
+TEST_F(ReplaceFile, LeavesTheFileWhenTheTextCannotBeBroughtToTheDisk) {
+    calls.onSync = [](bool isFile) { return isFile ? EIO : 0; };
+    EXPECT_EQ(replace(path), "Input/output error");
+    EXPECT_EQ(contentsOf(path), "old text\n");
+    EXPECT_EQ(names(), Names{"text"});
+}
+
+TEST_F(ReplaceFile, SaysWhenTheFolderCannotBeBroughtToTheDisk) {
+    calls.onSync = [](bool isFile) { return isFile ? 0 : EIO; };
+    EXPECT_EQ(replace(path), "Input/output error");
+    EXPECT_EQ(contentsOf(path), "new text\n");
+    EXPECT_EQ(names(), Names{"text"});
 }
 
 TEST_F(ReplaceFile, RenamesWhereNamesCannotBeExchanged) {
@@ -417,8 +437,12 @@ int statusOfReplacing(const std::string& path) {
     return status;
 }
 
+// Every one that ends a program from outside. SIGXFSZ, which the program causes itself, has a test below.
+const int endingSignals[] = {SIGHUP,  SIGINT,    SIGQUIT, SIGTERM, SIGALRM,   SIGUSR1, SIGUSR2,
+                             SIGXCPU, SIGVTALRM, SIGPROF, SIGPIPE, SIGSTKFLT, SIGIO,   SIGPWR};
+
 TEST_F(ReplaceFile, LeavesTheOldTextOnASignalBeforeTheNewOneIsWritten) {
-    for (const int number : {SIGHUP, SIGINT, SIGQUIT, SIGTERM}) {
+    for (const int number : endingSignals) {
         SCOPED_TRACE(number);
         calls.onRandom = [number] { kill(getpid(), number); };
         const int status = statusOfReplacing(path);
@@ -442,10 +466,10 @@ TEST_F(ReplaceFile, LeavesTheOldTextWhereALimitOfFileSizesEndsTheProgram) {
 }
 
 TEST_F(ReplaceFile, TakesTheLastStepsBeforeItEndsOnALaterSignal) {
-    for (const int number : {SIGHUP, SIGINT, SIGQUIT, SIGTERM}) {
+    for (const int number : endingSignals) {
         SCOPED_TRACE(number);
         directory.write("text", "old text\n");
-        calls.onSync = [number] { kill(getpid(), number); };
+        calls.onSync = [number](bool) { return kill(getpid(), number); };
         const int status = statusOfReplacing(path);
         EXPECT_TRUE(WIFSIGNALED(status));
         EXPECT_EQ(WTERMSIG(status), number);
