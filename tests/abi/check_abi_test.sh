@@ -42,6 +42,21 @@ altered_description "a larger Value" "/class-decl name='Value'/s/size-in-bits='2
 altered_description "another number of a kind" "s/name='vtInt32' value='6'/name='vtInt32' value='5'/"
 altered_description "virtual functions in another order" \
     "s/vtable-offset='5'/vtable-offset='x'/; s/vtable-offset='6'/vtable-offset='5'/; s/vtable-offset='x'/vtable-offset='6'/"
+# altered_class NAME CLASS COMMAND: the command for sed alters the description of a class
+altered_class() {
+    altered_description "$1" "/class-decl name='$2' size/,/<\/class-decl>/{$3}"
+}
+altered_class "a larger record of the typed face" Step "s/size-in-bits='384'/size-in-bits='448'/"
+altered_class "a field elsewhere in what hosts of the typed face make" Shape \
+    "s/layout-offset-in-bits='768'/layout-offset-in-bits='800'/"
+altered_class "two fields of Candidate swapped" Candidate \
+    "s/name='text'/name='x'/; s/name='description'/name='text'/; s/name='x'/name='description'/"
+altered_class "a field elsewhere in Declaration" Declaration \
+    "s/layout-offset-in-bits='832'/layout-offset-in-bits='864'/"
+altered_class "a field elsewhere in ExplainedArgument" ExplainedArgument \
+    "s/layout-offset-in-bits='448'/layout-offset-in-bits='480'/"
+altered_class "the function of CandidateSink at another place" CandidateSink \
+    "s/vtable-offset='0'/vtable-offset='1'/"
 altered_list "a function that is no longer there" '1i T _ZN8tarv_3_34goneEv@@TARV_3.3'
 altered_list "a new function" '/12createParserE/d'
 altered_list "another version" '/12createParserE/s/@@TARV_3.3/@@TARV_3.4/'

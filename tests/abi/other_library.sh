@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # Builds a host against the installed library, then runs the same file with another build of the
-# library: by another compiler, with larger hidden objects and one more function. So does a host of an
+# library: by another compiler, with larger hidden objects and one more function. So do the hosts of an
 # earlier time.
 #   other_library.sh PREFIX COMPILER OTHER-COMPILER GENERATED WORK
 # GENERATED is where the build has made sources.
@@ -39,7 +39,9 @@ END
 nm --dynamic --defined-only "$work/lib/libtarv.so.3.3" | grep ' _ZN8tarv_3_310addedLaterEv' >/dev/null
 
 if [[ $(uname -m) == x86_64 ]]; then
-    "$root/tests/abi/oldHost/run.sh" "$root/tests/abi/oldHost/host-x86_64" "$work/lib/libtarv.so.3.3"
+    for host in host typedHost; do
+        "$root/tests/abi/oldHost/run.sh" "$root/tests/abi/oldHost/$host-x86_64" "$work/lib/libtarv.so.3.3"
+    done
 fi
 
 expected='Hello, Ann!
