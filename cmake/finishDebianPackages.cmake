@@ -4,12 +4,15 @@ foreach(package IN LISTS CPACK_PACKAGE_FILES)
     file(REMOVE_RECURSE ${tree})
     execute_process(COMMAND dpkg-deb --raw-extract ${package} ${tree} COMMAND_ERROR_IS_FATAL ANY)
 
-    # What differs between architectures lies in a directory of the architecture's; but for programs.
-    if(NOT IS_DIRECTORY ${tree}/usr/bin)
-        file(READ ${tree}/DEBIAN/control control)
-        string(STRIP "${control}" control)
-        file(WRITE ${tree}/DEBIAN/control "${control}\nMulti-Arch: same\n")
+    # What differs between architectures lies in a directory of the architecture's. Of a program there can be only
+    # one, and it serves the packages of every architecture.
+    set(multi_arch same)
+    if(IS_DIRECTORY ${tree}/usr/bin)
+        set(multi_arch foreign)
     endif()
+    file(READ ${tree}/DEBIAN/control control)
+    string(STRIP "${control}" control)
+    file(WRITE ${tree}/DEBIAN/control "${control}\nMulti-Arch: ${multi_arch}\n")
 
     if(EXISTS ${tree}/DEBIAN/shlibs)
         # Both only call ldconfig, and so does dpkg, since there is a trigger.

@@ -1,4 +1,5 @@
-# Installs the run-time part (component "runtime") and the development part ("development").
+# Installs the run-time part (component "runtime"), the development part ("development") and the companion program
+# ("program").
 include(CMakePackageConfigHelpers)
 
 set(tarv_config_dir ${CMAKE_INSTALL_LIBDIR}/cmake/tarv)
@@ -12,9 +13,6 @@ install(TARGETS tarv
     FILE_SET HEADERS
         DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}
         COMPONENT development)
-if(TARV_BUILD_PROGRAM)
-    install(TARGETS tarv_program EXPORT tarvTargets RUNTIME COMPONENT development)
-endif()
 install(EXPORT tarvTargets NAMESPACE tarv:: DESTINATION ${tarv_config_dir} COMPONENT development)
 if(TARV_STATIC)
     install(TARGETS tarv_static
@@ -24,8 +22,16 @@ if(TARV_STATIC)
         NAMESPACE tarv:: DESTINATION ${tarv_config_dir} COMPONENT development)
 endif()
 
+# The same file for the development files of every architecture: one program serves them all.
+set(tarv_program_dir ${CMAKE_INSTALL_DATADIR}/tarv/cmake)
+if(TARV_BUILD_PROGRAM)
+    install(TARGETS tarv_program EXPORT tarvProgramTargets RUNTIME COMPONENT program)
+    install(EXPORT tarvProgramTargets NAMESPACE tarv:: DESTINATION ${tarv_program_dir} COMPONENT program)
+endif()
+
 configure_package_config_file(cmake/tarvConfig.cmake.in ${PROJECT_BINARY_DIR}/tarvConfig.cmake
     INSTALL_DESTINATION ${tarv_config_dir}
+    PATH_VARS tarv_program_dir
     NO_SET_AND_CHECK_MACRO)
 write_basic_package_version_file(${PROJECT_BINARY_DIR}/tarvConfigVersion.cmake
     COMPATIBILITY SameMinorVersion)

@@ -7,9 +7,9 @@
 #   completion  the scripts for bash, zsh and fish
 #   json        the description, installed as share/TARGET/TARGET.json
 #
-# The program is run for it, so it must have been built for this machine, and answer tarvoption=describe: it
-# calls tarv_3_3::answerCompletion, or is a program of the typed face. The name of the program is that of its
-# file.
+# It needs the program tarv, which is a Debian package of its own. TARGET is run for it, so it must have been
+# built for this machine, and answer tarvoption=describe: it calls tarv_3_3::answerCompletion, or is a program of
+# the typed face. The name of the program is that of its file.
 #
 #   PURPOSE text    what the program is for, where it does not say it itself
 #   DATE date       the date of the page; otherwise SOURCE_DATE_EPOCH counts, or the day of the build
@@ -27,7 +27,8 @@ function(tarv_generate target)
         message(FATAL_ERROR "tarv_generate: there is no target ${target}")
     endif()
     if(NOT TARGET tarv::program)
-        message(FATAL_ERROR "tarv_generate: tarv was installed without its program")
+        message(FATAL_ERROR "tarv_generate(${target}): the program tarv is not installed. It is in the Debian package tarv, "
+            "and built where nlohmann-json is found.")
     endif()
     get_target_property(name ${target} OUTPUT_NAME)
     if(NOT name)

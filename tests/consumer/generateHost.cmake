@@ -1,10 +1,19 @@
 # Configures, builds and installs the project `generate` in `work`, with the CMake arguments `arguments`, and looks
-# at what was made of its program.
+# at what was made of its program. With `program` set to "missing", tarv was installed without its program: then
+# the configuration is to say so.
 cmake_minimum_required(VERSION 3.25)
 
 file(REMOVE_RECURSE ${work})
-execute_process(COMMAND ${CMAKE_COMMAND} -S ${CMAKE_CURRENT_LIST_DIR}/generate -B ${work} -G Ninja
-    -DCMAKE_INSTALL_PREFIX=${work}/prefix ${arguments} COMMAND_ERROR_IS_FATAL ANY)
+set(configure ${CMAKE_COMMAND} -S ${CMAKE_CURRENT_LIST_DIR}/generate -B ${work} -G Ninja
+    -DCMAKE_INSTALL_PREFIX=${work}/prefix ${arguments})
+if(program STREQUAL "missing")
+    execute_process(COMMAND ${configure} RESULT_VARIABLE exit_code OUTPUT_QUIET ERROR_VARIABLE message)
+    if(exit_code EQUAL 0 OR NOT message MATCHES "tarv_generate\\(greet\\): the program tarv is not installed\\.")
+        message(FATAL_ERROR "Without the program, the configuration ends with ${exit_code}:\n${message}")
+    endif()
+    return()
+endif()
+execute_process(COMMAND ${configure} COMMAND_ERROR_IS_FATAL ANY)
 execute_process(COMMAND ${CMAKE_COMMAND} --build ${work} COMMAND_ERROR_IS_FATAL ANY)
 execute_process(COMMAND ${CMAKE_COMMAND} --install ${work} COMMAND_ERROR_IS_FATAL ANY)
 
