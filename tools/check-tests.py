@@ -25,7 +25,7 @@ def complaints(cases, may_be_skipped):
     if not names:
         yield "no tests at all"
     for name in sorted(names):
-        suite = name.removesuffix("_shuffled")
+        suite = name.removesuffix("_lists_tests")
         if suite != name and not any(other.startswith(suite + "/") for other in names):
             yield f"no tests in {suite}"
     for case in cases:

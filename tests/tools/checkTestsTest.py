@@ -24,13 +24,13 @@ class CheckTestsTest(unittest.TestCase):
         return outcome.returncode, outcome.stdout.replace(f"{self.results}: ", "")
 
     def test_accepts_tests_that_all_ran(self):
-        self.assertEqual(self.check(("api/A", "run"), ("api_shuffled", "run"), ("floors", "run")), (0, "3 tests\n"))
+        self.assertEqual(self.check(("api/A", "run"), ("api_lists_tests", "run"), ("floors", "run")), (0, "3 tests\n"))
 
     def test_rejects_a_run_without_tests(self):
         self.assertEqual(self.check(), (1, "no tests at all\n0 tests\n"))
 
-    def test_rejects_a_suite_that_lists_no_tests(self):
-        self.assertEqual(self.check(("api/A", "run"), ("api_shuffled", "run"), ("help_shuffled", "run")),
+    def test_rejects_a_suite_without_tests(self):
+        self.assertEqual(self.check(("api/A", "run"), ("api_lists_tests", "run"), ("help_lists_tests", "run")),
                          (1, "no tests in help\n3 tests\n"))
 
     def test_rejects_a_test_that_was_skipped_and_has_no_reason(self):
