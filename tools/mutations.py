@@ -251,6 +251,14 @@ def copy_changes(text, tokens):
             yield at, at, "&"
 
 
+def kept_text_changes(text, tokens):
+    """A text as it came, for the copy of it that is kept for the host."""
+    for index, token in enumerate(tokens[3:], start=3):
+        if token.text == "(" and tokens[index - 1].text == "init" and tokens[index - 2].text in (".", "->"):
+            yield tokens[index - 3].start, tokens[closing(tokens, index)].end, \
+                text[token.end:tokens[closing(tokens, index)].start]
+
+
 def body_end(tokens, statement):
     return closing(tokens, statement.brace)
 
@@ -385,6 +393,7 @@ def changes_of(text, members=(), is_public=False):
         yield from statement_changes(text, statement.tokens, statement.semicolon.end)
     yield from order_changes(text, tokens)
     yield from copy_changes(text, tokens)
+    yield from kept_text_changes(text, tokens)
     yield from guard_changes(text, tokens)
     yield from variable_changes(text, tokens)
     yield from member_changes(text, tokens, members)

@@ -116,7 +116,8 @@ src/toy/toy.cpp
 """
 
 
-# Copies that are needed, two parameters of one type, orders that matter and, at the end, one that does not.
+# Copies that are needed, two parameters of one type, orders that matter, one that does not, and a text that is
+# kept.
 MOVES = """\
 #include <string>
 #include <vector>
@@ -133,6 +134,10 @@ void work() {
     finish(count);
     count = first;
     limit = second;
+}
+
+void show(Garbage* garbage, const char*& shown) {
+    shown = garbage->init(nameOf(shown));
 }
 """
 
@@ -200,6 +205,14 @@ src/toy/moves.cpp
 src/toy/moves.cpp
 - limit = second;
 + ;
+
+src/toy/moves.cpp
+- shown = garbage->init(nameOf(shown));
++ ;
+
+src/toy/moves.cpp
+- shown = garbage->init(nameOf(shown));
++ shown = nameOf(shown);
 """
 
 # What an inline function does is compiled into the tests: they have to be made anew.
