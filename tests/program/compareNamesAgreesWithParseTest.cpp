@@ -120,11 +120,12 @@ TEST(CompareNames, FindsExactlyTheAbbreviationsThatAParseTakesOtherwise) {
 }
 
 TEST(CompareNames, ComparesSevenHundredOptionsOfManyWords) {
+    const std::size_t count = roundsOf(700);
     const char* const words[] = {"max", "min", "count", "size", "depth", "color", "output", "input", "file"};
     const auto line = [&](const char* last) {
         CommandLine made;
         made.names = {"tool"};
-        for (std::size_t i = 0; i < 700; ++i) {
+        for (std::size_t i = 0; i < count; ++i) {
             Option option;
             option.kind = vtString;
             option.names = {std::string(words[i % 9]) + "-" + words[i / 9 % 9] + "-" + words[i / 81 % 9] +
@@ -135,8 +136,8 @@ TEST(CompareNames, ComparesSevenHundredOptionsOfManyWords) {
         return made;
     };
     EXPECT_EQ(compare(line(""), line("")).breaks.size(), 0U);
-    EXPECT_GT(compare(line(""), line("-new")).breaks.size(), 699U);
-    EXPECT_GT(compare(line("x"), line("y")).breaks.size(), 699U);
+    EXPECT_GE(compare(line(""), line("-new")).breaks.size(), count);
+    EXPECT_GE(compare(line("x"), line("y")).breaks.size(), count);
 }
 
 } // namespace
