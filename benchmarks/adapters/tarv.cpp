@@ -111,7 +111,7 @@ private:
     }
 
     void readList(const char* name, tarv::Value value, std::vector<std::string_view>& list) {
-        for (; value.status == tarv::valueFound; value = m_result->next(name))
+        for (; value.text != nullptr; value = m_result->next(name))
             list.push_back(value.text);
     }
 

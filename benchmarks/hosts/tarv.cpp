@@ -5,7 +5,7 @@
 namespace tarv = tarv_3_3;
 
 static void printAll(tarv::IParseResult* result, const char* name) {
-    for (tarv::Value value = result->get(name); value.status == tarv::valueFound; value = result->next(name))
+    for (tarv::Value value = result->get(name); value.text != nullptr; value = result->next(name))
         std::printf("%s\n", value.text);
 }
 

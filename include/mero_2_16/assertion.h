@@ -5,8 +5,9 @@
 /// What happens when a host breaks a contract, such as asking a value for another kind than it has.
 namespace MERO_2_16 {
 
-/// Receives a broken assertion: the failed expression as text, and where it stands in the library.
-/// The texts are string literals and never go away.
+/// Receives a broken assertion: the failed expression, or a mistake in the declarations of a typed program,
+/// as text, and where in the library it was found. Copy the text to keep it: a mistake in declarations lives
+/// only as long as the program.
 using assertion_handler_t = void (*)(const char* expression, const char* file, int line);
 
 /// Installs `handler` for the whole process and returns the one that it replaces.

@@ -47,8 +47,8 @@ enum ParserFlag : int {
 ///
 /// A parser and the results that it parses into are used by one thread at a time. Several parsers may work on
 /// several threads at once, each with results of its own. They share the counter of positions, which
-/// stay unique in the process and ascend in each parse, and the switch of the trace: a parse that
-/// begins switches it for all of them.
+/// stay unique in the process and ascend in each parse, and the switch of the trace: every stream, option
+/// file and command line with arguments sets it for all of them.
 ///
 /// Every `const char*` that a parser returns stays valid until the parser is destroyed.
 ///
@@ -88,8 +88,7 @@ public:
     ///
     /// Returns the new declaration to be refined, valid until the next one. A refused one has `m_status`
     /// `declarationRefused`. Throws `std::bad_alloc` when there is no memory. A name that is taken is also
-    /// written to the trace: if that is on, and the host has told `std::cout` to throw exceptions, they
-    /// come through.
+    /// written to the trace: exceptions come through if the host lets the stream of the trace throw them.
     virtual IOption& option(const char* names, const char* description, das_variant_type_t type,
                             const char* topic = "") = 0;
 

@@ -17,7 +17,8 @@ struct TARV_API Value {
     int status;
     /// Position index: orders everything that was stored in the process. `noPosition` when none.
     int position;
-    /// The converted value, of the option's kind; null for an option that takes no value.
+    /// The converted value, of the option's kind; null for an option that takes no value, and where
+    /// a positional option got an empty argument, which has no text either.
     variant_t value;
 
     /// An empty record: no text, `valueMissing`, `noPosition`, the null kind.

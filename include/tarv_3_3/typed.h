@@ -21,8 +21,9 @@
 /// (whatever is made of a `const char*`: `std::string`, `std::string_view`, `std::filesystem::path`;
 /// a literal as default makes it a `Text`); `Size`; durations of `std::chrono`; a type of the host's beside
 /// which a `bool fromText(const char*, T&)` is found; a `std::optional` of these; every container of these
-/// with `push_back` or `insert`. Nothing else compiles. This header includes none of theirs. What has
-/// `data()` as well is made of a number of elements, as a vector is, and they are assigned.
+/// with `push_back` or `insert`. Nothing else compiles. This header includes no header of these types. A
+/// container that has `data()` as well is made with the number of its elements, like a vector, and the
+/// elements are then assigned.
 ///
 /// A `bool fromText(const char*, T&, const char*& must)` says as well what a text must be that it refuses, as
 /// in "must be two numbers": it makes `must` "two numbers", a text that lives until the next call, or leaves
@@ -76,8 +77,8 @@ public:
 
     ///@{
     /// The value: the last one given, all elements of a list, or the initial one. What is given to a list
-    /// takes the place of its initial elements. Behind a mistake on the command line nothing is taken any
-    /// more, and no list holds some of its elements.
+    /// takes the place of its initial elements. Nothing is taken behind the first mistake on the command
+    /// line; a list that was filled in part then holds its initial elements again.
     const T& operator*() const {
         return m_state != nullptr ? *static_cast<const T*>(m_state->target) : nothing();
     }
@@ -139,8 +140,8 @@ public:
         return *this;
     }
 
-    /// What else a value must be, as in "must be even". `accepts` is given each element, and returns a
-    /// bool; it is called while the command line is parsed.
+    /// Refuses other values with "must be" and `must`, as in `check("even", isEven)`. `accepts` is given each
+    /// element, and returns a bool; it is called while the command line is parsed.
     template <class F>
     Handle check(const char* must, F accepts) const {
         static_assert(values::isCallable<bool, const F&, void(const Element&)>,
@@ -267,8 +268,9 @@ public:
         return Handle<T>(engine::addPlain(m_record, engine::roleOption, names, description,
                                           &values::shapeForCounter<T>, nullptr, nullptr));
     }
-    /// An option whose values go into `variable`, which outlives the program. What it holds now is what
-    /// it holds again at the beginning of every parse.
+    /// An option whose values go into `variable`. What it holds now is what it holds again at the beginning
+    /// of every parse. It lives at every parse, and when the handle is read; the destructor of the program
+    /// does not touch it.
     template <class T>
     Handle<T> bind(const char* names, T& variable, const char* description) {
         return addBound<T>(engine::roleOption, names, description, variable);
@@ -298,15 +300,16 @@ public:
         static_assert(values::isList<T>, "tarv: rest() is for lists");
         return add<T>(engine::roleRest, name, description);
     }
-    /// One of several things that the command does, of which a command line names one: "tar --list". It
-    /// is a program of actions or of verbs, not of both.
+    /// One of several things that the command does, of which a command line names one: "tar --list". A
+    /// program has actions or verbs, not both.
     template <class T = bool>
     Handle<T> action(const char* names, const char* description) {
         return add<T>(engine::roleAction, names, description);
     }
 
     /// A verb, as "log" of "vcs log": the first argument without a name, which may be cut short. It has
-    /// options of its own, and all of those above it, which may stand in front of it as well.
+    /// options of its own, and all of those above it, which may stand in front of it as well. A command
+    /// with verbs has no arguments without a name.
     Command& verb(const char* names, const char* description) {
         engine::Command* const record = engine::addVerb(m_record, names, description);
         return record != nullptr ? *new (engine::faceOf(record)) Command(record) : nothing();
@@ -325,8 +328,9 @@ public:
     }
 
     ///@{
-    /// Rules over several options of this command and of those above it. Where the command line excludes
-    /// what only the environment or a settings file gave, that is not given.
+    /// Rules over several options of this command and of those above it. Where sources contradict each
+    /// other the stronger one wins: what the command line excludes counts as not given when only the
+    /// environment or a settings file gave it.
     template <class... T>
     Command& atMostOne(Handle<T>... options) {
         return rule(engine::atMostOne, options.option()...);
@@ -420,7 +424,7 @@ public:
     /// What `run` would return; 0 when the program goes on.
     int exitCode() const { return m_result.exitCode; }
     ///@{
-    /// What `run` would print in a pipe.
+    /// What `run` would print in a pipe. Help is 80 columns wide, unless the variable COLUMNS says otherwise.
     const char* output() const { return m_result.output; }
     const char* errors() const { return m_result.errors; }
     ///@}
@@ -437,8 +441,8 @@ private:
 /// go with it.
 ///
 /// Where nothing that was declared fits, "--help", "-h" and, with a version, "--version" are known by
-/// themselves, also cut short, and with verbs "help VERB". They answer before any complaint; only behind
-/// "help" a word that is no verb is refused.
+/// themselves, also cut short, and with verbs "help VERB". They win over every mistake on the command line,
+/// with one exception: "help WORD" is refused where WORD is no verb.
 ///
 /// Requests of shells are answered, too: "tarvoption=completion=bash" and the others of
 /// `tarv_3_3/completion.h`.
@@ -447,14 +451,16 @@ private:
 /// lone "-" is a value; "--title=" has an empty value; only lists are split at commas. Where arguments
 /// without a name are numbers, "-5" is one of them unless an option has that name.
 ///
-/// With "tarvoption=tarvlogenable=1" as the first argument, standard error says what each argument is.
+/// With "tarvoption=tarvlogenable=1" as the first argument, standard error says what each argument is. With
+/// TARV_ABBREVIATIONS=warn or =error in the environment, names that are cut short are warned of or refused.
 class Program : public Command {
 public:
     /// The name is the one in messages. A null version is none.
     explicit Program(const char* name, const char* version = nullptr, const char* description = "")
         : Command(engine::createProgram(name, version, description)) {}
     ///@{
-    /// Takes the other's declarations over; what that one has then says that there is no memory.
+    /// The constructor takes the declarations over; the other one then ends every parse as without memory.
+    /// The assignment exchanges the declarations of both.
     Program(Program&& other) noexcept : Command(other.m_record) { other.m_record = nullptr; }
     Program& operator=(Program&& other) noexcept {
         engine::Command* const record = m_record;
@@ -470,7 +476,7 @@ public:
         engine::setJoinLetters(m_record);
         return *this;
     }
-    /// A file of settings, weaker than the environment, which need not be there. A line is an option or an
+    /// A file of settings. It may be missing, and is weaker than the environment. A line is an option or an
     /// action as on the command line, its dashes left out or not, by its whole name: "max-count=5"; one for a
     /// verb is "log.max-count=5". Lines that are blank or begin with '#' or ';' are comments. All lines are
     /// checked.
@@ -478,7 +484,8 @@ public:
         engine::setSettingsFile(m_record, path);
         return *this;
     }
-    /// An option that names one more file of settings, stronger than the other, which must be there.
+    /// An option that names one more file of settings. That file must exist, and is stronger than the one of
+    /// `settingsFile`.
     template <class T = Text>
     Handle<T> settingsOption(const char* names, const char* description) {
         static_assert(values::isText<T>, "tarv: the name of a settings file is a text or a path");

@@ -57,7 +57,8 @@ struct Choice {
 };
 
 /// Specialize it with `static constexpr Choice<E> list[]` for an enumeration that the compiler cannot
-/// name: one whose values do not count up from 0 to 127 at most, or whose names are longer than 63 bytes.
+/// name: one whose values do not count up from 0 to 127 at most, whose names are longer than 63 bytes, or
+/// which is over `bool` or has no fixed underlying type.
 template <class E>
 struct Names;
 
