@@ -100,6 +100,17 @@ TEST_F(StoredEntries, ShareNothingOnceTheyWereStoredApart) {
     }
 }
 
+// Otherwise each of many values that a handler stores under one name would cost a copy of those before it.
+TEST_F(StoredEntries, AreNotCopiedOnceTheyAreApart) {
+    entries.store({"a", "b"}, occurrences({1}));
+    entries.store({"a"}, occurrences({2}));
+    const internal::Entries::Group* const first = &entries[0].group();
+    const internal::Entries::Group* const second = &entries[1].group();
+    entries.store({"a", "b"}, occurrences({3}));
+    EXPECT_EQ(&entries[0].group(), first);
+    EXPECT_EQ(&entries[1].group(), second);
+}
+
 TEST_F(StoredEntries, HaveADefaultEachAndShareWhatIsGivenLater) {
     int position = 4;
     const auto makeDefault = [&] { return internal::Entries::Default{"7", std::int32_t{7}, ++position}; };
