@@ -4,7 +4,6 @@
 #   test       what the tests need besides
 #   ci         what only .ci/run needs besides
 #   coverage   what tools/coverage.sh needs besides the tests
-#   memcheck   what tools/memcheck.sh needs besides the tests
 #   benchmark  what the benchmarks need besides a build
 #   peers      the libraries that the benchmarks compare with
 set -euo pipefail
@@ -13,10 +12,9 @@ declare -A groups=(
     [build]="g++ cmake ninja-build nlohmann-json3-dev"
     [test]="abigail-tools bash-completion clang doxygen fish googletest libboost-program-options-dev
         libclang-rt-14-dev libcli11-dev libcxxopts-dev libgtest-dev man-db mandoc pkg-config python3
-        python3-jsonschema shfmt zsh"
+        python3-jsonschema shfmt valgrind zsh"
     [ci]="ccache clang-format clang-tidy cppcheck dpkg-dev file lintian shellcheck"
     [coverage]="gcovr"
-    [memcheck]="valgrind"
     [benchmark]="git gnuplot-nox libbenchmark-dev python3 time valgrind"
     [peers]="libabsl-dev libargtable2-dev libboost-program-options-dev libcli11-dev libcxxopts-dev
         libgflags-dev libpopt-dev libtclap-dev llvm-14-dev"
