@@ -133,7 +133,7 @@ private:
     void callParser(char what, ParserSlot& slot, Input& fields);
     void callResult(char what, ResultSlot& slot, Input& fields);
     void refine(ParserSlot& slot, char builder, Input& fields);
-    static void declare(char what, ParserSlot& slot, Input& fields);
+    void declare(char what, ParserSlot& slot, Input& fields);
     void parse(char what, ParserSlot& slot, Input& fields);
     int parseAs(char what, IParser& parser, IParseResult* result, const std::vector<std::string>& arguments);
     void iterate(ResultSlot& slot, const char* name, int lo, int hi) const;
@@ -250,7 +250,7 @@ void Script::declare(char what, ParserSlot& slot, Input& fields) {
                     : &parser.modifier(orNull(names), orNull(tags), orNull(description), kind, orNull(topic));
     slot.namesOfLast.clear();
     for (Input each(reinterpret_cast<const std::uint8_t*>(names.data()), names.size()); !each.empty();) {
-        slot.namesOfLast.insert(each.until(','));
+        m_mayRepeatNames = !slot.namesOfLast.insert(each.until(',')).second || m_mayRepeatNames;
     }
     require(slot.last->m_status == declarationStored || slot.last->m_status == declarationRefused,
             "status of IOption");
