@@ -20,8 +20,7 @@ public:
 
     /// A piece of `size` bytes. `alignment` is at most that of any fundamental type.
     void* take(std::size_t size, std::size_t alignment) {
-        const std::size_t misplaced = reinterpret_cast<std::uintptr_t>(m_next) % alignment;
-        const std::size_t padding = misplaced != 0 ? alignment - misplaced : 0;
+        const std::size_t padding = -reinterpret_cast<std::uintptr_t>(m_next) % alignment;
         const auto left = static_cast<std::size_t>(m_end - m_next);
         if (padding > left || size > left - padding) {
             return takeFromNewBlock(size);

@@ -36,20 +36,21 @@ public:
 
     /// The entry of `text`, made with `Value()` if there is none.
     Entry& insert(const HashedText& text) {
-        // A quarter of the slots stays free, which keeps searches short.
-        if (4 * m_size >= 3 * m_slots.size()) {
+        if (m_room == 0) {
             grow();
         }
         Entry*& slot = m_slots[slotOf(text)];
         if (slot == nullptr) {
             slot = makeEntry(text);
-            ++m_size;
+            --m_room;
         }
         return *slot;
     }
 
     /// Null when there is none.
-    const Entry* find(const HashedText& text) const { return m_size != 0 ? m_slots[slotOf(text)] : nullptr; }
+    const Entry* find(const HashedText& text) const {
+        return !m_slots.empty() ? m_slots[slotOf(text)] : nullptr;
+    }
 
     /// The total number of slots that searches for all entries skip. A measure of how well the hash spreads.
     std::size_t distances() const {
@@ -74,19 +75,31 @@ private:
         return slot;
     }
 
+    // Where an entry that differs from all others goes.
+    std::size_t freeSlot(std::size_t hash) const {
+        const std::size_t mask = m_slots.size() - 1;
+        std::size_t slot = hash & mask;
+        while (m_slots[slot] != nullptr) {
+            slot = (slot + 1) & mask;
+        }
+        return slot;
+    }
+
     static bool isEntryOf(const Entry& entry, const HashedText& text) {
         return entry.hash == text.hash && entry.size == text.text.size() &&
                std::memcmp(entry.bytes(), text.text.data(), text.text.size()) == 0;
     }
 
-    void grow() {
+    // Not inlined, so that the other insertions need not save registers for it.
+    [[gnu::noinline]] void grow() {
         Slots slots(std::max(firstSlots, 2 * m_slots.size()), m_slots.get_allocator());
         m_slots.swap(slots);
         for (Entry* const entry : slots) {
             if (entry != nullptr) {
-                m_slots[slotOf(entry->text())] = entry;
+                m_slots[freeSlot(entry->hash)] = entry;
             }
         }
+        m_room = (m_slots.size() - slots.size()) / 4 * 3;
     }
 
     Entry* makeEntry(const HashedText& text) {
@@ -104,7 +117,9 @@ private:
     Arena& m_memory;
     /// Their number is a power of two. A free slot is null.
     Slots m_slots;
-    std::size_t m_size = 0;
+    /// How many entries fit in before the slots have to grow. A quarter of the slots stays free, which keeps
+    /// searches short.
+    std::size_t m_room = 0;
 };
 
 } // namespace tarv_3_3::internal
