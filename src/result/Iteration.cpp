@@ -82,27 +82,32 @@ Value Iteration::next() {
         return Value();
     }
     if (const Entries::Default* const found = foundDefault()) {
-        if (!isDefaultDue()) {
-            return Value();
-        }
-        Value given = value(found->text.get<const char*>(), found->value, found->position);
-        m_lowerBound = 0;
-        return given;
+        return nextDefault(*found);
     }
     return group().values.empty() ? nextOccurrence() : nextValue();
 }
 
-Value Iteration::nextValue() {
-    const auto& values = group().values;
-    m_value = firstNotBelow(group(), m_value, m_lowerBound);
-    // Here the upper bound is inclusive. Where an iteration starts, it is exclusive.
-    if (m_value >= values.size() || values[m_value].position > m_upperBound) {
+Value Iteration::nextDefault(const Entries::Default& found) {
+    if (!isDefaultDue()) {
         return Value();
     }
-    const StoredValue& found = values[m_value];
-    Value given = value(found.text(), found.value, found.position);
-    ++m_value;
+    Value given = value(found.text.get<const char*>(), found.value, found.position);
+    m_lowerBound = 0;
     return given;
+}
+
+Value Iteration::nextValue() {
+    const auto& values = group().values;
+    const std::size_t index = firstNotBelow(group(), m_value, m_lowerBound);
+    // Here the upper bound is inclusive. Where an iteration starts, it is exclusive.
+    if (index >= values.size() || values[index].position > m_upperBound) {
+        m_value = index;
+        return Value();
+    }
+    const StoredValue& found = values[index];
+    const char* const text = m_garbage.init(found.text());
+    m_value = index + 1;
+    return {text, found.value, found.position};
 }
 
 Value Iteration::nextOccurrence() {

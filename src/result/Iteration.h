@@ -52,6 +52,8 @@ private:
     bool hasEntry() const { return m_entry != Entries::noEntry; }
     const Entries::Group& group() const { return m_entries[m_entry].group(); }
     Value value(const char* text, const variant_t& typed, int position);
+    /// Not inlined, so that `next` needs no stack for it.
+    [[gnu::noinline]] Value nextDefault(const Entries::Default& found);
     Value nextValue();
     Value nextOccurrence();
 
