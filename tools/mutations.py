@@ -4,7 +4,8 @@ import re
 from dataclasses import dataclass
 
 TOKEN = re.compile(r"""
-    (?P<skip>//[^\n]* | /\*.*?\*/ | ^[ \t]*\#[^\n]* | \s+)
+    (?P<skip>//[^\n]* | /\*.*?\*/ | ^[ \t]*\#[^\n]* | \s+
+           | \bstatic_assert\((?:"(?:\\.|[^"\\\n])*"|[^";])*;) # holds while compiling, or there is no program
   | (?P<string>"(?:\\.|[^"\\\n])*") | (?P<char>'(?:\\.|[^'\\\n])+')
   | (?P<number>\d[\w.']*) | (?P<word>[A-Za-z_]\w*)
   | (?P<sign><<=|>>=|\+\+|--|->|::|&&|\|\||<<|>>|[-+*/%&|^=!<>]=|.)
@@ -198,14 +199,17 @@ def do_not_meet(one, other):
     """Whether nobody can tell in which order two statements are: each sets something that the other does not name."""
     targets = target_of(one), target_of(other)
     if None in targets:
-        return any(is_plain_declaration(statement) for statement in (one, other))
+        return is_plain_declaration(one, other) or is_plain_declaration(other, one)
     return targets[0] not in [token.text for token in other.tokens] \
         and targets[1] not in [token.text for token in one.tokens]
 
 
-def is_plain_declaration(statement):
+def is_plain_declaration(statement, other):
+    """Whether it declares a variable without a value, or with that of one word, no member, that `other` does not name."""
     words = [token.text for token in statement.tokens]
-    return target_of(statement) is not None and "=" not in words and len(words) > 1
+    declared, _, value = " ".join(words).partition(" = ")
+    return target_of(statement) is not None and re.fullmatch(r"[\w :<>*&]+ \w+", declared) is not None \
+        and re.fullmatch(r"(?!m_)[\w.]*", value) is not None and value not in [token.text for token in other.tokens]
 
 
 def order_changes(text, tokens):

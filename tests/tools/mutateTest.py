@@ -17,6 +17,7 @@ bool isSmall(const std::vector<int>& list) {
 }
 
 constexpr std::size_t typicalSize = 4;
+static_assert(typicalSize > 2, "too small; a list has 3");
 
 void makeRoom(std::vector<int>& list) {
     list.reserve(2 * typicalSize);
@@ -134,6 +135,10 @@ void work() {
     finish(count);
     count = first;
     limit = second;
+    bool isDone = false;
+    end();
+    int left = m_left;
+    run();
 }
 
 void show(Garbage* garbage, const char*& shown) {
@@ -204,6 +209,26 @@ src/toy/moves.cpp
 
 src/toy/moves.cpp
 - limit = second;
++ ;
+
+src/toy/moves.cpp
+- bool isDone = false;
++ bool isDone = true;
+
+src/toy/moves.cpp
+- end();
++ ;
+
+src/toy/moves.cpp
+- end(); int left = m_left;
++ int left = m_left; end();
+
+src/toy/moves.cpp
+- int left = m_left; run();
++ run(); int left = m_left;
+
+src/toy/moves.cpp
+- run();
 + ;
 
 src/toy/moves.cpp
