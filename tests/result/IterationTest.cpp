@@ -91,6 +91,13 @@ TEST_F(IterationOverEntries, BeginsBelowTheUpperBoundAndEndsAtIt) {
     }
 }
 
+TEST_F(IterationOverEntries, PassesOverLaterValuesBelowTheLowerBoundWithoutGoingBack) {
+    entries.store({"level"}, occurrences({5}, {{"a", 6}, {"b", 7}}));
+    entries.store({"level"}, occurrences({1}, {{"c", 2}, {"d", 8}}));
+    EXPECT_EQ(givenTo("level", 5, INT_MAX), "\"a\"@6 \"b\"@7 \"d\"@8");
+    EXPECT_EQ(::describe(iteration.next()), "missing");
+}
+
 TEST_F(IterationOverEntries, GivesOccurrencesWithoutValuesWhateverTheUpperBound) {
     entries.store({"verbose"}, occurrences({1}));
     entries.store({"verbose"}, occurrences({3}));
