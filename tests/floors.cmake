@@ -1,5 +1,7 @@
 # Fails when a file under `root`/include or `root`/src includes one of a higher floor, or <memory_resource>,
-# whose default resource belongs to the host: what is allocated from it may be refused, or go too early.
+# whose default resource belongs to the host: what is allocated from it may be refused, or go too early. Fails
+# as well where a hash table of texts has the hash of the standard library: that one has no key, so whoever
+# supplies the texts can make all of them collide.
 cmake_minimum_required(VERSION 3.25)
 
 set(floor_dovel2 0)
@@ -29,6 +31,11 @@ foreach(file IN LISTS files)
     if(lines)
         string(APPEND wrong "  ${file} includes <memory_resource>; see platform/Arena.h\n")
     endif()
+    file(STRINGS ${root}/${file} lines REGEX "unordered_(map|set)<std::string")
+    list(FILTER lines EXCLUDE REGEX "TextHash")
+    if(lines)
+        string(APPEND wrong "  ${file} hashes texts without a key; see platform/hashOf.h\n")
+    endif()
     file(STRINGS ${root}/${file} lines REGEX "^[ \t]*#[ \t]*include[ \t]*\"")
     foreach(line IN LISTS lines)
         math(EXPR count "${count} + 1")
@@ -47,7 +54,7 @@ if(count EQUAL 0)
     message(FATAL_ERROR "No includes found under ${root}")
 endif()
 if(wrong)
-    message("Includes that do not point down, or are not allowed:\n${wrong}")
+    message("What does not point down, or is not allowed:\n${wrong}")
     message(FATAL_ERROR "The floors are not kept.")
 endif()
 message("${count} includes, none points up.")

@@ -6,6 +6,7 @@
 
 #include "completion/KeptCompletion.h"
 #include "options/OptionDescription.h"
+#include "platform/hashOf.h"
 #include "reading/Reader.h"
 #include "tarv_3_3/completion.h"
 #include "tarv_3_3/internal/Garbage.h"
@@ -49,7 +50,7 @@ private:
     std::string m_before;
     std::string m_piece;
     /// Values that are offered or in the list already.
-    std::unordered_set<std::string> m_known;
+    std::unordered_set<std::string, internal::TextHash> m_known;
     std::vector<std::string> m_texts;
     KeptCompletion* m_kept = nullptr;
     /// Whether the list has an element that no parse takes.

@@ -2,6 +2,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <string>
 #include <string_view>
 
 namespace tarv_3_3::internal {
@@ -19,6 +20,11 @@ std::size_t hashOf(std::string_view text, const HashKey& key);
 
 /// The hash with the key of the process, which is random. Nothing that a host can observe may depend on it.
 std::size_t hashOf(std::string_view text);
+
+/// For the hash tables of the standard library. Their own hash of texts has no key.
+struct TextHash {
+    std::size_t operator()(const std::string& text) const { return hashOf(text); }
+};
 
 /// A text and its hash with the key of the process.
 struct HashedText {

@@ -89,10 +89,6 @@ private:
         std::string name;
     };
 
-    struct Hash {
-        std::size_t operator()(const std::string& text) const { return internal::hashOf(text); }
-    };
-
     ReadArgument lookAtPlain() const;
     ReadArgument lookAtName(const std::string& argument, const std::string* next);
     Match match(const std::string& argument, Token& token);
@@ -107,7 +103,7 @@ private:
     NameMatcher m_matcher;
     SpaceClassifier m_classifier;
     /// The key is the name with the dashes in front of it.
-    std::unordered_map<std::string, Match, Hash> m_remembered;
+    std::unordered_map<std::string, Match, internal::TextHash> m_remembered;
     /// The option whose value comes next.
     std::size_t m_awaiting = ReadArgument::nowhere;
     bool m_isFirst = true;

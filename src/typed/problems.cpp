@@ -1,6 +1,7 @@
 #include "typed/problems.h"
 
 #include <algorithm>
+#include <set>
 #include <string_view>
 #include <unordered_set>
 
@@ -254,7 +255,7 @@ private:
     }
 
     void lookAtVerbs(const Command& command) {
-        std::unordered_set<std::string_view> names;
+        std::set<std::string_view> names;
         for (const std::unique_ptr<Command>& verb : command.verbs) {
             for (const std::string& name : verb->names) {
                 lookAtName(name);

@@ -21,9 +21,10 @@ endfunction()
 
 expect(orderly TRUE "3 includes, none points up.\n")
 expect(upward FALSE [[
-Includes that do not point down, or are not allowed:
+What does not point down, or is not allowed:
   include/tarv_3_3/ground.h (floor 0) includes platform/below.h (floor 1)
   src/options/above.h includes ground.h, which is not written from include/ or src/
+  src/options/beside.h hashes texts without a key; see platform/hashOf.h
   src/platform/below.h includes <memory_resource>; see platform/Arena.h
   src/platform/below.h (floor 1) includes options/above.h (floor 2)
 

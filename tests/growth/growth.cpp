@@ -2,9 +2,11 @@
 //   growth             lists the things
 //   growth NAME COUNT
 
+#include <cstdint>
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -257,6 +259,42 @@ void offerManyOptions(std::size_t count) {
     release(offered);
 }
 
+// Texts of which an outsider knows that std::hash<std::string> is the same for all. The second of two words
+// is made to fit the first: every step of that hash can be undone.
+std::vector<std::string> chosenTexts(std::size_t count) {
+    constexpr std::uint64_t factor = 0xC6A4A7935BD1E995;
+    std::uint64_t inverse = 1;
+    for (int i = 0; i < 6; ++i) {
+        inverse *= 2 - factor * inverse;
+    }
+    const auto fold = [](std::uint64_t word) { return word ^ word >> 47; };
+    std::vector<std::string> texts;
+    for (std::uint64_t number = 1; texts.size() < count; ++number) {
+        const std::uint64_t first = number * 0x0123456789ABCDEF;
+        const std::uint64_t start = 0xC70F6907 ^ 16 * factor;
+        const std::uint64_t before = (start ^ fold(first * factor) * factor) * factor;
+        const std::uint64_t second = fold((before ^ 0x1234) * inverse) * inverse;
+        std::string text(16, '\0');
+        std::memcpy(&text[0], &first, 8);
+        std::memcpy(&text[8], &second, 8);
+        if (text.find('\0') == std::string::npos && text.find(',') == std::string::npos) {
+            demand(texts.empty() || std::hash<std::string>()(text) == std::hash<std::string>()(texts[0]));
+            texts.push_back(text);
+        }
+    }
+    return texts;
+}
+
+void completeAListOfChosenTexts(std::size_t count) {
+    Session session;
+    session.parser->option("option", "", vtString);
+    const std::string word = "--option=" + joined(chosenTexts(count), ',') + ",v";
+    const char* const words[] = {"program", word.c_str()};
+    const Completion* const offered = complete(session.parser, 2, words);
+    demand(offered->files == completeFiles && offered->fileOffset == word.size() - 1);
+    release(offered);
+}
+
 void explainManyArguments(std::size_t count) {
     Session session;
     session.parser->option("option", "", vtInt32);
@@ -356,6 +394,7 @@ constexpr Thing things[] = {
     {"showHelpOfManySynonyms", showHelpOfManySynonyms},
     {"describeManyOptions", describeManyOptions},
     {"offerManyOptions", offerManyOptions},
+    {"completeAListOfChosenTexts", completeAListOfChosenTexts},
     {"explainManyArguments", explainManyArguments},
     {"explainANameThatRepeats", explainANameThatRepeats},
     {"takeManyFiles", takeManyFiles},
