@@ -3,6 +3,7 @@
 #include <fcntl.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <cerrno>
 #include <system_error>
 
@@ -47,7 +48,8 @@ std::string OpenFile::read() const {
 
 std::string readAll(int descriptor, std::size_t expectedSize) {
     std::string contents;
-    contents.reserve(expectedSize);
+    // What no text can hold is too much for the memory as well.
+    contents.reserve(std::min(expectedSize, contents.max_size()));
     char block[65536];
     for (;;) {
         const ssize_t size = ::read(descriptor, block, sizeof block);

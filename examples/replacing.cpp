@@ -20,20 +20,23 @@ namespace seek {
 
 namespace {
 
-/// What ends a program from outside, unless it says something else.
-constexpr int endingSignals[] = {SIGHUP,  SIGINT,    SIGQUIT, SIGTERM, SIGALRM,   SIGUSR1, SIGUSR2, SIGXCPU,
-                                 SIGXFSZ, SIGVTALRM, SIGPROF, SIGPIPE, SIGSTKFLT, SIGIO,   SIGPWR};
+/// Those that do not end a program unless it says so, and those of a crash, which cannot wait.
+constexpr int undeferredSignals[] = {SIGCHLD, SIGCONT, SIGTSTP, SIGTTIN, SIGTTOU, SIGURG, SIGWINCH,
+                                     SIGBUS,  SIGFPE,  SIGILL,  SIGSEGV, SIGSYS,  SIGTRAP};
 
 /// Keeps the signals that end the program waiting until it is destroyed. Those that the program was
-/// started to ignore, as nohup does, stay ignored.
+/// started to ignore, as nohup does, stay ignored. Nothing keeps SIGKILL and SIGSTOP.
 class DeferredSignals {
 public:
     DeferredSignals() {
-        sigemptyset(&m_deferred);
-        for (const int number : endingSignals) {
+        sigfillset(&m_deferred);
+        for (const int number : undeferredSignals) {
+            sigdelset(&m_deferred, number);
+        }
+        for (int number = 1; number <= SIGRTMAX; ++number) {
             struct sigaction action = {};
-            if (sigaction(number, nullptr, &action) == 0 && action.sa_handler != SIG_IGN) {
-                sigaddset(&m_deferred, number);
+            if (sigaction(number, nullptr, &action) == 0 && action.sa_handler == SIG_IGN) {
+                sigdelset(&m_deferred, number);
             }
         }
         sigprocmask(SIG_BLOCK, &m_deferred, &m_before);
@@ -45,8 +48,13 @@ public:
     bool isOneWaiting() const {
         sigset_t waiting;
         sigpending(&waiting);
-        sigandset(&waiting, &waiting, &m_deferred);
-        return sigisemptyset(&waiting) == 0;
+        // One by one: sigisemptyset of older C libraries does not see the signals from 33 on.
+        for (int number = 1; number <= SIGRTMAX; ++number) {
+            if (sigismember(&waiting, number) == 1 && sigismember(&m_deferred, number) == 1) {
+                return true;
+            }
+        }
+        return false;
     }
 
 private:

@@ -3,7 +3,9 @@
 #include <gtest/gtest.h>
 #include <sys/stat.h>
 
+#include <cstddef>
 #include <filesystem>
+#include <new>
 #include <string>
 
 #include "support/TemporaryDirectory.h"
@@ -57,6 +59,12 @@ TEST(OpenFile, FollowsLinksAndReadsDevicesOtherwise) {
     EXPECT_EQ(outcome(link, OpenFile::Kind::any), "text");
     EXPECT_EQ(outcome("/dev/null", OpenFile::Kind::any), "");
     EXPECT_EQ(outcome(directory.pathOf(""), OpenFile::Kind::any), "Is a directory");
+}
+
+TEST(OpenFile, RunsOutOfMemoryOverAFileThatNoTextCanHold) {
+    const TemporaryDirectory directory;
+    const OpenFile file(directory.write("file", "text"), OpenFile::Kind::regular);
+    EXPECT_THROW(readAll(file.descriptor(), std::size_t(5) << 60), std::bad_alloc);
 }
 
 TEST(OpenFile, KeepsWhatTheFileWasWhenItWasOpened) {

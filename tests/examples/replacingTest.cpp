@@ -437,9 +437,10 @@ int statusOfReplacing(const std::string& path) {
     return status;
 }
 
-// Every one that ends a program from outside. SIGXFSZ, which the program causes itself, has a test below.
-const int endingSignals[] = {SIGHUP,  SIGINT,    SIGQUIT, SIGTERM, SIGALRM,   SIGUSR1, SIGUSR2,
-                             SIGXCPU, SIGVTALRM, SIGPROF, SIGPIPE, SIGSTKFLT, SIGIO,   SIGPWR};
+// Those that end a program from outside. SIGXFSZ, which the program causes itself, has a test below.
+const int endingSignals[] = {SIGHUP,    SIGINT,  SIGQUIT, SIGTERM,   SIGALRM, SIGUSR1,
+                             SIGUSR2,   SIGABRT, SIGXCPU, SIGVTALRM, SIGPROF, SIGPIPE,
+                             SIGSTKFLT, SIGIO,   SIGPWR,  SIGRTMIN,  SIGRTMAX};
 
 TEST_F(ReplaceFile, LeavesTheOldTextOnASignalBeforeTheNewOneIsWritten) {
     for (const int number : endingSignals) {
