@@ -141,6 +141,13 @@ std::string withEnd(std::size_t end, std::uint64_t number) {
     return text;
 }
 
+// All of a family differ in one bit from the same text.
+std::string withOneBit(std::uint64_t number) {
+    std::string text(familySize / 8, 'x');
+    text[number / 8] = static_cast<char>(text[number / 8] ^ 1 << number % 8);
+    return text;
+}
+
 // Each number stands for three bits that are turned, in ascending order; the others for no text.
 std::string withBits(std::size_t size, std::uint64_t number) {
     std::string text(size, 'x');
@@ -193,6 +200,7 @@ const Family families[] = {
     {"8 bytes in common at the end", [](std::uint64_t i) { return withEnd(8, i); }},
     {"64 bytes in common at the end", [](std::uint64_t i) { return withEnd(64, i); }},
     {"high bits of a word alone", [](std::uint64_t i) { return withEnd(0, i << 40); }},
+    {"one bit turned in 12,500 bytes", withOneBit},
     {"bits turned in 16 bytes", [](std::uint64_t i) { return withBits(16, i); }},
     {"bits turned in 48 bytes", [](std::uint64_t i) { return withBits(48, i); }},
     {"words like zero, three", [](std::uint64_t i) { return likeZero(3, i); }},

@@ -48,6 +48,15 @@ long peakOfParsing(Session& session, const std::vector<std::string>& arguments) 
     return peak;
 }
 
+unsigned countValues(Session& session) {
+    unsigned count = 0;
+    for (Value value = session.result->get("list"); value.text != nullptr;
+         value = session.result->next("list")) {
+        ++count;
+    }
+    return count;
+}
+
 TEST(MemoryOfLists, StaysBelowWhatHostsAreTold) {
     const struct {
         das_variant_type_t kind;
@@ -69,6 +78,26 @@ TEST(MemoryOfLists, StaysBelowWhatHostsAreTold) {
         EXPECT_LE(peak / long(valueCount), row.mostBytes);
         EXPECT_GT(peak / long(valueCount), row.mostBytes / 2);
         EXPECT_EQ(getLastValue(session.result, "list").text, valueOf(valueCount - 1, row.width));
+    }
+}
+
+TEST(MemoryOfLists, StaysBelowWhatHostsAreToldOfReading) {
+    const struct {
+        std::size_t width;
+        long mostBytes;
+    } rows[] = {{6, 70}, {16, 85}};
+    for (const auto& row : rows) {
+        SCOPED_TRACE(std::to_string(row.width) + " bytes");
+        Session session;
+        open(session);
+        session.parser->option("list", "", vtString);
+        peakOfParsing(session, argumentsOf(row.width, true));
+        failing::forgetPeak();
+        const long before = failing::liveBytes();
+        EXPECT_EQ(countValues(session), valueCount);
+        const long perValue = (failing::peakBytes() - before) / long(valueCount);
+        EXPECT_LE(perValue, row.mostBytes);
+        EXPECT_GT(perValue, row.mostBytes / 2);
     }
 }
 
