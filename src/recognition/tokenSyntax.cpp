@@ -29,7 +29,7 @@ struct DashText {
     std::string_view view() const { return {bytes, size}; }
 };
 
-// "-1" would be the report of a failed encoding and must not count as a dash.
+// The text "-1" counts as "?" here, as a whole text to parse does. No dash of the table is encoded so.
 DashText dashText(char32_t codePoint) {
     const ustring8 text = MERO_2_16::strings::utf32_to_utf8(ustring32(1, codePoint));
     DashText dash;
