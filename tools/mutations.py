@@ -30,7 +30,7 @@ REMOVABLE = re.compile(r"(\w+(::\w+)*\s*(\(|\.|->|\[|[-+|&]?=[^=]|\+\+|--)"
 ROOM = re.compile(r"\.reserve\(|^constexpr std::size_t (typical|expected|first|growth)\w* = \d+;$")
 
 # What `return {};` returns as well.
-EMPTY_VALUES = {"{}", "nullptr", "Value()", "parseOk", "valueFound", "remarkStored",
+EMPTY_VALUES = {"{}", "nullptr", "std::nullopt", "Value()", "parseOk", "valueFound", "remarkStored",
                 "NameOutcome::found"}
 
 

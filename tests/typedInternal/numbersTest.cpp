@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <string>
+
 namespace {
 
 using namespace tarv_3_3::typed::engine;
@@ -42,6 +44,8 @@ TEST(Numbers, ADurationInAnOddUnitIsScaledExactly) {
     EXPECT_EQ(readDuration("100ms", {1, 4}, count), DurationOutcome::inexact);
     EXPECT_EQ(readDuration("0.0000000000000000000000000000000000000000000001s", {1, 4}, count),
               DurationOutcome::inexact);
+    const std::string with128Places = "0." + std::string(127, '0') + "1s";
+    EXPECT_EQ(readDuration(with128Places, {1, 4}, count), DurationOutcome::inexact);
     EXPECT_EQ(readDuration("99999999999999999999s", {1, 4}, count), DurationOutcome::tooLarge);
     EXPECT_EQ(readDuration("9223372036854775807d", {1, 4}, count), DurationOutcome::tooLarge);
     EXPECT_EQ(readDuration("", {1, 1}, count), DurationOutcome::notOne);
@@ -69,6 +73,7 @@ TEST(Numbers, ADurationIsReadWithItsSignItsFractionAndItsUnit) {
                 {"9s", {1, 1000000000000000000}, DurationOutcome::read, 9000000000000000000},
                 {"1d", {1, 1000000000000000000}, DurationOutcome::tooLarge, 0},
                 {"9223372036854775807d", {1, 1000000000000000000}, DurationOutcome::tooLarge, 0},
+                {"576460752303423488d", {1, 4611686018427387904}, DurationOutcome::tooLarge, 0},
                 {"1000000000000000000s", {1000000000000000000, 1}, DurationOutcome::read, 1},
                 {"9223372036854775807ns", {1000000000000000000, 1}, DurationOutcome::inexact, 0},
                 {"3", {1, 1}, DurationOutcome::noUnit, 0},
