@@ -152,6 +152,7 @@ public:
 
     /// An environment variable that it is read from when the command line does not give it. An empty
     /// variable counts as unset; a switch reads 1, true, yes, on or their contraries, a counter a number.
+    /// Of a positional list it is one argument.
     Handle env(const char* variable) const {
         return refine(engine::refineEnvironment, variable);
     }
@@ -163,7 +164,8 @@ public:
     Handle hidden() const {
         return refine(engine::refineHidden);
     }
-    /// What separates the elements of a list, ',' at first; '\0' for nothing.
+    /// What separates the elements of an option's list, ',' at first; '\0' for nothing. A positional list
+    /// has each argument as one element.
     Handle separator(char character) const {
         static_assert(values::isList<T>, "tarv: separator() is for lists");
         const char text[] = {character, '\0'};

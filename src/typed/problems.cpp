@@ -171,6 +171,10 @@ private:
         if (option.most != 0 && option.least > option.most) {
             add(option.name(), "it takes fewer arguments at most than at least");
         }
+        if (option.isPositional() && option.least > 1 && !option.environment.empty()) {
+            add(option.name(), "it takes at least " + std::to_string(option.least) +
+                                   " arguments, and its environment variable holds one");
+        }
         if (!option.completeAs.empty() && !isOneOf(option.completeAs, {"file", "directory", "none"})) {
             add(option.name(), "shells complete \"file\", \"directory\" or \"none\"");
         }

@@ -159,8 +159,7 @@ void checkOption(const Option& option, const Option* action, CommandLine& line) 
     if (isMissing && goesWith(option, action)) {
         line.complain(option.isPositional() ? messages::argumentIsMissing(calledName(option))
                                             : messages::isRequired(calledName(option)));
-    } else if (option.isGiven() && option.state->source == fromCommandLine &&
-               option.positions.size() < option.least) {
+    } else if (option.isGiven() && option.elementCount < option.least) {
         line.complain(messages::tooFewArguments(calledName(option), option.least));
     }
     for (const Option* needed : option.needed) {

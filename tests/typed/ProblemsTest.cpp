@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include "support/CapturedAssertions.h"
+#include "support/EnvironmentVariable.h"
 #include "support/TypedLine.h"
 
 namespace {
@@ -180,6 +181,12 @@ TEST(TypedProblems, OfCountsAreFound) {
     }
 }
 
+TEST(TypedProblems, OfAnEnvironmentVariableThatHoldsTooFewArgumentsAreFound) {
+    EXPECT_EQ(problemsOf([](tarv::Program& p) { p.positional<Texts>("x", "").times(2, 3).env("X"); }),
+              "p: 'x': it takes at least 2 arguments, and its environment variable holds one\n");
+    EXPECT_EQ(problemsOf([](tarv::Program& p) { p.positional<Texts>("x", "").env("X").times(1); }), "");
+}
+
 TEST(TypedProblems, OfWhatRefersToOthersAreFound) {
     EXPECT_EQ(problemsOf([](tarv::Program& p) { p.option<int>("x", "").completeAs("files"); }),
               "p: 'x': shells complete \"file\", \"directory\" or \"none\"\n");
@@ -332,6 +339,18 @@ TEST(TypedProblems, OfTwoOptionsOfOneNameTheFirstIsTaken) {
     EXPECT_TRUE(*level && !other.given());
     EXPECT_EQ(parseLine(program, {"--other=3"}), "2 p: unknown option '--other'\nTry 'p --help'.\n");
     EXPECT_EQ(assertions.expressions(), "p: 'level': the name is taken");
+}
+
+TEST(TypedProblems, AnEnvironmentVariableThatHoldsTooFewArgumentsIsRefused) {
+    const CapturedAssertions assertions;
+    const EnvironmentVariable points("TARV_TEST_POINTS", "a");
+    tarv::Program program("p");
+    const auto point = program.positional<Texts>("point", "").times(2).env("TARV_TEST_POINTS");
+    EXPECT_EQ(parseLine(program, {}), "2 p: argument POINT is needed at least 2 times\nTry 'p --help'.\n");
+    EXPECT_EQ(parseLine(program, {"b", "c"}), "ok");
+    EXPECT_EQ(*point, (Texts{"b", "c"}));
+    EXPECT_EQ(assertions.expressions(),
+              "p: 'point': it takes at least 2 arguments, and its environment variable holds one");
 }
 
 TEST(TypedProblems, AVerbBelowActionsIsShownWithThem) {
