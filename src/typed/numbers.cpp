@@ -116,16 +116,15 @@ Fraction ratioOf(TimeUnit typed, TimeUnit counted) {
 
 // Multiplies by a fraction; only what is whole is read.
 DurationOutcome scale(const Decimal& decimal, Fraction fraction, unsigned long long& scaled) {
-    if (decimal.digits > ~static_cast<Wide>(0) / fraction.numerator) {
+    Wide over = 0;
+    if (__builtin_mul_overflow(decimal.digits, fraction.numerator, &over)) {
         return DurationOutcome::tooLarge;
     }
-    Wide over = decimal.digits * fraction.numerator;
     Wide under = fraction.denominator;
     for (int i = 0; i < decimal.places; ++i) {
-        if (under > ~static_cast<Wide>(0) / 10) {
+        if (__builtin_mul_overflow(under, 10U, &under)) {
             return DurationOutcome::inexact;
         }
-        under *= 10;
     }
     if (over % under != 0) {
         return DurationOutcome::inexact;

@@ -136,7 +136,7 @@ TEST(TypedValues, RealNumbersAreReadWhole) {
     expectValue<double>("-1.5e3", -1500.0);
     expectValue<double>("+.5", 0.5);
     expectValue<float>("0.25", 0.25F);
-    for (const char* text : {"x", "1,5", "inf", "nan", "1.5x", "+-1", " 1"}) {
+    for (const char* text : {"x", "1,5", "inf", "nan", "1.5x", "+-1", "+", " 1"}) {
         expectRefusal<double>(text, "must be a number");
     }
     expectRefusal<double>("1e999", "is too large");
@@ -198,6 +198,19 @@ TEST(TypedValues, AValueOfAnEnumerationIsCalledWhatIsTyped) {
     EXPECT_STREQ(sparse.nameOf(Sparse::minus), "minus-seven");
     const auto huge = program.option("huge", "", Huge::second);
     EXPECT_STREQ(huge.nameOf(*huge), "second");
+}
+
+TEST(TypedValues, AWordThatIsNoneOfTheNamesComesToNoCheck) {
+    tarv::Program program("p");
+    std::vector<Paper> checked;
+    const auto paper = program.option("paper", "", Paper::us_letter).check("free", [&](Paper sheet) {
+        checked.push_back(sheet);
+        return true;
+    });
+    EXPECT_EQ(parseLine(program, {"--paper=a5"}),
+              "2 p: --paper=a5: must be one of a4, us-letter or default\nTry 'p --help'.\n");
+    EXPECT_EQ(checked, std::vector<Paper>());
+    EXPECT_EQ(*paper, Paper::us_letter);
 }
 
 TEST(TypedValues, AValueWithoutANameIsCalledNothing) {

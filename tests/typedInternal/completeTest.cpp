@@ -111,6 +111,14 @@ TEST(ProgramCompleter, OffersOnlyWhatGoesWithAnAction) {
     EXPECT_EQ(offered(tar, {"-x", "--"}), "--directory= --verbose --help");
 }
 
+TEST(ProgramCompleter, OffersAHiddenActionWhereItIsBegun) {
+    OpenProgram tar("tar");
+    tar.action("list,t", "");
+    tar.action("repair", "").hidden();
+    EXPECT_EQ(offered(tar, {"--"}), "--list --help");
+    EXPECT_EQ(offered(tar, {"--re"}), "--repair");
+}
+
 TEST(ProgramCompleter, OffersTheNumbersThatAnOptionTakes) {
     OpenProgram program("p");
     program.joinLetters();
