@@ -61,7 +61,6 @@ void OptionNames::makeRoom(std::size_t names) {
     m_slots.assign(slots, Slot{0, nullptr});
     m_negativeNames.clear();
     m_isAnyTwice = false;
-    m_learned = 0;
 }
 
 void OptionNames::add(Option& option, std::string_view name) {

@@ -184,7 +184,7 @@ bool ProgramCompleter::completeValue(const char* name, const char* word, Candida
     }
     Option& option = *known->second;
     const bool isHosts = option.state->completer != nullptr;
-    if (isHosts && !m_isOffered) {
+    if (isHosts) {
         m_asked = &option;
         m_askedWord = word;
     }
@@ -227,8 +227,6 @@ void ProgramCompleter::offerVerbs(const std::string& word, CandidateSink& sink) 
 
 void ProgramCompleter::offer(std::vector<std::pair<std::string, std::string>> candidates) {
     m_candidates = std::move(candidates);
-    m_isOffered = true;
-    m_asked = nullptr;
 }
 
 } // namespace tarv_3_3::typed::engine

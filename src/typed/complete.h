@@ -72,7 +72,6 @@ private:
     ///@}
     Option* m_asked = nullptr;
     std::string m_askedWord;
-    bool m_isOffered = false;
     std::vector<std::pair<std::string, std::string>> m_candidates;
     std::unique_ptr<const Completion, Release> m_completion;
 };

@@ -17,13 +17,19 @@ das_variant_type_t unsignedKind(const Shape& shape) {
 }
 
 // Synonyms are not counted and not checked, as the names of a declaration are.
-IOption& declare(IParser& parser, const std::vector<std::string>& names, const char* description,
-                 das_variant_type_t kind, const char* topic) {
-    IOption& option = parser.option(names.front().c_str(), description, kind, topic);
+IOption& declare(IParser& parser, const std::vector<std::string>& names, das_variant_type_t kind,
+                 const char* topic) {
+    IOption& option = parser.option(names.front().c_str(), "", kind, topic);
     for (std::size_t i = 1; i < names.size(); ++i) {
         option.synonym(names[i].c_str());
     }
     return option;
+}
+
+// False when the names are taken, which is a mistake of the programmer.
+bool declareNames(IParser& parser, const Option& option) {
+    const char* const topic = option.isHidden ? hiddenTopic : "";
+    return declare(parser, option.names, parserKind(option), topic).m_status == declarationStored;
 }
 
 } // namespace
@@ -47,17 +53,11 @@ das_variant_type_t parserKind(const Option& option) {
     }
 }
 
-bool declareNames(IParser& parser, const Option& option, const char* description) {
-    const char* const topic = option.isHidden ? hiddenTopic : "";
-    return declare(parser, option.names, description, parserKind(option), topic).m_status ==
-           declarationStored;
-}
-
 LevelParser makeLevelParser(const Command& command) {
     LevelParser level;
     level.parser = std::make_unique<BasicParser>(levelFlags);
     forEachOptionAbove(command, [&](Option& option) {
-        if (!option.isPositional() && declareNames(*level.parser, option, "")) {
+        if (!option.isPositional() && declareNames(*level.parser, option)) {
             level.options.push_back(&option);
         }
     });
@@ -76,7 +76,7 @@ void declareLastResort(IParser& parser, const Command& command) {
 std::unique_ptr<BasicParser> makeVerbParser(const Command& command) {
     auto parser = std::make_unique<BasicParser>(levelFlags);
     for (const std::unique_ptr<Command>& verb : command.verbs) {
-        declare(*parser, verb->names, "", vtNull, "");
+        declare(*parser, verb->names, vtNull, "");
     }
     return parser;
 }

@@ -18,9 +18,6 @@ struct LevelParser {
 /// The kind of value that the parser knows an option by.
 das_variant_type_t parserKind(const Option& option);
 
-/// Declares an option by its names. False when they are taken, which is a mistake of the programmer.
-bool declareNames(IParser& parser, const Option& option, const char* description);
-
 LevelParser makeLevelParser(const Command& command);
 
 /// Declares "help" and, with a version, "version", as far as the command leaves them.
