@@ -68,8 +68,8 @@ void Entries::storeFirst(NameIndex::Entry& firstName, const Names& names, const 
             Entry& entry = ownEntry(known);
             Group& own = addGroup(m_memory, known.value.index);
             own.nameCount = 1;
-            entry.m_group = &own;
             append(own, data);
+            entry.m_group = &own;
             entry.byDefault = byDefault;
         }
     }

@@ -205,5 +205,37 @@ TEST_F(StoredEntries, AreWholeOrNowhereWhenMemoryRunsOut) {
     }
 }
 
+// Another option that has the name as well replaces what is stored under it.
+TEST_F(StoredEntries, AreReplacedWholeOrNotAtAllWhenMemoryRunsOut) {
+    const Names level = {"level", "shared"};
+    const Names depth = {"depth", "shared"};
+    const OptionData before = occurrences({1}, {{"a", 2}, {"b", 3}});
+    const OptionData after = occurrences({4}, {{"c", 5}, {"d", 6}});
+    int kept = 0;
+    int replaced = 0;
+    for (std::size_t size = 3072; size < 12288; size += 8) {
+        SCOPED_TRACE(size);
+        std::vector<std::byte> room(size);
+        internal::Arena little(room.data(), room.size());
+        internal::Entries few(little);
+        few.store(level, before);
+        failing::arm(1, failing::Mode::forGood);
+        try {
+            few.store(depth, after);
+        } catch (const std::bad_alloc&) {
+            // What is stored is looked at below.
+        }
+        failing::disarm();
+        const internal::Entries::Group& shared = few.find("shared")->group();
+        ASSERT_EQ(shared.positions.size(), 1U);
+        ASSERT_EQ(shared.values.size(), 2U);
+        const bool isKept = shared.positions.front() == 1;
+        ASSERT_EQ(shared.values[1].position, isKept ? 3 : 6);
+        ++(isKept ? kept : replaced);
+    }
+    EXPECT_GT(kept, 0);
+    EXPECT_GT(replaced, 0);
+}
+
 } // namespace
 } // namespace tarv_3_3
