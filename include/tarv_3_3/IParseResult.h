@@ -23,13 +23,14 @@ namespace tarv_3_3 {
 /// `nextPosition` go on with; iterations over two options cannot be interleaved.
 class TARV_API IParseResult {
 public:
-    /// Deletes the result, and every text that it handed out.
+    /// Deletes the result, and every text that it handed out. As all virtual functions, not to be called
+    /// through a null pointer.
     virtual void destroy() = 0;
 
     /// Whether the option occurred at a position in [lo, hi), or was not given and has a default. A
     /// switch occurs in its "no-" form as well; its value tells.
     /// A following `next` yields the first value in the range, or that default, once.
-    /// A null name is never present.
+    /// A null name is never present; asking for it ends an earlier iteration, too.
     virtual bool present(const char* name, int lo = 0, int hi = noPosition) = 0;
 
     /// The first value of an option that occurred at a position in [lo, hi). An option that was
@@ -49,8 +50,8 @@ public:
     virtual int nextPosition() = 0;
 
     /// Sets `*text` to the first of the plain arguments, the ones behind "--", and returns
-    /// `valueFound`; `valueMissing`, with `*text` untouched, when there is none. May throw
-    /// `std::bad_alloc`.
+    /// `valueFound`; `valueMissing`, with `*text` untouched, when there is none. `text` must not be
+    /// null. May throw `std::bad_alloc`.
     virtual int getFirstArgument(const char** text) = 0;
 
     /// The same for the plain argument behind the last one; `valueMissing` also before any

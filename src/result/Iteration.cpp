@@ -50,7 +50,7 @@ bool Iteration::find(std::string_view name, int lo, int hi) {
         m_occurrence = firstInRange(group(), lo, hi);
     }
     if (m_occurrence == group().positions.size()) {
-        m_entry = Entries::noEntry;
+        end();
     }
     return hasEntry();
 }
@@ -72,7 +72,7 @@ Value Iteration::first(std::string_view name, int lo, int hi) {
     }
     Value found = next();
     if (found.status != valueFound) {
-        m_entry = Entries::noEntry;
+        end();
     }
     return found;
 }

@@ -39,6 +39,9 @@ public:
     /// The position of the next occurrence, also outside the range; `noPosition` behind the last one.
     int nextPosition();
 
+    /// Ends the iteration, as a query that finds nothing does.
+    void end() { m_entry = Entries::noEntry; }
+
     /// Makes the next call of `next` return the default that `find` went to.
     void makeDefaultDue() {
         m_lowerBound = noPosition;

@@ -47,7 +47,11 @@ void ParseResult::destroy() {
 }
 
 bool ParseResult::present(const char* name, int lo, int hi) {
-    if (name == nullptr || !m_iteration.find(name, lo, hi)) {
+    if (name == nullptr) {
+        m_iteration.end();
+        return false;
+    }
+    if (!m_iteration.find(name, lo, hi)) {
         return false;
     }
     if (m_iteration.foundDefault() != nullptr) {
@@ -57,7 +61,11 @@ bool ParseResult::present(const char* name, int lo, int hi) {
 }
 
 Value ParseResult::get(const char* name, int lo, int hi) {
-    return name != nullptr ? first(name, lo, hi) : Value();
+    if (name == nullptr) {
+        m_iteration.end();
+        return Value();
+    }
+    return first(name, lo, hi);
 }
 
 Value ParseResult::next(const char* /*name*/) {

@@ -54,7 +54,7 @@ public:
 
     /// The same queries with other parameters. They return a `ValueStatus`. On `valueFound`, `*text` is a
     /// text that this result keeps, and `value` the converted value; both stay as they were when the option
-    /// takes no value. A null `text` asks for the presence only.
+    /// takes no value. For `get`, a null `text` asks for the presence only.
     int get(const std::string& name, char** text, variant_t& value, int lo, int hi, int& position);
     int next(const std::string& name, char** text, variant_t& value, int& position);
     int getFirstArgument(std::string& text);

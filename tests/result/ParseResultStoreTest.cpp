@@ -91,6 +91,18 @@ TEST_F(ParseResultStore, ReplacesTheEntryOfAnotherNameWhenTheFirstNameIsNew) {
     EXPECT_EQ(entries(), "l@3=\"new\"@4 level@3=\"new\"@4");
 }
 
+TEST_F(ParseResultStore, ReplacesTheDefaultOfAnotherNameAsWell) {
+    std::vector<OptionDescription> options = {withDefault({"l"}, vtString, "old")};
+    std::string message;
+    result.applyDefault(options, message);
+    OptionData data = nextOccurrence();
+    data.defaultText = "new";
+    data.defaultValue = variant_t("new");
+    data.defaultPosition = IArgumentParser::getNewPositionIndex();
+    result.store(optionNamed({"level", "l"}), data);
+    EXPECT_EQ(entries(), "l@2 default=\"new\"@3 level@2 default=\"new\"@3");
+}
+
 TEST_F(ParseResultStore, AppendsToANameThatWasAddedAfterTheFirstOccurrence) {
     result.store(optionNamed({"level"}), nextOccurrence({"1"}));
     result.store(optionNamed({"level", "depth"}), nextOccurrence({"2"}));

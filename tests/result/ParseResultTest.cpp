@@ -4,6 +4,7 @@
 
 #include <cstring>
 
+#include "reliability/FailingAllocations.h"
 #include "result/StoredOptions.h"
 
 namespace tarv_3_3 {
@@ -42,6 +43,15 @@ protected:
             line += (line.empty() ? "" : " ") + value;
         }
         return line;
+    }
+
+    /// What a query answers that gets no memory.
+    template <class Query>
+    static std::string withoutMemory(Query query) {
+        failing::arm(1, failing::Mode::forGood);
+        const Value answer = query();
+        failing::disarm();
+        return describe(answer);
     }
 
     ParseResult result;
@@ -156,6 +166,20 @@ TEST_F(ParseResultQueries, FindTheFirstInRangeWhetherPositionsAscendOrNot) {
     }
 }
 
+// Names share their lists until something is stored under one of them alone.
+TEST_F(ParseResultQueries, FindTheFirstInRangeAlsoUnderNamesThatSharedTheirLists) {
+    result.store(optionNamed({"early", "e"}), occurrences({30}));
+    result.store(optionNamed({"early", "e"}), occurrences({10}));
+    result.store(optionNamed({"early"}), occurrences({40}));
+    EXPECT_TRUE(result.present("e", 10, 11));
+    EXPECT_TRUE(result.present("early", 10, 11));
+    result.store(optionNamed({"late", "l8"}), occurrences({30}));
+    result.store(optionNamed({"late"}), occurrences({40}));
+    result.store(optionNamed({"l8"}), occurrences({10}));
+    result.store(optionNamed({"l8"}), occurrences({50}));
+    EXPECT_TRUE(result.present("l8", 10, 11));
+}
+
 // The counter wraps around, or a handler parses into the same result, between the values of one list.
 TEST_F(ParseResultQueries, FindTheFirstValueInRangeWhetherThoseOfAnOccurrenceAscendOrNot) {
     result.store(optionNamed({"list"}), occurrences({20}, {{"a", 5}, {"b", 30}, {"c", 10}, {"d", 40}}));
@@ -213,9 +237,29 @@ TEST_F(ParseResultQueries, YieldADefaultWhateverTheRange) {
 }
 
 TEST_F(ParseResultQueries, YieldADefaultOnceBehindPresent) {
-    EXPECT_TRUE(result.present("size", 0, 1));
+    for (const int lo : {0, -5, 100, end}) {
+        SCOPED_TRACE(lo);
+        EXPECT_TRUE(result.present("size", lo, 1));
+        EXPECT_EQ(next(), "\"7\"@3");
+        EXPECT_EQ(next(), "missing");
+        EXPECT_EQ(next(), "missing");
+    }
+}
+
+TEST_F(ParseResultQueries, YieldADefaultBehindPresentOnceThereIsMemoryForIt) {
+    EXPECT_TRUE(result.present("size", 0, end));
+    EXPECT_EQ(withoutMemory([&] { return result.next("size"); }), "status 3");
     EXPECT_EQ(next(), "\"7\"@3");
     EXPECT_EQ(next(), "missing");
+}
+
+TEST_F(ParseResultQueries, GoOnBehindAGetWithoutMemory) {
+    EXPECT_EQ(withoutMemory([&] { return result.get("level", 0, end); }), "status 3");
+    EXPECT_EQ(next(), "\"a\"@11");
+}
+
+TEST_F(ParseResultQueries, FindNothingNextBehindAGetOfADefaultWithoutMemory) {
+    EXPECT_EQ(withoutMemory([&] { return result.get("size", 0, end); }), "status 3");
     EXPECT_EQ(next(), "missing");
 }
 
@@ -252,6 +296,17 @@ TEST_F(ParseResultQueries, FindNothingNextBehindAFailedGet) {
     EXPECT_EQ(result.nextPosition(), end);
     EXPECT_FALSE(result.present("absent", 0, end));
     EXPECT_EQ(next(), "missing");
+}
+
+TEST_F(ParseResultQueries, FindNothingNextBehindANullName) {
+    EXPECT_EQ(get("level"), "\"a\"@11");
+    EXPECT_EQ(get(nullptr), "missing");
+    EXPECT_EQ(next(), "missing");
+    EXPECT_EQ(result.nextPosition(), end);
+    EXPECT_EQ(get("level"), "\"a\"@11");
+    EXPECT_FALSE(result.present(nullptr, 0, end));
+    EXPECT_EQ(next(), "missing");
+    EXPECT_EQ(result.nextPosition(), end);
 }
 
 // The value at 11 alone would be in the range; its occurrence at 10 is not.
@@ -354,6 +409,18 @@ TEST_F(ParseResultQueries, AnswerOnByteStringsWithAStatus) {
     EXPECT_EQ(result.next(std::string("any"), &text, value, position), 1);
     EXPECT_STREQ(text, "b");
     EXPECT_EQ(position, 12);
+}
+
+TEST_F(ParseResultQueries, FindANameWithAZeroByteByAllItsBytes) {
+    const std::string name("level\0", 6);
+    result.store(optionNamed({name}), occurrences({60}, {{"zero", 61}}));
+    char* text = nullptr;
+    variant_t value;
+    int position = 0;
+    EXPECT_EQ(result.get(name, &text, value, 0, end, position), 0);
+    EXPECT_STREQ(text, "zero");
+    EXPECT_EQ(result.get(name + "x", &text, value, 0, end, position), 1);
+    EXPECT_EQ(get("level"), "\"a\"@11");
 }
 
 TEST_F(ParseResultQueries, LeaveTextAndValueAloneForAnOptionWithoutValues) {
