@@ -12,9 +12,7 @@ namespace tarv_3_3::internal {
 
 bool tarvLogEnabled = false;
 std::atomic<UntracedLines> untracedLines{UntracedLines::none};
-
-template <class Char, class Traits>
-basic_nullbuf<Char, Traits>::~basic_nullbuf() = default;
+std::ostream* discardingStream = nullptr;
 
 template class basic_nullbuf<char, std::char_traits<char>>;
 
@@ -80,6 +78,7 @@ std::ostream& tarvLog() {
         return MERO_2_16::strings::gh2::ucout();
     }
     std::ostream& discarding = holder.discarding();
+    discardingStream = &discarding;
     // Lines were dropped before. The first of them would have made the stream fail.
     if (untracedLines.exchange(UntracedLines::written) == UntracedLines::dropped) {
         discarding.setstate(std::ios::badbit | std::ios::failbit);

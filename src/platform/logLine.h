@@ -4,6 +4,7 @@
 #include <initializer_list>
 #include <string_view>
 
+#include "platform/mayHaveThreads.h"
 #include "tarv_3_3/internal/log.h"
 
 namespace tarv_3_3::internal {
@@ -14,14 +15,24 @@ enum class UntracedLines : unsigned char {
     none,
     /// It is dropped. No host has asked for the discarding stream, which does not exist yet.
     dropped,
-    /// It is written to the discarding stream. A host has asked for it, and may have given it a buffer.
+    /// It is written to `discardingStream`. A host has asked for it, and may have given it a buffer.
     written
 };
 
 extern std::atomic<UntracedLines> untracedLines;
+/// Null until a host has asked for it.
+extern std::ostream* discardingStream;
 
 inline bool isTraceOn() {
     return __atomic_load_n(&tarvLogEnabled, __ATOMIC_RELAXED);
+}
+
+/// Whether a line that is not traced has to be written all the same. Where other threads may be writing,
+/// only who writes it may ask the stream for its state.
+inline bool isUntracedLineWritten() {
+    const UntracedLines lines = untracedLines.load(std::memory_order_relaxed);
+    return lines == UntracedLines::none ||
+           (lines == UntracedLines::written && (mayHaveThreads() || !discardingStream->fail()));
 }
 
 /// A piece of a line as text. Numbers are decimal, whatever format a stream is set to.
@@ -45,10 +56,10 @@ private:
 /// not mix.
 [[gnu::cold]] void writeLine(std::initializer_list<LinePart> parts);
 
-/// The same. While lines are dropped, the parts are not converted to text.
+/// The same. The parts of a line that is dropped are not converted to text.
 template <class... Parts>
 void writeLogLine(const Parts&... parts) {
-    if (isTraceOn() || untracedLines.load(std::memory_order_relaxed) != UntracedLines::dropped) {
+    if (isTraceOn() || isUntracedLineWritten()) {
         writeLine({LinePart(parts)...});
     }
 }

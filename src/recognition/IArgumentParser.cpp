@@ -2,11 +2,9 @@
 
 #include <algorithm>
 #include <utility>
-#if __has_include(<sys/single_threaded.h>)
-#include <sys/single_threaded.h>
-#endif
 
 #include "options/OptionDescription.h"
+#include "platform/mayHaveThreads.h"
 #include "recognition/Binding.h"
 #include "recognition/messages.h"
 #include "tarv_3_3/EventHandler.h"
@@ -17,19 +15,6 @@ namespace tarv_3_3 {
 namespace messages = internal::messages;
 
 int IArgumentParser::m_idx = 1;
-
-namespace {
-
-// Whether another thread may be running. The question costs less than an atomic addition.
-bool mayHaveThreads() {
-#if __has_include(<sys/single_threaded.h>)
-    return __libc_single_threaded == 0;
-#else
-    return true;
-#endif
-}
-
-} // namespace
 
 IArgumentParser::IArgumentParser(EventHandler* handler, Garbage* garbage, unsigned int flags)
     : m_handler(handler), m_name("UndefinedParser"), m_garbage(garbage), m_flags(flags), m_hasListeners(true),
@@ -47,10 +32,10 @@ std::string IArgumentParser::formatTokenMessage(std::string& token) {
     return messages::inArgument(token);
 }
 
-// Wraps around behind the largest index. A process that gets there loses the order of its positions, and
-// nothing else.
+// Wraps around behind the largest index to the smallest one. Queries that name no range then miss what is
+// stored at negative positions.
 int IArgumentParser::getNewPositionIndex() {
-    if (mayHaveThreads()) {
+    if (internal::mayHaveThreads()) {
         return __atomic_fetch_add(&m_idx, 1, __ATOMIC_RELAXED);
     }
     const int index = m_idx;

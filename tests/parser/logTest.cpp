@@ -69,6 +69,13 @@ TEST(BasicNullbuf, IsAStreamBufferWithoutStorage) {
     EXPECT_EQ(buffer.sgetc(), std::char_traits<char>::eof());
 }
 
+TEST(BasicNullbuf, IsThereForAnyKindOfCharacter) {
+    basic_nullbuf<wchar_t, std::char_traits<wchar_t>> buffer;
+    std::wostream stream(&buffer);
+    stream << L'x';
+    EXPECT_TRUE(stream.bad());
+}
+
 TEST(WriteLogLine, WritesItsPartsAsOneLine) {
     const CapturedLog log;
     writeLogLine("text ", 5, std::string(" and more"));

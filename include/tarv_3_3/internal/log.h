@@ -24,6 +24,9 @@ public:
     ~basic_nullbuf() override;
 };
 
+template <class Char, class Traits>
+basic_nullbuf<Char, Traits>::~basic_nullbuf() = default;
+
 extern template class TARV_API basic_nullbuf<char, std::char_traits<char>>;
 
 /// Holds the discarding stream of the process. Not synchronised; `tarvLog` is.
