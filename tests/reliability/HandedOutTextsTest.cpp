@@ -120,6 +120,7 @@ TEST_F(HandedOutTexts, OfPlainArgumentsStayWhileTheResultGrows) {
         EXPECT_EQ(std::string(first), a);
         EXPECT_EQ(std::string(second), b);
         growResult(session);
+        const ReusedMemory again;
         EXPECT_EQ(std::string(first), a);
         EXPECT_EQ(std::string(second), b);
         session.result->destroy();
