@@ -41,9 +41,9 @@ void note(internal::Remarks::Notes& notes, const char* key, const char* value) {
 }
 
 int annotateOwn(BasicParser& parser, const char* name, const char* key, const char* value) {
-    const std::vector<OptionDescription>& options = parser.registry().m_options;
-    const std::size_t index = internal::indexOfExactName(name, options);
-    if (index == options.size() || !isAcceptable(key, value)) {
+    RegisteredOptionStorage& registry = parser.registry();
+    const std::size_t index = registry.indexOfExactName(name);
+    if (index == registry.m_options.size() || !isAcceptable(key, value)) {
         return remarkRefused;
     }
     std::vector<internal::Remarks::Notes>& all = parser.ownRemarks().notes;

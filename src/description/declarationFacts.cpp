@@ -1,6 +1,5 @@
 #include "description/declarationFacts.h"
 
-#include <algorithm>
 #include <charconv>
 
 #include "parser/BasicParser.h"
@@ -18,13 +17,6 @@ bool isHidden(const OptionDescription& option) {
 
 bool maySuggest(const OptionDescription& option) {
     return !isHidden(option) && !option.m_positional;
-}
-
-std::size_t indexOfExactName(const std::string& name, const std::vector<OptionDescription>& options) {
-    const auto found = std::find_if(options.begin(), options.end(), [&](const OptionDescription& option) {
-        return std::find(option.m_names.begin(), option.m_names.end(), name) != option.m_names.end();
-    });
-    return static_cast<std::size_t>(found - options.begin());
 }
 
 std::string typedText(const OptionDescription& option, const variant_t& value) {

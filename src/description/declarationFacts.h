@@ -23,9 +23,6 @@ bool isHidden(const OptionDescription& option);
 /// Whether a suggestion may name the option: neither hidden nor positional ones.
 bool maySuggest(const OptionDescription& option);
 
-/// The index of the first record that has exactly the name `name`; the number of options when none has.
-std::size_t indexOfExactName(const std::string& name, const std::vector<OptionDescription>& options);
-
 /// `value`, which should be of the option's kind, as the text that would be typed for it. Unlike help,
 /// it gives a number as many digits as it needs to be read back the same.
 std::string typedText(const OptionDescription& option, const variant_t& value);

@@ -1,6 +1,7 @@
 #include "description/joinedLetters.h"
 
 #include "description/declarationFacts.h"
+#include "options/findOption.h"
 #include "tarv_3_3/internal/Garbage.h"
 
 namespace tarv_3_3::internal {
@@ -8,7 +9,7 @@ namespace tarv_3_3::internal {
 namespace {
 
 const OptionDescription* optionOfLetter(char letter, const std::vector<OptionDescription>& options) {
-    const std::size_t index = indexOfExactName(std::string(1, letter), options);
+    const std::size_t index = indexOfExactName(std::string_view(&letter, 1), options);
     return index < options.size() && maySuggest(options[index]) ? &options[index] : nullptr;
 }
 

@@ -1,5 +1,5 @@
-#include <algorithm>
 #include <exception>
+#include <set>
 #include <vector>
 
 #include "description/declarationFacts.h"
@@ -133,15 +133,14 @@ int checkOwnRules(BasicParser& parser, const ParseResult& result) {
 }
 
 int addOwnRule(BasicParser& parser, int kind, const char* names) {
-    const std::vector<OptionDescription>& options = parser.registry().m_options;
+    RegisteredOptionStorage& registry = parser.registry();
     std::vector<std::string> words;
     split(names, words);
     internal::Remarks::Rule rule = {kind, {}};
+    std::set<std::size_t> seen;
     for (const std::string& word : words) {
-        const std::size_t index = internal::indexOfExactName(word, options);
-        const bool isRepeated =
-            std::find(rule.indexes.begin(), rule.indexes.end(), index) != rule.indexes.end();
-        if (index == options.size() || isRepeated) {
+        const std::size_t index = registry.indexOfExactName(word);
+        if (index == registry.m_options.size() || !seen.insert(index).second) {
             return remarkRefused;
         }
         rule.indexes.push_back(index);

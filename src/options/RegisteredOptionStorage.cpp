@@ -137,6 +137,16 @@ bool RegisteredOptionStorage::findOnly(const internal::HashedText& name, std::si
     return !owners.isRepeated;
 }
 
+// Like `find`: the index may lack a synonym.
+std::size_t RegisteredOptionStorage::indexOfExactName(const internal::HashedText& name) {
+    if (hasNewSynonyms()) {
+        learnSynonyms();
+    }
+    const Index::Entry* const entry = m_names.find(name);
+    const bool isKnown = entry != nullptr && entry->value.first != nowhere;
+    return isKnown ? entry->value.first : internal::indexOfExactName(name.text, m_options);
+}
+
 // The first record that has the name as it is, or that is a switch and has it behind "no-".
 std::size_t RegisteredOptionStorage::indexOf(std::string_view name, const Owners& owners) const {
     if (!beginsWithNegation(name)) {

@@ -52,6 +52,10 @@ public:
     /// and also where the index cannot rule out a second one.
     bool findOnly(const internal::HashedText& name, std::size_t& index);
 
+    /// The index of the first record that has exactly the name `name`; the number of records when none has.
+    /// A name that is there is looked up in the index, any other is compared with all names.
+    TARV_HIDDEN std::size_t indexOfExactName(const internal::HashedText& name);
+
     /// While a pin exists, no record moves in memory, even if options are declared. A parse needs one, since
     /// its handlers may declare. Pins nest.
     class Pin {

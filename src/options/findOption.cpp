@@ -24,14 +24,6 @@ bool contains(const Names& names, std::string_view wanted) {
     return false;
 }
 
-unsigned long indexOfName(std::string_view name, const std::vector<OptionDescription>& options) {
-    unsigned long index = 0;
-    while (index < options.size() && !contains(options[index].m_names, name)) {
-        ++index;
-    }
-    return index;
-}
-
 unsigned long indexOfSwitch(std::string_view name, const std::vector<OptionDescription>& options) {
     unsigned long index = 0;
     while (index < options.size() &&
@@ -44,7 +36,7 @@ unsigned long indexOfSwitch(std::string_view name, const std::vector<OptionDescr
 } // namespace
 
 int findOption(const std::string& name, unsigned long& index, const std::vector<OptionDescription>& options) {
-    unsigned long found = indexOfName(name, options);
+    unsigned long found = internal::indexOfExactName(name, options);
     if (beginsWithNegation(name)) {
         found = std::min(found, indexOfSwitch(std::string_view(name).substr(negation.size()), options));
     }
@@ -63,5 +55,17 @@ int findOption(const Names& names, unsigned long& index, const std::vector<Optio
     }
     return 1;
 }
+
+namespace internal {
+
+std::size_t indexOfExactName(std::string_view name, const std::vector<OptionDescription>& options) {
+    std::size_t index = 0;
+    while (index < options.size() && !contains(options[index].m_names, name)) {
+        ++index;
+    }
+    return index;
+}
+
+} // namespace internal
 
 } // namespace tarv_3_3

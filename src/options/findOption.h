@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <cstring>
 #include <string>
 #include <string_view>
@@ -25,5 +26,12 @@ TARV_API int findOption(const std::string& name, unsigned long& index,
 /// The same for the first of `names` that is found; 1 when none is.
 TARV_API int findOption(const Names& names, unsigned long& index,
                         const std::vector<OptionDescription>& options);
+
+namespace internal {
+
+/// The index of the first record that has exactly the name `name`; the number of options when none has.
+std::size_t indexOfExactName(std::string_view name, const std::vector<OptionDescription>& options);
+
+} // namespace internal
 
 } // namespace tarv_3_3

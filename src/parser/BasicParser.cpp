@@ -52,15 +52,29 @@ IOption& BasicParser::modifier(const char* names, const char* tags, const char* 
     return m_registry.modifier(names, tags, description, type, topic);
 }
 
+namespace {
+
+bool isDeclaredSo(const OptionDescription& option, bool isAction, const char* topic) {
+    return (option.m_kind == Action) == isAction && (topic == nullptr || option.m_topic.first == topic);
+}
+
+} // namespace
+
 bool BasicParser::isOptionDeclared(const char* name, bool isAction, const char* topic) {
-    return name != nullptr && isOptionDeclared(name, isAction, topic, m_registry.m_options);
+    if (name == nullptr) {
+        return false;
+    }
+    const std::vector<OptionDescription>& options = m_registry.m_options;
+    const std::size_t first = m_registry.indexOfExactName(name);
+    return first < options.size() && (isDeclaredSo(options[first], isAction, topic) ||
+                                      isOptionDeclared(name, isAction, topic, options));
 }
 
 bool BasicParser::isOptionDeclared(const char* name, bool isAction, const char* topic,
                                    const std::vector<OptionDescription>& options) const {
     return std::any_of(options.begin(), options.end(), [&](const OptionDescription& option) {
         const Names& names = option.m_names;
-        return (option.m_kind == Action) == isAction && (topic == nullptr || option.m_topic.first == topic) &&
+        return isDeclaredSo(option, isAction, topic) &&
                std::find(names.begin(), names.end(), name) != names.end();
     });
 }

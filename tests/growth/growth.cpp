@@ -119,6 +119,33 @@ void tagAModifier(std::size_t count) {
     session.parser->modifier("option", joined(manyOf("tag-", count), ',').c_str(), "", vtString);
 }
 
+void askAboutManyOptions(std::size_t count) {
+    Session session;
+    declareMany(session.parser, count);
+    for (const std::string& name : manyOf("option-", count)) {
+        demand(session.parser->isOptionDeclared(name.c_str(), false, nullptr));
+    }
+}
+
+void annotateManyOptions(std::size_t count) {
+    Session session;
+    declareMany(session.parser, count);
+    for (const std::string& name : manyOf("option-", count)) {
+        demand(annotate(session.parser, name.c_str(), "complete", "file") == remarkStored);
+    }
+}
+
+void relateManyOptions(std::size_t count) {
+    Session session;
+    declareMany(session.parser, count);
+    const std::vector<std::string> names = manyOf("option-", count);
+    for (std::size_t i = 1; i < count; ++i) {
+        demand(addRule(session.parser, ruleNeeds, (names[i] + ",option-0").c_str()) == remarkStored);
+    }
+    demand(addRule(session.parser, ruleAtMostOne, joined(names, ',').c_str()) == remarkStored);
+    demand(checkRules(session.parser, session.result) == parseOk);
+}
+
 // What is parsed.
 
 void giveAnOptionAgain(std::size_t count) {
@@ -379,6 +406,9 @@ constexpr Thing things[] = {
     {"repeatASynonym", repeatASynonym},
     {"allowValues", allowValues},
     {"tagAModifier", tagAModifier},
+    {"askAboutManyOptions", askAboutManyOptions},
+    {"annotateManyOptions", annotateManyOptions},
+    {"relateManyOptions", relateManyOptions},
     {"giveAnOptionAgain", giveAnOptionAgain},
     {"giveOptionsThatShareASynonym", giveOptionsThatShareASynonym},
     {"giveManyOptions", giveManyOptions},

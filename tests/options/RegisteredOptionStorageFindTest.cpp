@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <random>
 #include <string>
 
@@ -160,9 +161,30 @@ TEST_F(RegisteredOptionsFind, FindsWhatAWalkOverTheTableFinds) {
                 const int status = some.find(wanted, found);
                 ASSERT_EQ(status, findOption(wanted, expected, some.m_options)) << wanted;
                 ASSERT_EQ(found, expected) << wanted;
+                std::size_t first = 0;
+                const auto hasName = [&](const OptionDescription& option) {
+                    return std::count(option.m_names.begin(), option.m_names.end(), wanted) != 0;
+                };
+                while (first < some.m_options.size() && !hasName(some.m_options[first])) {
+                    ++first;
+                }
+                ASSERT_EQ(some.indexOfExactName(wanted), first) << wanted;
             }
         }
     }
+}
+
+TEST_F(RegisteredOptionsFind, FindsAnExactNameAlsoWhereTheIndexLacksIt) {
+    IOption& early = declare("early", vtBool);
+    early.synonym("known");
+    declare("late");
+    early.synonym("unknown");
+    EXPECT_EQ(registry.indexOfExactName("known"), 0U);
+    EXPECT_EQ(registry.indexOfExactName("late"), 1U);
+    EXPECT_EQ(registry.indexOfExactName("unknown"), 0U);
+    EXPECT_EQ(registry.indexOfExactName("no-early"), 2U);
+    EXPECT_EQ(registry.indexOfExactName("lat"), 2U);
+    EXPECT_EQ(registry.indexOfExactName(""), 2U);
 }
 
 TEST_F(RegisteredOptionsFind, RefusesTheNegationOfASwitchWithAnEmptyName) {

@@ -77,6 +77,19 @@ TEST(FindOption, FindsNothingInAnEmptyTable) {
     EXPECT_EQ(place(std::string(), {}), -1);
 }
 
+TEST(IndexOfExactName, IsThatOfTheFirstRecordThatHasTheName) {
+    const std::vector<OptionDescription> options = {
+        record({"verbose", "v"}, vtBool), record({"no-verbose", ""}, vtInt32), record({"v"}, vtInt32)};
+    const struct {
+        const char* name;
+        std::size_t index;
+    } rows[] = {{"verbose", 0}, {"v", 0}, {"no-verbose", 1}, {"", 1}, {"no-v", 3}, {"verb", 3}};
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.name);
+        EXPECT_EQ(internal::indexOfExactName(row.name, options), row.index);
+    }
+}
+
 TEST(FindOptionByList, YieldsTheFirstNameThatIsFound) {
     const std::vector<OptionDescription> options = {record({"first", "f"}, vtNull),
                                                     record({"second"}, vtBool), record({"third"}, vtString)};
