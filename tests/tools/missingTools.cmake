@@ -23,6 +23,7 @@ function(configure)
         COMMAND ${CMAKE_COMMAND} -E env PATH=${programs} ${CMAKE_COMMAND} -S ${source} -B ${work}/build -G Ninja
             -D CMAKE_CXX_COMPILER=${compiler} -D CMAKE_BUILD_TYPE=Release -D GTest_DIR=${gtest}
             -D CMAKE_FIND_USE_CMAKE_SYSTEM_PATH=OFF -D TARV_BUILD_EXAMPLES=OFF -D TARV_TEST_CONSUMERS=ON
+            -D TARV_TEST_SHELLS=ON
         OUTPUT_QUIET ERROR_VARIABLE output RESULT_VARIABLE status)
     set(output "${output}" PARENT_SCOPE)
     set(status "${status}" PARENT_SCOPE)
@@ -32,7 +33,7 @@ configure()
 if(NOT status EQUAL 0)
     message(FATAL_ERROR "Does not configure with every tool:\n${output}")
 endif()
-foreach(tool IN ITEMS abidiff doxygen mandoc nm pkg-config clang++)
+foreach(tool IN ITEMS abidiff doxygen fish mandoc nm pkg-config zsh clang++)
     file(RENAME ${programs}/${tool} ${work}/hidden)
     configure()
     string(REPLACE "+" "[+]" name ${tool})
