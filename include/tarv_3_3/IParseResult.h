@@ -23,8 +23,8 @@ namespace tarv_3_3 {
 /// `nextPosition` go on with; iterations over two options cannot be interleaved.
 class TARV_API IParseResult {
 public:
-    /// Deletes the result, and every text that it handed out. As all virtual functions, not to be called
-    /// through a null pointer.
+    /// Deletes the result, and every text that it handed out. Like every virtual function, it must not be
+    /// called through a null pointer.
     virtual void destroy() = 0;
 
     /// Whether the option occurred at a position in [lo, hi), or was not given and has a default. A
