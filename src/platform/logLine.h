@@ -31,8 +31,8 @@ inline bool isTraceOn() {
 /// only who writes it may ask the stream for its state.
 inline bool isUntracedLineWritten() {
     const UntracedLines lines = untracedLines.load(std::memory_order_relaxed);
-    return lines == UntracedLines::none ||
-           (lines == UntracedLines::written && (mayHaveThreads() || !discardingStream->fail()));
+    return lines != UntracedLines::dropped &&
+           (lines == UntracedLines::none || mayHaveThreads() || !discardingStream->fail());
 }
 
 /// A piece of a line as text. Numbers are decimal, whatever format a stream is set to.

@@ -1,6 +1,7 @@
 #include "typed/Session.h"
 
 #include <algorithm>
+#include <cstring>
 #include <unordered_map>
 #include <unordered_set>
 
@@ -35,7 +36,7 @@ char separatorOf(const Occurrence& occurrence) {
 
 unsigned long countPieces(const Occurrence& occurrence) {
     const char separator = separatorOf(occurrence);
-    if (separator == '\0' || *occurrence.text == '\0') {
+    if (separator == '\0' || std::strchr(occurrence.text, separator) == nullptr) {
         return 1;
     }
     unsigned long count = 0;
