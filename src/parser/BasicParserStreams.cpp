@@ -30,7 +30,7 @@ std::string_view withoutCarriageReturns(std::string_view line) {
     return line;
 }
 
-bool isComment(std::string_view line) {
+bool isBlankOrComment(std::string_view line) {
     return line.empty() || line.front() == ';' || line.front() == '#';
 }
 
@@ -62,9 +62,8 @@ void BasicParser::parseStreamToArgs(const char* text, std::vector<std::string>& 
     while (!rest.empty()) {
         const std::string_view line = rest.substr(0, rest.find('\n'));
         rest.remove_prefix(line.size() < rest.size() ? line.size() + 1 : line.size());
-        const std::string_view content = withoutLeadingSpace(line, classifier);
-        const std::string_view argument = withoutCarriageReturns(content);
-        if (!isComment(content) && !argument.empty()) {
+        const std::string_view argument = withoutCarriageReturns(withoutLeadingSpace(line, classifier));
+        if (!isBlankOrComment(argument)) {
             arguments.emplace_back(argument);
         }
     }
