@@ -65,9 +65,9 @@ TEST(MemoryOfLists, StaysBelowWhatHostsAreTold) {
         bool inOneList;
         long mostBytes;
     } rows[] = {
-        {vtInt32, 6, true, 100},    {vtInt32, 6, false, 140},   {vtString, 6, true, 125},
-        {vtString, 6, false, 165},  {vtString, 16, true, 135},  {vtString, 16, false, 190},
-        {vtString, 24, true, 160},  {vtString, 24, false, 220},
+        {vtInt32, 6, true, 100},   {vtInt32, 6, false, 140},   {vtString, 6, true, 125},
+        {vtString, 6, false, 165}, {vtString, 16, true, 135},  {vtString, 16, false, 190},
+        {vtString, 24, true, 160}, {vtString, 24, false, 220},
     };
     failing::hookVariants();
     for (const auto& row : rows) {
