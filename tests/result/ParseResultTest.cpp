@@ -246,19 +246,19 @@ TEST_F(ParseResultQueries, YieldADefaultOnceBehindPresent) {
     }
 }
 
-TEST_F(ParseResultQueries, YieldADefaultBehindPresentOnceThereIsMemoryForIt) {
+TEST_F(ParseResultQueries, YieldTheDefaultBehindPresentStillWhenMemoryRunsOut) {
     EXPECT_TRUE(result.present("size", 0, end));
     EXPECT_EQ(withoutMemory([&] { return result.next("size"); }), "status 3");
     EXPECT_EQ(next(), "\"7\"@3");
     EXPECT_EQ(next(), "missing");
 }
 
-TEST_F(ParseResultQueries, GoOnBehindAGetWithoutMemory) {
+TEST_F(ParseResultQueries, GoOnBehindAGetWhenMemoryRunsOut) {
     EXPECT_EQ(withoutMemory([&] { return result.get("level", 0, end); }), "status 3");
     EXPECT_EQ(next(), "\"a\"@11");
 }
 
-TEST_F(ParseResultQueries, FindNothingNextBehindAGetOfADefaultWithoutMemory) {
+TEST_F(ParseResultQueries, FindNothingNextBehindAGetOfADefaultWhenMemoryRunsOut) {
     EXPECT_EQ(withoutMemory([&] { return result.get("size", 0, end); }), "status 3");
     EXPECT_EQ(next(), "missing");
 }
