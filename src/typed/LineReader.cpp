@@ -196,9 +196,6 @@ LevelParser& LineReader::level() {
 void LineReader::finish() {
     checkFront();
     m_line.wish = m_isHelpWished ? Wish::help : m_line.wish;
-    if (m_line.wish != Wish::none) {
-        return;
-    }
     Command& command = *m_line.chosen;
     if (!command.verbs.empty() && command.body == nullptr) {
         m_line.complain(messages::noVerb);

@@ -305,7 +305,8 @@ TEST(TypedLines, TheTraceSaysWhatEachArgumentIs) {
     EXPECT_EQ(parseLine(program, {traceSwitch, "log"}),
               "okp: the command is 'p log'\np: TARV_TEST_TRACED=yes is option '--color', value 'yes'\n");
     unsetenv("TARV_TEST_TRACED");
-    EXPECT_EQ(parseLine(program, {traceSwitch, "--version"}).substr(0, 4), "0 p ");
+    EXPECT_EQ(parseLine(program, {traceSwitch, "--version", "log", "a"}),
+              "0 p 1.0\np: the command is 'p log'\np: 'a' is argument FILE\n");
     EXPECT_EQ(parseLine(program, {"log", traceSwitch}), "ok");
     tarv::Program named("p");
     named.positional<std::string>("file", "").env("TARV_TEST_TRACED");
