@@ -343,9 +343,13 @@ TEST(TypedHelp, ListsActions) {
     program.action("list,t", "List it.");
     const auto extract = program.action("extract,x", "Extract it.");
     program.flag("keep", "Keep it.").goesWith(extract);
+    program.positional<std::vector<int>>("part", "Which.").times(2, 3).goesWith(extract);
     program.action("test", "Test it.").topic("Checks");
     EXPECT_EQ(helpAt(program, "80", {"--help"}), R"(
-0 Usage: tar ACTION [OPTION]...
+0 Usage: tar ACTION [OPTION]... PART...
+
+Arguments:
+  PART...        Which. (with --extract; 2 to 3 times)
 
 Actions:
   -t, --list     List it.
