@@ -318,6 +318,13 @@ TEST_F(ParseResultQueries, FindNothingNextBehindAGetThatFoundNoOccurrenceInItsRa
     EXPECT_EQ(next(), "missing");
 }
 
+TEST_F(ParseResultQueries, FindNothingNextBehindAGetThatFoundNoValueInItsRange) {
+    result.store(optionNamed({"late"}), occurrences({60}, {{"v", 65}}));
+    EXPECT_EQ(get("late", 60, 64), "missing");
+    EXPECT_EQ(next(), "missing");
+    EXPECT_EQ(result.nextPosition(), end);
+}
+
 TEST_F(ParseResultQueries, FindNothingNextBeforeAnyGet) {
     EXPECT_EQ(next(), "missing");
     EXPECT_EQ(result.nextPosition(), end);
