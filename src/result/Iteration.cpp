@@ -101,7 +101,6 @@ Value Iteration::nextValue() {
     const std::size_t index = firstNotBelow(group(), m_value, m_lowerBound);
     // Here the upper bound is inclusive. Where an iteration starts, it is exclusive.
     if (index >= values.size() || values[index].position > m_upperBound) {
-        m_value = index;
         return Value();
     }
     const StoredValue& found = values[index];

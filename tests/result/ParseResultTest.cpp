@@ -373,6 +373,7 @@ TEST_F(ParseResultQueries, CountPositionsFromTheOccurrenceFoundWithoutBounds) {
     EXPECT_EQ(result.nextPosition(), end);
     EXPECT_EQ(result.nextPosition(), end);
     EXPECT_EQ(get("level", 13, end), "\"c\"@21");
+    EXPECT_EQ(next(), "missing");
     EXPECT_EQ(result.nextPosition(), 20);
     EXPECT_EQ(result.nextPosition(), end);
 }
