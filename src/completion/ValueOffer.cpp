@@ -93,8 +93,8 @@ void ValueOffer::offer(std::string value, const char* description) {
 
 // Whether a parse takes `whole` as this value of this option.
 bool ValueOffer::isTaken(const std::string& value, const std::string& whole) {
-    const bool isSplit = m_option.m_tokenizer != 0 && value.find(m_option.m_tokenizer) != std::string::npos;
-    if (isSplit || !hasPlace(whole)) {
+    // Without a separator it is a zero byte, which no value has.
+    if (value.find(m_option.m_tokenizer) != std::string::npos || !hasPlace(whole)) {
         return false;
     }
     std::string text = value;
