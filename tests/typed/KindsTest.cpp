@@ -146,7 +146,7 @@ TEST(TypedDescription, HasActionsSettingsAndLetters) {
     program.settingsFile("conf");
     program.settingsOption("config", "");
     const auto list = program.action("list,l", "List it.");
-    program.option("all", "", false).goesWith(list);
+    program.option("all", "", false).goesWith(list).topic("Scope");
     program.positional<std::string>("file", "").required();
     EXPECT_EQ(parseLine(program, {"tarvoption=describe"}),
               R"(0 {"format": "tarv-description", "version": "1.1",
@@ -155,11 +155,12 @@ TEST(TypedDescription, HasActionsSettingsAndLetters) {
 "settings": [{"file": "conf"}, {"option": "config"}],
 "flags": ["rejectUnknown", "plainArePositional", "dashIsNotPositional"],
 "topics": [
-{"name": ""}],
+{"name": ""},
+{"name": "Scope", "title": "Scope"}],
 "declarations": [
 {"role": "option", "kind": "string", "names": ["config"], "notes": {"complete": "file", "value": "FILE"}},
 {"role": "action", "kind": "none", "names": ["list", "l"], "text": "List it.", "tags": ["l", "list"]},
-{"role": "option", "kind": "switch", "names": ["all"], "tags": ["list"], "default": "0", "negatable": true},
+{"role": "option", "kind": "switch", "names": ["all"], "topic": "Scope", "tags": ["list"], "default": "0", "negatable": true},
 {"role": "option", "kind": "string", "names": ["file"], "positional": "filled", "count": {"least": 1, "most": 1}}],
 "rules": [],
 "checks": []}

@@ -51,6 +51,7 @@ TEST(Columns, TextIsWrappedAtBlanksAndBesideWideCharacters) {
     EXPECT_EQ(wrapColumns("üabcdefgh", 3), (Lines{"üab", "cde", "fgh"}));
     EXPECT_EQ(wrapColumns("ab üabc", 5), (Lines{"ab", "üabc"}));
     EXPECT_EQ(wrapColumns("über Größe", 5), (Lines{"über", "Größe"}));
+    EXPECT_EQ(wrapColumns("über Größe", 8), (Lines{"über", "Größe"}));
     EXPECT_EQ(wrapColumns("aaau\u0308bb", 4), (Lines{"aaau\u0308", "bb"}));
     EXPECT_EQ(wrapColumns("\xff\xff\xff", 2), (Lines{"\xff\xff", "\xff"}));
 }
