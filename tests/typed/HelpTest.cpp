@@ -343,13 +343,9 @@ TEST(TypedHelp, ListsActions) {
     program.action("list,t", "List it.");
     const auto extract = program.action("extract,x", "Extract it.");
     program.flag("keep", "Keep it.").goesWith(extract);
-    program.positional<std::vector<int>>("part", "Which.").times(2, 3).goesWith(extract);
     program.action("test", "Test it.").topic("Checks");
     EXPECT_EQ(helpAt(program, "80", {"--help"}), R"(
-0 Usage: tar ACTION [OPTION]... PART...
-
-Arguments:
-  PART...        Which. (with --extract; 2 to 3 times)
+0 Usage: tar ACTION [OPTION]...
 
 Actions:
   -t, --list     List it.
@@ -361,6 +357,39 @@ Options:
 
 Checks:
       --test     Test it.
+)");
+}
+
+TEST(TypedHelp, TellsWhatHoldsForAnOptionInOneOrder) {
+    tarv::Program program("tar", nullptr, "");
+    const auto extract = program.action("extract,x", "Extract it.");
+    const auto keep = program.flag("keep", "Keep it.");
+    program.positional<std::vector<int>>("part", "Which.")
+        .env("TARV_TEST_PART")
+        .needs(keep)
+        .check("must be even", [](int part) { return part % 2 == 0; })
+        .range(1, 9)
+        .oneOf(2, 4)
+        .times(0, 3)
+        .goesWith(extract);
+    program.option("depth", "How deep.", 4)
+        .deprecated("--part")
+        .env("TARV_TEST_DEPTH")
+        .oneOf(2, 4)
+        .goesWith(extract);
+    EXPECT_EQ(helpAt(program, "200", {"--help"}), R"(
+0 Usage: tar ACTION [OPTION]... [PART]...
+
+Arguments:
+  [PART]...           Which. (with --extract; at most 3 times; one of 2, 4; from 1 to 9; must be even; needs --keep; environment: TARV_TEST_PART)
+
+Actions:
+  -x, --extract       Extract it.
+
+Options:
+      --keep          Keep it.
+      --depth=NUMBER  How deep. (with --extract; one of 2, 4; default: 4; environment: TARV_TEST_DEPTH; deprecated, use --part)
+  -h, --help          Show this help.
 )");
 }
 
