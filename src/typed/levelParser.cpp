@@ -4,7 +4,8 @@ namespace tarv_3_3::typed::engine {
 
 namespace {
 
-constexpr int levelFlags = flagRejectUnknown | flagDashIsNotPositional | flagPlainArePositional | flagNoLists;
+// The others are for positional arguments, which these parsers have none of.
+constexpr int levelFlags = flagRejectUnknown | flagNoLists;
 
 constexpr char hiddenTopic[] = "tarv_hidden";
 
