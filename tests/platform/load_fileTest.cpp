@@ -47,6 +47,24 @@ TEST(LoadFile, ReadsFilesOfAnySize) {
     }
 }
 
+// The lowest one that is free.
+int nextDescriptor() {
+    const int descriptor = open("/dev/null", O_RDONLY | O_CLOEXEC);
+    close(descriptor);
+    return descriptor;
+}
+
+TEST(LoadFile, LeavesNoDescriptorOpen) {
+    const TemporaryDirectory directory;
+    const int before = nextDescriptor();
+    ASSERT_GE(before, 0);
+    std::string contents;
+    EXPECT_TRUE(load_file(directory.write("file", "text"), contents));
+    EXPECT_EQ(nextDescriptor(), before);
+    EXPECT_FALSE(load_file(directory.pathOf("."), contents));
+    EXPECT_EQ(nextDescriptor(), before);
+}
+
 TEST(LoadFile, FollowsASymbolicLink) {
     const TemporaryDirectory directory;
     std::filesystem::create_symlink(directory.write("file", "text"), directory.pathOf("link"));
