@@ -105,4 +105,15 @@ TEST(TypedRules, ARuleOfAVerbHoldsForThatVerb) {
               "2 p: one of the options '--color' or '--plain' is required\nTry 'p log --help'.\n");
 }
 
+TEST(TypedRules, ARuleOfAProgramHoldsForItsVerbs) {
+    tarv::Program program("p");
+    const auto color = program.flag("color", "");
+    const auto plain = program.flag("plain", "");
+    program.atMostOne(color, plain);
+    program.verb("log", "").does([] {});
+    EXPECT_EQ(parseLine(program, {"log", "--color"}), "ok");
+    EXPECT_EQ(parseLine(program, {"log", "--color", "--plain"}),
+              "2 p: options '--color' and '--plain' exclude each other\nTry 'p log --help'.\n");
+}
+
 } // namespace
